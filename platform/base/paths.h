@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace platform {
+
+/// The directory in which the console keeps its records and files: the environment variable ALERTING_DATA,
+/// else "$XDG_DATA_HOME/alerting", else "$HOME/.local/share/alerting" (XDG Base Directory Specification),
+/// else "./alerting-data". Read anew on each call; the directory itself may not exist.
+std::string DataDirectory();
+
+/// Writes `bytes` to a temporary file beside `path`, flushes it to the disk and renames it into place, so
+/// that a reader sees either the old file or the whole new one. The file gets `mode`. False, and the old file
+/// untouched, when any step fails.
+bool WriteFileAtomically(const std::string& path, const std::string& bytes, unsigned mode);
+
+/// The whole file, or false when it cannot be read.
+bool ReadWholeFile(const std::string& path, std::string& bytes);
+
+/// Makes the directory and its parents (mode 0700). True when it is there afterwards.
+bool MakeDirectories(const std::string& path);
+
+}  // namespace platform
