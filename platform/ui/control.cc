@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/control.h"
+
+#include <utility>
+
+#include "platform/ui/form.h"
+
+namespace platform::ui {
+
+Control::Control(Form& form, int id, std::string label) : Window(&form, id, std::move(label)), form_(form) {
+  form_.AddControl(*this);
+}
+
+Control::~Control() { form_.RemoveControl(*this); }
+
+bool Control::HasFocus() const { return form_.FocusedControl() == this; }
+
+void Control::SetFocus() { form_.MoveFocus(this); }
+
+void Control::ChangedByPerson() {
+  if (on_change_) on_change_();
+  form_.OnPersonChange(*this);
+}
+
+void Control::OnReachChanged() {
+  if (!WithinReach() && HasFocus()) form_.MoveFocusOn();
+}
+
+void Button::SetDefault(bool is_default) {
+  if (is_default) {
+    Button* other = OwnerForm().DefaultButton();
+    if (other != nullptr && other != this) other->SetDefault(false);
+  }
+  is_default_ = is_default;
+  Notify(Change::kStyle);
+}
+
+void Button::OnClick() {
+  if (WithinReach() && on_click_) on_click_();
+}
+
+void CheckBox::SetChecked(bool checked) {
+  checked_ = checked;
+  Notify(Change::kCurrent);
+}
+
+void CheckBox::OnClick() {
+  if (!WithinReach()) return;
+  SetChecked(!checked_);
+  ChangedByPerson();
+}
+
+RadioGroup::RadioGroup(Form& form, int id, std::string label, std::vector<std::string> options)
+    : Control(form, id, std::move(label)), options_(std::move(options)) {}
+
+void RadioGroup::SetIndex(int index) {
+  index_ = index >= 0 && index < static_cast<int>(options_.size()) ? index : -1;
+  Notify(Change::kCurrent);
+}
+
+void RadioGroup::OnChoose(int index) {
+  if (!WithinReach() || index < 0 || index >= static_cast<int>(options_.size())) return;
+  SetIndex(index);
+  ChangedByPerson();
+}
+
+}  // namespace platform::ui

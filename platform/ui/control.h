@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/ui/window.h"
+
+namespace platform::ui {
+
+class Form;
+
+/// Keys that a control may hear of besides characters.
+enum class Key { kLeft, kRight, kUp, kDown, kHome, kEnd, kPageUp, kPageDown, kDelete, kSpace, kTab, kEnter, kEscape, kF1 };
+
+/// A control of a form. Constructing it adds it to the form; the order of construction is the tab order. Its
+/// label belongs to it: hiding or disabling the control does the same to the label.
+///
+/// Changes that the program makes report nothing; changes that a person makes run the control's change handler
+/// and then the form's OnPersonChange.
+class Control : public Window {
+ public:
+  Control(Form& form, int id, std::string label);
+  ~Control() override;
+
+  Form& OwnerForm() const { return form_; }
+  /// False for static texts, which never take the focus.
+  virtual bool TakesFocus() const { return true; }
+  bool HasFocus() const;
+  void SetFocus() override;
+
+  /// Runs after a person changed the control's value (text, check, choice, row).
+  void SetOnChange(std::function<void()> handler) { on_change_ = std::move(handler); }
+
+  /// The focus came or went, by whatever way. Overriders call the base.
+  virtual void OnSetFocus() {}
+  virtual void OnKillFocus() {}
+  /// A key was pressed (before the control acts) or released (after it acted).
+  virtual void OnKeyDown(Key /*key*/) {}
+  virtual void OnKeyUp(Key /*key*/) {}
+
+ protected:
+  /// False while it is hidden or disabled: what a person does there has no effect.
+  bool WithinReach() const { return Enabled() && Visible(); }
+  /// Reports a person's change.
+  void ChangedByPerson();
+  /// A control that goes out of reach passes the focus on.
+  void OnReachChanged() override;
+
+ private:
+  friend class Form;
+
+  Form& form_;
+  std::function<void()> on_change_;
+};
+
+/// A text that only stands there; a hint, a note, a label that changes.
+class StaticText : public Control {
+ public:
+  StaticText(Form& form, int id, std::string text) : Control(form, id, std::move(text)) {}
+  bool TakesFocus() const override { return false; }
+};
+
+/// A push button. `is_default`: pressed by Enter.
+class Button : public Control {
+ public:
+  Button(Form& form, int id, std::string label) : Control(form, id, std::move(label)) {}
+  void SetOnClick(std::function<void()> handler) { on_click_ = std::move(handler); }
+  bool IsDefault() const { return is_default_; }
+  /// Makes this the form's default button in place of any other.
+  void SetDefault(bool is_default);
+  /// A person pressed it; ignored while it is disabled or hidden.
+  virtual void OnClick();
+
+ private:
+  std::function<void()> on_click_;
+  bool is_default_ = false;
+};
+
+class CheckBox : public Control {
+ public:
+  CheckBox(Form& form, int id, std::string label) : Control(form, id, std::move(label)) {}
+  bool Checked() const { return checked_; }
+  void SetChecked(bool checked);
+  /// A person clicked it: toggles, then reports.
+  void OnClick();
+
+ private:
+  bool checked_ = false;
+};
+
+/// A group of radio buttons; index -1 when none is chosen. The label is the group's caption.
+class RadioGroup : public Control {
+ public:
+  RadioGroup(Form& form, int id, std::string label, std::vector<std::string> options);
+  const std::vector<std::string>& Options() const { return options_; }
+  int Index() const { return index_; }
+  /// -1 or a valid index; anything else counts as -1.
+  void SetIndex(int index);
+  /// A person clicked option `index`; reports also when it was chosen already, as clicks do.
+  void OnChoose(int index);
+
+ private:
+  std::vector<std::string> options_;
+  int index_ = -1;
+};
+
+}  // namespace platform::ui

@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ui/data_exchange.h"
+
+#include <charconv>
+#include <optional>
+#include <string_view>
+
+#include "platform/ui/edit.h"
+#include "platform/ui/form.h"
+#include "platform/ui/lists.h"
+#include "platform/ui/message.h"
+
+namespace platform::ui {
+namespace {
+
+std::optional<std::uint32_t> ParseNumber(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return std::nullopt;
+  text = text.substr(first, text.find_last_not_of(' ') - first + 1);
+  std::uint32_t value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return value;
+}
+
+}  // namespace
+
+void DataExchange::Text(Edit& edit, std::string& value) {
+  if (failed_) return;
+  if (save_) {
+    value = edit.Text();
+  } else {
+    edit.SetText(value);
+  }
+}
+
+void DataExchange::Text(ComboBox& combo, std::string& value) {
+  if (failed_) return;
+  if (save_) {
+    value = combo.Text();
+  } else if (combo.Editable()) {
+    combo.SetText(value);
+  } else {
+    combo.Select(combo.FindText(value));
+  }
+}
+
+void DataExchange::Check(CheckBox& box, bool& value) {
+  if (failed_) return;
+  if (save_) {
+    value = box.Checked();
+  } else {
+    box.SetChecked(value);
+  }
+}
+
+void DataExchange::Radio(RadioGroup& group, int& index) {
+  if (failed_) return;
+  if (save_) {
+    index = group.Index();
+  } else {
+    group.SetIndex(index);
+  }
+}
+
+void DataExchange::Integer(Edit& edit, std::uint32_t& value, std::uint32_t lower, std::uint32_t upper) {
+  if (failed_) return;
+  if (!save_) return edit.SetText(std::to_string(value));
+  const std::optional<std::uint32_t> number = ParseNumber(edit.Text());
+  if (number && *number >= lower && *number <= upper) {
+    value = *number;
+    return;
+  }
+  failed_ = true;
+  MessageBox(
+      "Please enter an integer between " + std::to_string(lower) + " and " + std::to_string(upper) + ".",
+      Buttons::kOk, MessageIcon::kWarning, &form_);
+  edit.SetFocus();
+  edit.SetSelection(0, edit.Text().size());
+}
+
+}  // namespace platform::ui

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace platform::ui {
+
+class CheckBox;
+class ComboBox;
+class Edit;
+class Form;
+class RadioGroup;
+
+/// Binds members to controls, both ways. After a refused value nothing more is exchanged.
+class DataExchange {
+ public:
+  DataExchange(Form& form, bool save) : form_(form), save_(save) {}
+
+  bool Saving() const { return save_; }
+  bool Failed() const { return failed_; }
+
+  void Text(Edit& edit, std::string& value);
+  void Text(ComboBox& combo, std::string& value);
+  void Check(CheckBox& box, bool& value);
+  void Radio(RadioGroup& group, int& index);
+  /// An integer from `lower` to `upper`. Anything else shows "Please enter an integer between %1 and %2." with
+  /// the bounds put in, moves the focus to the field, selects its text, and fails.
+  void Integer(Edit& edit, std::uint32_t& value, std::uint32_t lower, std::uint32_t upper);
+
+ private:
+  Form& form_;
+  bool save_;
+  bool failed_ = false;
+};
+
+}  // namespace platform::ui
