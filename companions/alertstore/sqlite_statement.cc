@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: MIT
+#include "companions/alertstore/sqlite_statement.h"
+
+namespace alertstore {
+
+Status StatusOfResult(int result) {
+  switch (result & 0xFF) {
+    case SQLITE_OK:
+    case SQLITE_ROW:
+    case SQLITE_DONE:
+      return kOk;
+    case SQLITE_CONSTRAINT:
+      return kNotUnique;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+      return kLockTimeout;
+    case SQLITE_NOMEM:
+      return kNoMemory;
+    case SQLITE_FULL:
+      return kDiskFull;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+    case SQLITE_ERROR:  // a statement that does not fit the tables of a foreign database
+      return kCorrupt;
+    default:
+      return kIoError;
+  }
+}
+
+Status Statement::Start(sqlite3* connection) {
+  if (statement_ != nullptr) return kOk;
+  return StatusOfResult(sqlite3_prepare_v3(connection, sql_.c_str(), static_cast<int>(sql_.size()) + 1,
+                                           SQLITE_PREPARE_PERSISTENT, &statement_, nullptr));
+}
+
+void Statement::Bind(int parameter, std::string_view bytes) {
+  // A null pointer would bind NULL, which equals nothing, in place of an empty key.
+  sqlite3_bind_blob64(statement_, parameter, bytes.empty() ? "" : bytes.data(), bytes.size(), SQLITE_STATIC);
+}
+
+void Statement::Bind(int parameter, std::int64_t number) {
+  sqlite3_bind_int64(statement_, parameter, number);
+}
+
+Status Statement::Execute() {
+  int result = Step();
+  while (result == SQLITE_ROW) result = Step();
+  sqlite3_reset(statement_);
+  return StatusOfResult(result);
+}
+
+std::string_view Statement::Bytes(int column) const {
+  // The order matters: asking for the blob first keeps it a blob.
+  const void* bytes = sqlite3_column_blob(statement_, column);
+  const int size = sqlite3_column_bytes(statement_, column);
+  if (bytes == nullptr) return {};
+  return {static_cast<const char*>(bytes), static_cast<std::size_t>(size)};
+}
+
+}  // namespace alertstore

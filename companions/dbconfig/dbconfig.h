@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+namespace dbconfig {
+
+/// Knows where the console keeps its data, and turns the stored alert configuration into the file that the
+/// alert managers read.
+class DbConfig {
+ public:
+  virtual ~DbConfig() = default;
+
+  /// Fills `buffer` with the console's data directory, zero-terminated. A path longer than the buffer is cut
+  /// on a character boundary; a buffer of no bytes is left alone.
+  virtual void GetQEVDataDirectory(char* buffer, std::size_t size) = 0;
+
+  /// Rewrites the alert managers' configuration file from the current stores. `zero` is reserved. 0 when the
+  /// file was written; any other value when the stores cannot be read or the file cannot be written, and then
+  /// the file of before is still in place.
+  virtual std::uint32_t CreateAlertServerConfigFile(std::uint32_t zero) = 0;
+
+  /// Non-zero while no conversion is under way in this process.
+  virtual std::uint32_t IsConversionComplete() = 0;
+};
+
+/// The real component: the file is `alert-managers.json` in the data directory (docs/configuration-file.md).
+std::unique_ptr<DbConfig> MakeDbConfig();
+
+/// The name of the configuration file within the data directory.
+inline constexpr char kConfigFileName[] = "alert-managers.json";
+
+/// What CreateAlertServerConfigFile answers when it fails.
+inline constexpr std::uint32_t kStoresUnreadable = 1;
+inline constexpr std::uint32_t kFileUnwritable = 2;
+
+}  // namespace dbconfig
