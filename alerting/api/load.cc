@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/api/load.h"
+
+#include "alerting/api/service_ui_table.h"
+#include "alerting/frame/app.h"
+#include "alerting/frame/strings.h"
+#include "alerting/managers/enabled_services.h"
+#include "alerting/responses/keywords.h"
+#include "alerting/services/service_list.h"
+#include "alerting/services/types.h"
+
+namespace alerting {
+
+bool Load() {
+  // The process-wide objects first, so that they outlive whoever calls Unload at the end of the process.
+  TheStores();
+  TheServices();
+  TheEnabledServices();
+  BuildServiceTypeNames();
+  BuildKeywordTable(TheModule());
+  InstallServiceUiTable();
+  return TheApp().InitInstance([] { TheServices().RemoveAll(); });
+}
+
+void Unload() {
+  TheApp().ExitInstance();
+  FreeServiceTypeNames();
+}
+
+}  // namespace alerting

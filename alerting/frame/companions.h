@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "companions/agentui/agentui.h"
+#include "companions/ctxhelp/ctxhelp.h"
+#include "companions/dbconfig/dbconfig.h"
+
+namespace alerting {
+
+/// The console's other components as the library reaches them; the one place where tests put others in their
+/// stead. None is owned.
+struct Companions {
+  dbconfig::DbConfig* dbconfig;
+  agentui::AgentUi* agentui;
+  ctxhelp::ContextHelp* ctxhelp;
+};
+
+/// The components in use: the real ones until SetCompanions put others there.
+const Companions& TheCompanions();
+
+/// Puts others in their stead and answers those in use before. A null member stands for the real one.
+Companions SetCompanions(Companions companions);
+
+}  // namespace alerting

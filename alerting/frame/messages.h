@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+
+#include "alerting/frame/strings.h"
+#include "platform/ui/message.h"
+
+namespace alerting {
+
+/// Shows a text of the string table in a message box with OK and the library's title.
+void ShowMessage(int string_id, platform::ui::Window* parent = nullptr);
+
+/// The same, for a failing operation that answers false: `return Fail(kIds...)`.
+bool Fail(int string_id, platform::ui::Window* parent = nullptr);
+
+/// Shows a record-store status as "%08x is the error code.".
+void ShowErrorCode(std::uint32_t status);
+
+}  // namespace alerting

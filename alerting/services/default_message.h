@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "alerting/services/ntfy_service.h"
+
+namespace alerting {
+
+/// Identifiers out of a record's keyword slots.
+KeywordIds ReadKeywordSlots(const KeywordSlot (&slots)[kKeywordSlots]);
+/// Clears each slot, then fills those with an identifier: display text and placeholder come from the keyword
+/// table.
+void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&slots)[kKeywordSlots]);
+/// Identifiers as a response stores them, the low byte of each.
+void WriteResponseKeywords(const KeywordIds& ids, std::uint8_t (&bytes)[kMaxKeywords]);
+
+/// Reads the default message that a record holds; a type without subject or priority gives none.
+template <class Record>
+void ReadDefaultMessage(const Record& record, DefaultMessage& message) {
+  message.body = record.defaultBody.View();
+  message.bodyKeywords = ReadKeywordSlots(record.bodyKeywords);
+  if constexpr (requires { record.defaultSubject; }) {
+    message.subject = record.defaultSubject.View();
+    message.priority = record.defaultPriority;
+    message.subjectKeywords = ReadKeywordSlots(record.subjectKeywords);
+  }
+}
+
+/// Puts a stored text and its identifiers into a field and its slots, cut together where the field is too
+/// short.
+template <class Text>
+void WriteStoredText(const std::string& text, KeywordIds ids, Text& field,
+                     KeywordSlot (&slots)[kKeywordSlots]) {
+  field.Assign(FitStoredForm(text, ids, Text::kMaxLength));
+  WriteKeywordSlots(ids, slots);
+}
+
+template <class Record>
+void WriteDefaultMessage(const DefaultMessage& message, Record& record) {
+  WriteStoredText(message.body, message.bodyKeywords, record.defaultBody, record.bodyKeywords);
+  if constexpr (requires { record.defaultSubject; }) {
+    WriteStoredText(message.subject, message.subjectKeywords, record.defaultSubject, record.subjectKeywords);
+    record.defaultPriority = message.priority;
+  }
+}
+
+/// Puts message and keywords of a default message into a response.
+void InitResponseMessage(const DefaultMessage& message, ALERTRESPREC& response);
+/// The same for the subject.
+void InitResponseSubject(const DefaultMessage& message, ALERTRESPREC& response);
+
+}  // namespace alerting
