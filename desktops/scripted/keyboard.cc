@@ -67,10 +67,7 @@ void ActOnFormKey(Form& form, Key key) {
 }
 
 void TabOn(Form& form) {
-  Control* before = form.FocusedControl();
-  form.MoveFocusOn();
-  Control* now = form.FocusedControl();
-  if (now != nullptr && now != before) TabInto(form, *now);
+  if (Control* next = form.NextInTabOrder()) TabInto(form, *next);
 }
 
 void TypeIntoCombo(ComboBox& combo, char32_t c) {
@@ -105,9 +102,10 @@ bool PressOptionKey(Form& form, Control& control, char key) {
 }  // namespace
 
 void TabInto(Form& form, Control& control) {
-  form.MoveFocus(&control);
+  if (control.HasFocus()) return;
   auto* edit = dynamic_cast<Edit*>(&control);
   if (edit != nullptr && !edit->MultiLine()) edit->OnSelectionMoved(0, edit->Text().size(), false);
+  form.MoveFocus(&control);
 }
 
 void PressKey(Form& form, Key key) {

@@ -16,7 +16,8 @@ void PressKey(platform::ui::Form& form, platform::ui::Key key);
 /// that control takes no text.
 bool TypeCharacter(platform::ui::Form& form, char32_t c);
 
-/// Moves the focus as Tab does: a one-line field has its whole text selected then.
+/// Moves the focus as Tab does: a one-line field has its whole text selected, unless it brings its own
+/// selection back as it gains the focus.
 void TabInto(platform::ui::Form& form, platform::ui::Control& control);
 
 /// Presses Alt and the key; false when no control within reach has that access key.

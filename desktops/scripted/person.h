@@ -27,7 +27,8 @@ class Person {
 
   /// Tabs into the field, which selects what is there, and types: replaces the field's text.
   virtual void Type(const std::string& label, const std::string& text) = 0;
-  /// Types into the control with the focus, at the caret. "\b" is backspace, "\n" Enter.
+  /// Types into the control with the focus, at the caret. "\b" is backspace, "\n" Enter, any other
+  /// control character Ctrl with its letter ("\x03" Ctrl+C).
   virtual void TypeHere(const std::string& text) = 0;
   /// Presses and releases a key in the control with the focus.
   virtual void Press(platform::ui::Key key) = 0;
@@ -35,9 +36,9 @@ class Person {
   virtual void ClickInText(const std::string& label, std::size_t position) = 0;
   /// Drags the mouse over [start, end) of the text.
   virtual void SelectText(const std::string& label, std::size_t start, std::size_t end) = 0;
-  /// Puts `text` on the clipboard and presses Ctrl+V in the field.
+  /// Puts `text` on the clipboard, moves the focus to the field if it is not there, and presses Ctrl+V.
   virtual void Paste(const std::string& label, const std::string& text) = 0;
-  /// Moves the focus to the control, as Tab or a click does.
+  /// Moves the focus to the control, as Tab does: a one-line field then has its whole text selected.
   virtual void Focus(const std::string& label) = 0;
 
   /// Presses a button, or a sheet's OK, Cancel, Apply, "< Back", "Next >", Finish.

@@ -125,7 +125,8 @@ void ScriptedPerson::Paste(const std::string& label, const std::string& text) {
   auto& control = Touch<Control>(label);
   if (!TakesText(control)) Fail("\"" + label + "\" takes no text");
   desktop_.SetClipboardText(text);
-  Click(control, [&] {
+  Focus(label);
+  Do([&] {
     if (auto* edit = dynamic_cast<Edit*>(&control)) {
       edit->OnChar(platform::ui::kCharPaste);
     } else {
@@ -138,7 +139,7 @@ void ScriptedPerson::Paste(const std::string& label, const std::string& text) {
 void ScriptedPerson::Focus(const std::string& label) {
   auto& control = Touch<Control>(label);
   if (!control.TakesFocus()) Fail("\"" + label + "\" does not take the focus");
-  Do([&] { control.SetFocus(); });
+  Do([&] { TabInto(Shown(), control); });
 }
 
 void ScriptedPerson::Press(const std::string& button) {

@@ -11,8 +11,8 @@ namespace platform {
 std::string DataDirectory();
 
 /// Writes `bytes` to a temporary file beside `path`, flushes it to the disk and renames it into place, so
-/// that a reader sees either the old file or the whole new one. The file gets `mode`. False, and the old file
-/// untouched, when any step fails.
+/// that a reader sees either the old file or the whole new one. The file gets `mode`. False when any step
+/// fails; the old file is then untouched, unless the last step, flushing the directory, failed.
 bool WriteFileAtomically(const std::string& path, const std::string& bytes, unsigned mode);
 
 /// The whole file, or false when it cannot be read.

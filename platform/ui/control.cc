@@ -23,7 +23,7 @@ void Control::ChangedByPerson() {
 }
 
 void Control::OnReachChanged() {
-  if (!WithinReach() && HasFocus()) form_.MoveFocusOn();
+  if (!WithinReach() && HasFocus()) form_.MoveFocus(form_.NextInTabOrder());
 }
 
 void Button::SetDefault(bool is_default) {

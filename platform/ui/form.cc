@@ -11,7 +11,7 @@ void Form::Create() {
   if (created_) return;
   created_ = true;
   OnInitDialog();
-  if (focused_ == nullptr) MoveFocusOn();
+  if (focused_ == nullptr) MoveFocus(NextInTabOrder());
 }
 
 void Form::Destroy() {
@@ -40,13 +40,12 @@ void Form::MoveFocus(Control* control) {
   control->Notify(Change::kFocus);
 }
 
-void Form::MoveFocusOn(bool backwards) {
+Control* Form::NextInTabOrder() const {
   std::vector<Control*> order = controls_;
-  if (backwards) std::ranges::reverse(order);
   const auto at = std::ranges::find(order, focused_);
   if (at != order.end()) std::ranges::rotate(order, at + 1);
   const auto next = std::ranges::find_if(order, [this](const Control* c) { return CanFocus(*c); });
-  MoveFocus(next != order.end() ? *next : nullptr);
+  return next != order.end() ? *next : nullptr;
 }
 
 Button* Form::DefaultButton() const {

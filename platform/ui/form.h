@@ -42,9 +42,9 @@ class Form : public Window {
   /// Moves the focus, by program or person; null takes it away.
   void MoveFocus(Control* control);
 
-  /// The focus goes to the next control in tab order that takes it (the one before for `backwards`), round the
-  /// ends; away, where there is none.
-  void MoveFocusOn(bool backwards = false);
+  /// The control that takes the focus after the one that has it, in tab order and round the end; null where there
+  /// is none.
+  Control* NextInTabOrder() const;
 
   /// The button that Enter presses, or null.
   class Button* DefaultButton() const;

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/sheets/page_smtp_general.h"
+
+#include "alerting/frame/companions.h"
+#include "companions/ctxhelp/topics.h"
+
+namespace alerting {
+namespace {
+
+constexpr int kIdServer = 102;
+constexpr int kIdBrowse = 103;
+constexpr std::size_t kMaxServer = 255;
+
+constexpr ctxhelp::HelpPair kHelp[] = {{ctxhelp::kFormItself, ctxhelp::kTopicSmtpGeneral},
+                                       {CGeneralPage::kIdEnable, ctxhelp::kTopicSmtpEnable},
+                                       {CGeneralPage::kIdTest, ctxhelp::kTopicSmtpTest},
+                                       {kIdServer, ctxhelp::kTopicSmtpServer},
+                                       {kIdBrowse, ctxhelp::kTopicSmtpBrowse},
+                                       {LoginFields::kIdLogin, ctxhelp::kTopicSmtpLogin},
+                                       {LoginFields::kIdPassword, ctxhelp::kTopicSmtpPassword},
+                                       {LoginFields::kIdVerifyPassword, ctxhelp::kTopicSmtpVerifyPassword},
+                                       ctxhelp::kEndOfHelpTable};
+
+}  // namespace
+
+CPropPgSMTPGeneral::CPropPgSMTPGeneral()
+    : CMailGeneralPageOf(kHelp),
+      server_(*this, kIdServer, "&SMTP Server:"),
+      browse_(*this, kIdBrowse, "..."),
+      login_(*this) {
+  SetLayout(MailLayout("SMTP (Simple Message Transfer Protocol) is the standard Internet email service.",
+                       {ui::Row({ui::Field(server_), ui::Bare(browse_)}), ui::Field(login_.login),
+                        ui::Row({ui::Field(login_.password), ui::Field(login_.verify)})}));
+  server_.SetLimit(kMaxServer);
+  Bind(server_, server_name_, &GeneralFields::smtpServer);
+  Bind(login_);
+  login_.Hide();
+  browse_.SetOnClick([this] { OnBrowse(); });
+}
+
+void CPropPgSMTPGeneral::OnBrowse() {
+  UpdateData(true);
+  char chosen[agentui::kAddressBufferSize] = {};
+  TheCompanions().agentui->DisplayIPAddressMRUListDialog(this, chosen);
+  if (chosen[0] == '\0') return;
+  server_name_ = chosen;
+  UpdateData(false);
+  MarkModified();
+}
+
+/// The server heads the list that "..." offers, whether or not the service takes the values.
+bool CPropPgSMTPGeneral::SaveFields() {
+  TheCompanions().agentui->AddIPAddressToMRUList(server_name_.c_str());
+  return CMailGeneralPageOf::SaveFields();
+}
+
+}  // namespace alerting

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/control_adapter.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "desktops/qt/guard.h"
+#include "desktops/qt/keys.h"
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+
+using platform::ui::Change;
+
+QWidget* WidgetOwner::WidgetOf(const platform::ui::Window* window) {
+  if (window == nullptr) return nullptr;
+  auto* owner = dynamic_cast<WidgetOwner*>(window->Observer());
+  return owner != nullptr ? owner->OwnedWidget() : nullptr;
+}
+
+ControlAdapter::ControlAdapter(platform::ui::Control& control, QWidget* widget)
+    : control_(control), widget_(widget) {}
+
+ControlAdapter::~ControlAdapter() { control_.SetObserver(nullptr); }
+
+void ControlAdapter::Start() {
+  control_.SetObserver(this);
+  for (const Change change :
+       {Change::kStyle, Change::kItems, Change::kLabel, Change::kText, Change::kCurrent}) {
+    OnWindowChanged(control_, change);
+  }
+  RefreshShown();
+}
+
+void ControlAdapter::SetLabelWidget(QLabel* label) {
+  label_ = label;
+  label_->setBuddy(FirstFocus());
+  OnWindowChanged(control_, Change::kLabel);
+  RefreshShown();
+}
+
+void ControlAdapter::TakeFocus() {
+  if (!widget_->isAncestorOf(QApplication::focusWidget()) && QApplication::focusWidget() != widget_) {
+    FirstFocus()->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void ControlAdapter::OnWindowChanged(platform::ui::Window&, Change change) {
+  switch (change) {
+    case Change::kLabel:
+      if (label_ != nullptr) label_->setText(ToQt(control_.Label()));
+      FirstFocus()->setAccessibleName(ToQt(platform::ui::PlainLabel(control_.Label())));
+      RefreshLabel();
+      break;
+    case Change::kEnabled:
+    case Change::kVisible:
+      RefreshShown();
+      break;
+    case Change::kFocus:
+      TakeFocus();
+      break;
+    default:
+      Refresh(change);
+  }
+}
+
+bool ControlAdapter::eventFilter(QObject*, QEvent* event) {
+  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
+  const auto key = KeyOf(*static_cast<QKeyEvent*>(event));
+  if (!key) return false;
+  Guarded([&] { event->type() == QEvent::KeyPress ? control_.OnKeyDown(*key) : control_.OnKeyUp(*key); });
+  return false;
+}
+
+void ControlAdapter::RefreshShown() {
+  for (QWidget* widget : {widget_, static_cast<QWidget*>(label_.data())}) {
+    if (widget == nullptr) continue;
+    widget->setEnabled(control_.Enabled());
+    widget->setVisible(control_.Visible());
+  }
+}
+
+}  // namespace desktops::qt

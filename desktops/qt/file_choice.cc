@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/file_choice.h"
+
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLineEdit>
+
+#include "desktops/qt/guard.h"
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+namespace {
+
+// "*.*" stands for all files, also for those without a dot.
+QString FilterOf(const platform::ui::FileFilter& filter) {
+  QStringList patterns = ToQt(filter.patterns).split(';', Qt::SkipEmptyParts);
+  patterns.replaceInStrings(QStringLiteral("*.*"), QStringLiteral("*"));
+  return ToQt(filter.description) + " (" + patterns.join(' ') + ')';
+}
+
+}  // namespace
+
+FileChoice::FileChoice(platform::ui::FileDialog& dialog, QWidget* parent)
+    : QFileDialog(parent, ToQt(dialog.title)), dialog_(dialog) {
+  setOption(DontUseNativeDialog);
+  setOption(HideNameFilterDetails, false);
+  setFileMode(dialog.must_exist ? ExistingFile : AnyFile);
+  SetFilters();
+  SetStart();
+  if (dialog.HasPreview()) AddPreview();
+  connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) { Highlight(path); });
+  if (auto* name = findChild<QLineEdit*>("fileNameEdit")) {
+    connect(name, &QLineEdit::textEdited, this,
+            [this](const QString& text) { Highlight(directory().absoluteFilePath(text)); });
+  }
+}
+
+void FileChoice::SetFilters() {
+  QStringList filters;
+  for (const platform::ui::FileFilter& filter : dialog_.filters) filters << FilterOf(filter);
+  if (!filters.isEmpty()) setNameFilters(filters);
+  const QString extension = ToQt(dialog_.default_extension);
+  setDefaultSuffix(extension.mid(extension.lastIndexOf('.') + 1));
+}
+
+// The file to begin with stands in the name field; its folder is the one shown.
+void FileChoice::SetStart() {
+  if (!dialog_.initial_directory.empty()) setDirectory(ToQt(dialog_.initial_directory));
+  if (dialog_.initial_path.empty()) return;
+  const QFileInfo file(ToQt(dialog_.initial_path));
+  if (file.isAbsolute() || dialog_.initial_directory.empty()) setDirectory(file.absolutePath());
+  selectFile(file.fileName());
+}
+
+void FileChoice::AddPreview() {
+  preview_ = std::make_unique<FormView>(dialog_, this);
+  preview_->LeaveEndingToWindow();
+  preview_->setFixedSize(dialog_.PreviewWidth(), dialog_.PreviewHeight());
+  for (const platform::ui::PlacedControl& placed : dialog_.Preview()) {
+    QWidget* widget = preview_->Add(*placed.control).OwnedWidget();
+    widget->setGeometry(placed.x, placed.y, placed.width, placed.height);
+  }
+  preview_->Start();
+  if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+    grid->addWidget(preview_.get(), grid->rowCount(), 0, 1, grid->columnCount());
+  }
+}
+
+void FileChoice::Highlight(const QString& path) {
+  Guarded([&] { dialog_.SetHighlighted(FromQt(path)); });
+}
+
+}  // namespace desktops::qt

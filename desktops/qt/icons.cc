@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/icons.h"
+
+#include <QFile>
+#include <span>
+
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+
+using platform::ui::Bitmap;
+
+QImage ToImage(const Bitmap& picture) {
+  if (picture.Width() == 0 || picture.Height() == 0) return {};
+  const auto* pixels = reinterpret_cast<const uchar*>(picture.Data());
+  return QImage(pixels, picture.Width(), picture.Height(), QImage::Format_ARGB32).copy();
+}
+
+Bitmap ToBitmap(const QImage& image) {
+  const QImage pixels = image.convertToFormat(QImage::Format_ARGB32);
+  Bitmap picture(pixels.width(), pixels.height());
+  for (int y = 0; y < pixels.height(); ++y) {
+    for (int x = 0; x < pixels.width(); ++x) picture.SetPixel(x, y, pixels.pixel(x, y));
+  }
+  return picture;
+}
+
+std::vector<Bitmap> IconsOfFile(const std::string& path, std::size_t limit) {
+  QFile file(ToQt(path));
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.readAll();
+  const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
+  std::vector<Bitmap> icons = platform::ui::DecodeIco({data, static_cast<std::size_t>(bytes.size())});
+  if (icons.empty()) {
+    const QImage image = QImage::fromData(bytes);
+    // A photograph is no icon; a file dialog that browses over one would show a piece of it.
+    constexpr int kLargestIcon = 256;
+    if (!image.isNull() && image.width() <= kLargestIcon && image.height() <= kLargestIcon) {
+      icons.push_back(ToBitmap(image));
+    }
+  }
+  if (icons.size() > limit) icons.resize(limit);
+  return icons;
+}
+
+}  // namespace desktops::qt

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/list_adapter.h"
+
+namespace desktops::qt {
+
+using platform::ui::Change;
+
+void ListAdapter::Refresh(Change change) {
+  if (change == Change::kCurrent && !stale_) ShowCurrent();
+  if (change != Change::kItems || stale_) return;
+  stale_ = true;
+  if (!filled_) return Refill();
+  QMetaObject::invokeMethod(
+      this, [this] { Refill(); }, Qt::QueuedConnection);
+}
+
+void ListAdapter::Refill() {
+  filled_ = true;
+  stale_ = false;
+  Fill();
+  ShowCurrent();
+}
+
+}  // namespace desktops::qt

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/list_box_adapter.h"
+
+#include <QHeaderView>
+#include <algorithm>
+
+#include "desktops/qt/guard.h"
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+
+namespace {
+constexpr int kColumnGap = 16;
+}
+
+ListBoxAdapter::ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent)
+    : ListAdapter(model, new QTreeWidget(parent)),
+      model_(model),
+      list_(static_cast<QTreeWidget*>(OwnedWidget())) {
+  WatchKeys(list_);
+  list_->setHeaderHidden(true);
+  list_->setRootIsDecorated(false);
+  list_->setUniformRowHeights(true);
+  list_->setTabKeyNavigation(false);
+  list_->setMinimumHeight(list_->fontMetrics().lineSpacing() * 6);
+  connect(list_, &QTreeWidget::itemSelectionChanged, this, [this] { OnSelectionChanged(); });
+  connect(list_, &QTreeWidget::itemDoubleClicked, this, [this](QTreeWidgetItem* item) {
+    Guarded([&] { model_.OnDoubleClick(list_->indexOfTopLevelItem(item)); });
+  });
+}
+
+void ListBoxAdapter::Fill() {
+  const QSignalBlocker quiet(list_);
+  list_->clear();
+  int columns = 1;
+  for (int i = 0; i < model_.Count(); ++i) {
+    const QString text = ToQt(model_.ItemText(i));
+    const QStringList cells = model_.TabStops() ? text.split('\t') : QStringList{text};
+    columns = std::max(columns, static_cast<int>(cells.size()));
+    list_->addTopLevelItem(new QTreeWidgetItem(cells));
+  }
+  list_->setColumnCount(columns);
+  for (int i = 0; i < columns; ++i) {
+    list_->resizeColumnToContents(i);
+    list_->setColumnWidth(i, list_->columnWidth(i) + kColumnGap);
+  }
+}
+
+void ListBoxAdapter::ShowCurrent() {
+  const QSignalBlocker quiet(list_);
+  QTreeWidgetItem* item = list_->topLevelItem(model_.Current());
+  list_->clearSelection();
+  list_->setCurrentItem(item);
+  if (item != nullptr) list_->scrollToItem(item);
+}
+
+// Ctrl and a click would leave nothing chosen, which a person cannot ask for: the model's choice stands then.
+void ListBoxAdapter::OnSelectionChanged() {
+  const QList<QTreeWidgetItem*> selected = list_->selectedItems();
+  if (!selected.isEmpty()) {
+    Guarded([&] { model_.OnChoose(list_->indexOfTopLevelItem(selected.first())); });
+  } else {
+    ShowCurrent();
+  }
+}
+
+}  // namespace desktops::qt

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QTreeWidget>
+
+#include "desktops/qt/list_adapter.h"
+#include "platform/ui/lists.h"
+
+namespace desktops::qt {
+
+/// A list box; where its texts have tab stops, each part is a column as wide as its widest text.
+class ListBoxAdapter : public ListAdapter {
+ public:
+  ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent);
+
+ private:
+  void Fill() override;
+  void ShowCurrent() override;
+  void OnSelectionChanged();
+
+  platform::ui::ListBox& model_;
+  QTreeWidget* list_;
+};
+
+}  // namespace desktops::qt

@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/modal_window.h"
+
+#include <QCloseEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktops/qt/guard.h"
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+
+using platform::ui::Change;
+
+ModalWindow::ModalWindow(platform::ui::Modal& modal, QWidget* parent) : QDialog(parent), modal_(modal) {
+  setWindowTitle(ToQt(ShownWindow().Label()));
+  setEnabled(ShownWindow().Enabled());
+  ShownWindow().SetObserver(this);
+}
+
+ModalWindow::~ModalWindow() { ShownWindow().SetObserver(nullptr); }
+
+void ModalWindow::OnWindowChanged(platform::ui::Window& window, Change change) {
+  if (change == Change::kLabel) setWindowTitle(ToQt(window.Label()));
+  if (change == Change::kEnabled) setEnabled(window.Enabled());
+  if (change == Change::kEnded) done(modal_.Result());
+}
+
+void ModalWindow::reject() {
+  Guarded([&] { modal_.OnCloseRequest(); });
+}
+
+void ModalWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(modal_.Ended());
+  if (!modal_.Ended()) reject();
+}
+
+// Keys that reach the window itself come from a button or a tab of its own; Enter presses such a button.
+void ModalWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape) {
+    reject();
+  } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+  } else {
+    event->ignore();
+  }
+}
+
+DialogWindow::DialogWindow(platform::ui::Dialog& dialog, QWidget* parent)
+    : ModalWindow(dialog, parent), view_(FormView::Laid(dialog, this)) {
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins({});
+  whole->addWidget(view_.get());
+}
+
+}  // namespace desktops::qt

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include "desktops/qt/form_view.h"
+#include "platform/ui/dialog.h"
+
+namespace desktops::qt {
+
+/// A real window around a modal one. It closes when the modal one has ended, and only then: its close box,
+/// Escape and Enter are requests that the model decides about.
+class ModalWindow : public QDialog, public platform::ui::WindowObserver, public WidgetOwner {
+ public:
+  ModalWindow(platform::ui::Modal& modal, QWidget* parent);
+  ~ModalWindow() override;
+
+  platform::ui::Modal& ShownModal() const { return modal_; }
+  QWidget* OwnedWidget() const override { return const_cast<ModalWindow*>(this); }
+  platform::ui::Window& ShownWindow() const override { return modal_.AsWindow(); }
+  void OnWindowChanged(platform::ui::Window& window, platform::ui::Change change) override;
+  /// What QDialog calls to dismiss itself.
+  void reject() override;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  platform::ui::Modal& modal_;
+};
+
+class DialogWindow : public ModalWindow {
+ public:
+  DialogWindow(platform::ui::Dialog& dialog, QWidget* parent);
+
+ private:
+  std::unique_ptr<FormView> view_;
+};
+
+}  // namespace desktops::qt

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/sheet_window.h"
+
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "desktops/qt/guard.h"
+#include "desktops/qt/texts.h"
+
+namespace desktops::qt {
+
+using platform::ui::Change;
+using platform::ui::PropertyPage;
+using platform::ui::PropertySheet;
+using platform::ui::SheetButton;
+
+SheetWindow::SheetWindow(PropertySheet& sheet, QWidget* parent)
+    : ModalWindow(sheet, parent), sheet_(sheet), tabs_(new QTabWidget(this)) {
+  setWindowFlag(Qt::WindowContextHelpButtonHint, sheet.HelpButton());
+  auto* whole = new QVBoxLayout(this);
+  auto* row = new QHBoxLayout;
+  whole->addWidget(tabs_);
+  whole->addLayout(row);
+  AddButtons(*row);
+  AddTabs();
+  ShowPage();
+  ShowButtons();
+}
+
+void SheetWindow::AddButtons(QBoxLayout& row) {
+  row.addStretch();
+  for (const auto& [button, text] :
+       {std::pair{SheetButton::kBack, tr("< &Back")}, std::pair{SheetButton::kNext, tr("&Next >")},
+        std::pair{SheetButton::kFinish, tr("Finish")}, std::pair{SheetButton::kOk, tr("OK")},
+        std::pair{SheetButton::kCancel, tr("Cancel")}, std::pair{SheetButton::kApply, tr("&Apply")}}) {
+    auto* widget = new QPushButton(text, this);
+    widget->setAutoDefault(false);
+    // A press must not take the focus out of the field that a message may be about.
+    widget->setFocusPolicy(Qt::TabFocus);
+    connect(widget, &QPushButton::clicked, this,
+            [this, button = button] { Guarded([&] { sheet_.OnButton(button); }); });
+    row.addWidget(widget);
+    buttons_[button] = widget;
+  }
+  buttons_[SheetButton::kOk]->setDefault(true);
+}
+
+void SheetWindow::AddTabs() {
+  for (const PropertyPage* page : sheet_.Pages()) {
+    auto* place = new QWidget(tabs_);
+    (new QVBoxLayout(place))->setContentsMargins({});
+    tabs_->addTab(place, ToQt(page->Label()));
+  }
+  tabs_->tabBar()->setVisible(!sheet_.IsWizard());
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { OnTabChosen(index); });
+}
+
+void SheetWindow::OnWindowChanged(platform::ui::Window& window, Change change) {
+  if (change == Change::kPages) {
+    ShowPage();
+    ShowButtons();
+  } else {
+    ModalWindow::OnWindowChanged(window, change);
+  }
+}
+
+FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
+  std::unique_ptr<FormView>& view = views_[&page];
+  if (view == nullptr) {
+    QWidget* place = tabs_->widget(index);
+    view = FormView::Laid(page, place);
+    view->SetOnCaption([this, &page, index] { tabs_->setTabText(index, ToQt(page.Label())); });
+    place->layout()->addWidget(view.get());
+    view->show();
+    if (isVisible()) resize(size().expandedTo(sizeHint()));
+  }
+  return *view;
+}
+
+FormView* SheetWindow::ActiveView() const {
+  const auto found = views_.find(sheet_.ActivePage());
+  return found != views_.end() ? found->second.get() : nullptr;
+}
+
+void SheetWindow::ShowPage() {
+  PropertyPage* page = sheet_.ActivePage();
+  if (page == nullptr || !page->Created()) return;
+  const bool is_new = views_.count(page) == 0;
+  FormView& view = ViewOf(*page, sheet_.ActiveIndex());
+  const QSignalBlocker quiet(tabs_);
+  if (tabs_->currentIndex() == sheet_.ActiveIndex() && !is_new) return;
+  tabs_->setCurrentIndex(sheet_.ActiveIndex());
+  view.FocusCurrent();
+}
+
+void SheetWindow::ShowButtons() {
+  for (const auto& [button, widget] : buttons_) {
+    widget->setVisible(sheet_.ButtonVisible(button));
+    widget->setEnabled(sheet_.ButtonEnabled(button));
+  }
+}
+
+// The page in front may refuse to let go, with a message; until that is decided it stays in front.
+void SheetWindow::OnTabChosen(int index) {
+  {
+    const QSignalBlocker quiet(tabs_);
+    tabs_->setCurrentIndex(sheet_.ActiveIndex());
+  }
+  Guarded([&] { sheet_.SetActivePage(index); });
+}
+
+}  // namespace desktops::qt

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QPushButton>
+#include <QTabWidget>
+#include <map>
+
+#include "desktops/qt/modal_window.h"
+#include "platform/ui/property_sheet.h"
+
+namespace desktops::qt {
+
+/// A property sheet with its tabs and buttons, or a wizard, which shows one page without tabs. A page's view
+/// is made when the page is first the active one.
+class SheetWindow : public ModalWindow {
+ public:
+  SheetWindow(platform::ui::PropertySheet& sheet, QWidget* parent);
+
+  void OnWindowChanged(platform::ui::Window& window, platform::ui::Change change) override;
+  /// The view of the active page, or null before the first.
+  FormView* ActiveView() const;
+
+ private:
+  void AddButtons(class QBoxLayout& row);
+  void AddTabs();
+  void ShowPage();
+  void ShowButtons();
+  void OnTabChosen(int index);
+  FormView& ViewOf(platform::ui::PropertyPage& page, int index);
+
+  platform::ui::PropertySheet& sheet_;
+  QTabWidget* tabs_;
+  std::map<platform::ui::SheetButton, QPushButton*> buttons_;
+  std::map<const platform::ui::PropertyPage*, std::unique_ptr<FormView>> views_;
+};
+
+}  // namespace desktops::qt
