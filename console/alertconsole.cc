@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+// The alerting console: a window on the site's notification services.
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+
+#include "console/alertconsole_library.h"
+#include "console/alertconsole_screenshots.h"
+#include "console/alertconsole_window.h"
+#include "desktops/qt/qt_desktop.h"
+
+namespace {
+
+struct Options {
+  std::string data, library, screenshots;
+};
+
+// Pictures need no display to be shown on.
+bool HasDisplay() { return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr; }
+
+int Run(const Options& options) {
+  alertconsole::AlertingLibrary library(alertconsole::AlertingLibrary::PathOf(options.library));
+  if (!options.screenshots.empty()) {
+    return alertconsole::WriteScreenshots(library, QString::fromStdString(options.screenshots));
+  }
+  alertconsole::MainWindow window(library);
+  window.show();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  CLI::App command("Shows and edits the notification services of this site.", "alertconsole");
+  command.add_option("--data", options.data, "Data directory (else ALERTING_DATA, else the user's own)");
+  command.add_option("--library", options.library,
+                     "The alerting library (else ALERTING_LIBRARY, else beside the console)");
+  command.add_option("--screenshot-dir", options.screenshots,
+                     "Write pictures of the windows there, and exit");
+  CLI11_PARSE(command, argc, argv);
+  if (!options.data.empty()) setenv("ALERTING_DATA", options.data.c_str(), 1);
+  if (!options.screenshots.empty() && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+
+  QApplication application(argc, argv);
+  desktops::QtDesktop desktop;
+  try {
+    return Run(options);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "alertconsole: %s\n", failure.what());
+    if (options.screenshots.empty()) QMessageBox::critical(nullptr, "Alerting Console", failure.what());
+    return 1;
+  }
+}

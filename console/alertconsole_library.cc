@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "console/alertconsole_library.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace alertconsole {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint32_t kWereOpen = 1;
+
+}  // namespace
+
+std::string AlertingLibrary::PathOf(const std::string& given) {
+  if (!given.empty()) return given;
+  if (const char* named = std::getenv("ALERTING_LIBRARY"); named != nullptr && *named != '\0') return named;
+  std::error_code ignored;
+  const fs::path program = fs::read_symlink("/proc/self/exe", ignored);
+  const fs::path beside = program.parent_path() / "../lib/libalerting.so";
+  return fs::exists(beside, ignored) ? beside.lexically_normal().string() : "libalerting.so";
+}
+
+AlertingLibrary::Loaded::Loaded(const std::string& path) {
+  if (Load(path)) return;
+  throw StartFailure("The alerting library cannot be loaded: " + Error() +
+                     ". Install it beside this console, or name it with --library.");
+}
+
+template <typename Function>
+Function* AlertingLibrary::Find(const char* decorated_name) const {
+  if (void* function = library_.Find(decorated_name)) return reinterpret_cast<Function*>(function);
+  throw StartFailure(std::string("The alerting library has no function ") + decorated_name +
+                     ". Install the library that belongs to this console.");
+}
+
+AlertingLibrary::AlertingLibrary(const std::string& path)
+    : library_(path),
+      OpenDBs(Find<decltype(::OpenDBs)>("OpenDBs")),
+      CloseDBs(Find<decltype(::CloseDBs)>("CloseDBs")),
+      GetCount(Find<decltype(::DomainServiceGetCount)>("_DomainServiceGetCount@0")),
+      GetInfo(Find<decltype(::DomainServiceGetInfo)>("_DomainServiceGetInfo@4")),
+      GetIconOffset(Find<decltype(::DomainServiceGetIconOffset)>("_DomainServiceGetIconOffset@4")),
+      PropertySheet(Find<decltype(::DomainServicePropertySheet)>("_DomainServicePropertySheet@8")),
+      IsFirstOfType(Find<decltype(::DomainServiceIsFirstOfType)>("_DomainServiceIsFirstOfType@4")),
+      CopyService(Find<decltype(::DomainServiceCopyService)>("_DomainServiceCopyService@8")),
+      DeleteService(Find<decltype(::DomainServiceDeleteService)>("_DomainServiceDeleteService@20")),
+      NewIconStrip(Find<decltype(::GetIconBitmapObject)>("_GetIconBitmapObject@0")),
+      DeleteIconStrip(Find<decltype(::DeleteIconBitmapObject)>("_DeleteIconBitmapObject@4")) {
+  const std::uint32_t opened = OpenDBs();
+  if (opened > kWereOpen) {
+    throw StartFailure(
+        "The record stores cannot be opened. See that the data directory exists and can be written, or name "
+        "another "
+        "one with --data.");
+  }
+}
+
+AlertingLibrary::~AlertingLibrary() { CloseDBs(); }
+
+void AlertingLibrary::Reopen() {
+  CloseDBs();
+  OpenDBs();
+}
+
+}  // namespace alertconsole

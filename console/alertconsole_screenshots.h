@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace alertconsole {
+
+class AlertingLibrary;
+
+/// Writes pictures of the window and of each page of the Internet Mail sheet into a folder, which is made
+/// where there is none, and prints their names. The process's exit code: 0, or 1 after saying what went
+/// wrong.
+int WriteScreenshots(MainWindow& window, const QString& folder);
+
+}  // namespace alertconsole

@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "console/alertctl_site.h"
+
+#include <unistd.h>
+
+#include <cstdio>
+#include <optional>
+
+#include "companions/alertstore/console_users.h"
+#include "companions/dbconfig/document.h"
+#include "companions/dbconfig/service_types.h"
+#include "companions/dbconfig/site.h"
+#include "companions/dbconfig/strings.h"
+#include "platform/base/paths.h"
+#include "platform/base/utf8.h"
+
+namespace alertctl {
+namespace {
+
+constexpr char kMask[] = "********";
+
+bool Matches(const Json& object, const std::string& name) {
+  const auto id = platform::GUID::Parse(name);
+  if (id) return IdOf(object) == *id;
+  return platform::EqualIgnoringCase(object["name"].get<std::string>(), name);
+}
+
+/// The one object of `objects` with that name or identity; `kind` and `list_verb` are for the messages.
+const Json& FindOne(const Json& objects, const std::string& name, const std::string& kind,
+                    const std::string& list_verb) {
+  const Json* found = nullptr;
+  for (const Json& object : objects) {
+    if (!Matches(object, name)) continue;
+    if (found != nullptr)
+      throw Failure(kInvalid, "more than one " + kind + " is named \"" + name +
+                                  "\": name it by its identity (\"" + list_verb + "\" shows them)");
+    found = &object;
+  }
+  if (found == nullptr)
+    throw Failure(kNothingMatched, "no " + kind + " is named \"" + name + "\": see \"" + list_verb + "\"");
+  return *found;
+}
+
+const dbconfig::ServiceType* TypeOf(const Json& service) {
+  for (const auto& type : dbconfig::ServiceTypes())
+    if (service["type"] == type.key) return &type;
+  return nullptr;
+}
+
+const char* Advice(alertstore::Status status) {
+  switch (status) {
+    case alertstore::kIoError:
+      return "the data directory cannot be made, read or written; check its permissions or choose another "
+             "with "
+             "--data";
+    case alertstore::kDiskFull:
+      return "the disk is full; make room and try again";
+    case alertstore::kCorrupt:
+      return "alerting.db in the data directory is damaged or no database; restore it from a backup";
+    case alertstore::kLockTimeout:
+      return "another console holds the store; try again in a moment";
+    case alertstore::kNotFound:
+      return "the record is no longer there; another console may have deleted it";
+    case alertstore::kNotUnique:
+      return "the name or identity is taken";
+    default:
+      return "an unexpected failure of the store";
+  }
+}
+
+}  // namespace
+
+Json LoadSite() {
+  dbconfig::Site site;
+  const alertstore::Status status = dbconfig::ReadSite(site);
+  if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
+  Json document = Json::parse(dbconfig::WriteDocument(site));
+  MaskPasswords(document);
+  return document;
+}
+
+void MaskPasswords(Json& document) {
+  if (!document.is_structured()) return;
+  for (auto& [name, value] : document.items()) {
+    if (name == "password" && value != "")
+      value = kMask;
+    else
+      MaskPasswords(value);
+  }
+}
+
+const Json& FindService(const Json& site, const std::string& name) {
+  return FindOne(site["services"], name, "service", "alertctl service list");
+}
+
+const Json& FindManager(const Json& site, const std::string& name) {
+  const Json& managers = site["alertManagers"];
+  if (!name.empty()) return FindOne(managers, name, "alert manager", "alertctl manager list");
+  for (const Json& manager : managers)
+    if (Matches(manager, HostName())) return manager;
+  if (managers.size() == 1) return managers[0];
+  throw Failure(
+      kInvalid,
+      "this machine (" + HostName() +
+          ") is no alert manager: choose one with --manager (\"alertctl manager list\" shows them)");
+}
+
+std::vector<std::string> ManagersOf(const Json& site, const Json& service) {
+  std::vector<std::string> names;
+  for (const Json& manager : site["alertManagers"])
+    for (const Json& entry : manager["services"])
+      if (entry["serviceId"] == service["id"])
+        names.push_back(manager["name"].get<std::string>() + (entry["backup"] == true ? " (backup)" : ""));
+  return names;
+}
+
+FoundUser FindUser(const std::string& name) {
+  std::vector<alertstore::ConsoleUser> users;
+  const alertstore::Status status = alertstore::ListConsoleUsers(users);
+  if (status != alertstore::kOk) throw StoreFailure("read the users", status);
+  Json objects = Json::array();
+  for (const auto& user : users) objects.push_back({{"id", user.id.ToString()}, {"name", user.name}});
+  const Json& found = FindOne(objects, name, "user", "alertctl user list");
+  return {IdOf(found), found["name"]};
+}
+
+platform::GUID IdOf(const Json& object) {
+  const auto id = platform::GUID::Parse(object["id"].get<std::string>());
+  return id.value_or(platform::kNullGuid);
+}
+
+std::string TypeName(const Json& service) { return dbconfig::ServiceTypeName(RecordTypeOf(service)); }
+
+std::uint32_t RecordTypeOf(const Json& service) {
+  const dbconfig::ServiceType* type = TypeOf(service);
+  return type != nullptr ? type->record_type : 0;
+}
+
+std::string HostName() {
+  char name[256] = "";
+  gethostname(name, sizeof name - 1);
+  return name;
+}
+
+Failure StoreFailure(const std::string& what, alertstore::Status status) {
+  char code[16];
+  std::snprintf(code, sizeof code, "0x%x", status);
+  return Failure(kStoreFailure, "cannot " + what + " in " + platform::DataDirectory() + ": " +
+                                    Advice(status) + " (status " + code + ")");
+}
+
+}  // namespace alertctl

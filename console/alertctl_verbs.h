@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <string>
+
+namespace alertctl {
+
+using Json = nlohmann::ordered_json;
+
+/// What alertctl ends with (docs/alertctl.md).
+enum ExitCode { kDone = 0, kUsage = 2, kNothingMatched = 3, kInvalid = 4, kStoreFailure = 5 };
+
+/// A verb cannot do its work. The text says which record, why, and what to do.
+class Failure : public std::runtime_error {
+ public:
+  Failure(ExitCode code, const std::string& text) : std::runtime_error(text), code_(code) {}
+  ExitCode Code() const { return code_; }
+
+ private:
+  ExitCode code_;
+};
+
+/// What a verb has to say: to programs, and to people (with its line breaks).
+struct Result {
+  Json json;
+  std::string text;
+};
+
+/// The command line: adds verbs, then runs the one that was asked for.
+class Verbs {
+ public:
+  using Action = std::function<Result()>;
+
+  explicit Verbs(CLI::App& app) : app_(app) {}
+
+  /// A group of verbs, such as "service".
+  CLI::App& AddNoun(const std::string& name, const std::string& description);
+  /// A verb of `noun`, with the options that every verb has. `examples` stands at the end of its help.
+  CLI::App& AddVerb(CLI::App& noun, const std::string& name, const std::string& description,
+                    const std::string& examples, Action action);
+  CLI::App& Root() { return app_; }
+
+  /// Runs the verb and prints what it says; failures go to standard error. Answers the exit code.
+  int Run();
+
+ private:
+  CLI::App& app_;
+  Action action_;
+  bool json_ = false;
+  std::string data_;
+};
+
+void AddInitVerb(Verbs& verbs);
+void AddServiceVerbs(Verbs& verbs);
+void AddUserVerbs(Verbs& verbs);
+void AddEntryVerbs(Verbs& verbs);
+void AddManagerVerbs(Verbs& verbs);
+void AddResponseVerbs(Verbs& verbs);
+void AddConfigVerbs(Verbs& verbs);
+
+}  // namespace alertctl
