@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that building and testing need and that are missing; says which. Qt is optional: where
+# its packages cannot be had, everything but the Qt desktop and the console window is still built.
+set -euo pipefail
+
+required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev
+          libbenchmark-dev)
+optional=(qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-dejavu-core ccache)
+
+missing() {
+  for package in "$@"; do
+    [ "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" = 'install ok installed' ] || echo "$package"
+  done
+}
+
+as_root() { if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi; }
+
+install() {
+  echo "Installing Debian packages: $*"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "$@" >/dev/null
+}
+
+mapfile -t need < <(missing "${required[@]}")
+mapfile -t want < <(missing "${optional[@]}")
+[ $((${#need[@]} + ${#want[@]})) -gt 0 ] || exit 0
+as_root apt-get update -qq
+[ ${#need[@]} = 0 ] || install "${need[@]}"
+[ ${#want[@]} = 0 ] || install "${want[@]}" || echo "Going on without: ${want[*]}"

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+// Alert managers, and the services enabled on them.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "alerting/managers/config_file.h"
+#include "alerting/managers/enabled_services.h"
+#include "platform/ui/dialog.h"
+#include "tests/support/service_fixture.h"
+
+namespace {
+
+using namespace alerting;      // NOLINT
+using namespace test_support;  // NOLINT
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+struct ComboDialog : platform::ui::Dialog {
+  ComboDialog() : Dialog(nullptr, "Managers") {}
+  platform::ui::ComboBox combo{*this, 1, "&Machine:", true};
+};
+
+class ManagersTest : public ServiceTest {
+ protected:
+  ~ManagersTest() override { BackupManagerGuid() = kNullGuid; }
+
+  static std::vector<ALRTSERV_INST_NTFY_SERVREC> Entries() {
+    std::vector<ALRTSERV_INST_NTFY_SERVREC> entries;
+    ALRTSERV_INST_NTFY_SERVREC entry{};
+    Status status = EnabledServiceStore().DBAlertRecFindFirst(kEnabledServiceByService, 0, nullptr, entry);
+    for (; status == kOk; status = EnabledServiceStore().DBAlertRecFindNext(entry)) entries.push_back(entry);
+    return entries;
+  }
+  static GUID AddManager(std::string_view name) {
+    EnsureStoresOpen();
+    ALRT_SRV_CFGREC manager{};
+    manager.managerName.Assign(name);
+    GUID id{};
+    EXPECT_EQ(ManagerStore().DBAlertRecAdd(manager, id), kOk);
+    return id;
+  }
+
+  const GUID one_ = GUID::Generate(), two_ = GUID::Generate();
+};
+
+TEST_F(ManagersTest, AServiceIsEnabledOnceAndDisabledWhicheverManagerIsNamed) {
+  const ALRTNTFYSERV& service = Find(SeedService(kTypeSmtp, "Mail"))->Common();
+  EnableServiceOnManager(service, one_, false);
+  EXPECT_THAT(Entries(), IsEmpty());
+  EnableServiceOnManager(service, one_, true);
+  EnableServiceOnManager(service, one_, true);
+  EnableServiceOnManager(service, two_, true);
+  ASSERT_EQ(Entries().size(), 1U);
+  EXPECT_EQ(Entries()[0].managerGuid, one_);
+  EXPECT_EQ(Entries()[0].serviceName.View(), "Mail");
+  EXPECT_EQ(Entries()[0].isBackup, 0U);
+  EXPECT_TRUE(IsServiceOnManager(service.serviceId, one_));
+  EXPECT_FALSE(IsServiceOnManager(service.serviceId, two_));
+  EnableServiceOnManager(service, two_, false);
+  EXPECT_THAT(Entries(), IsEmpty());
+}
+
+TEST_F(ManagersTest, ABackupManagerGetsASecondEntryForServicesWithABackupRecord) {
+  BackupManagerGuid() = two_;
+  const GUID mail = SeedService(kTypeSmtp, "Mail"), pager = SeedService(kTypeNumeric, "Pager");
+  EnableServiceOnManager(Find(mail)->Common(), one_, true);
+  EXPECT_EQ(Entries().size(), 1U) << "no backup record, one entry";
+  EnableServiceOnManager(Find(pager)->Common(), one_, true);
+  ASSERT_EQ(Entries().size(), 3U);
+  const ALRTSERV_INST_NTFY_SERVREC backup = Entries()[2];
+  EXPECT_EQ(backup.isBackup, 1U);
+  EXPECT_EQ(backup.managerGuid, two_);
+  EXPECT_EQ(backup.backupGuid, Find(pager)->GetModemId());
+  EXPECT_NE(backup.guid, Entries()[1].guid);
+}
+
+TEST_F(ManagersTest, TheCacheIsAsFreshAsItsLastLoad) {
+  const ALRTNTFYSERV& service = Find(SeedService(kTypeSmtp, "Mail"))->Common();
+  EnabledServicesCache cache;
+  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
+  EnableServiceOnManager(service, one_, true);
+  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
+  cache.Load();
+  EXPECT_TRUE(cache.Contains(service.serviceId, one_));
+  EXPECT_FALSE(cache.Contains(service.serviceId, two_));
+  EnableServiceOnManager(service, one_, false);
+  EXPECT_TRUE(cache.Contains(service.serviceId, one_));
+  cache.Load();
+  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
+}
+
+TEST_F(ManagersTest, FindsManagersByTheirWholeNameAndListsThem) {
+  ComboDialog dialog;
+  FillAlertManagerCombo(dialog.combo, one_);
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre("No records in the Alert Manager database."));
+  const GUID beta = AddManager("Beta"), alpha = AddManager("alpha");
+  FillAlertManagerCombo(dialog.combo, alpha);
+  EXPECT_EQ(dialog.combo.Count(), 2);
+  EXPECT_EQ(dialog.combo.Text(), "alpha");
+  FillAlertManagerCombo(dialog.combo, beta);
+  EXPECT_EQ(dialog.combo.Count(), 2);
+  EXPECT_EQ(dialog.combo.Text(), "Beta");
+  GUID found = two_;
+  EXPECT_TRUE(FindAlertManagerByName("Beta", found));
+  EXPECT_EQ(found, beta);
+  EXPECT_FALSE(FindAlertManagerByName("Bet", found));
+  EXPECT_EQ(found, beta);
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre("No records in the Alert Manager database."));
+}
+
+TEST_F(ManagersTest, AConfigurationFileThatCannotBeWrittenIsReported) {
+  WriteAlertServerConfig();
+  EXPECT_EQ(library.dbconfig.files_written, 1);
+  library.dbconfig.result = 2;
+  WriteAlertServerConfig();
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre("Error writing to alert manager configuration file."));
+  EXPECT_EQ(desktop.wait_cursors, 0);
+}
+
+}  // namespace

@@ -1,0 +1,156 @@
+// SPDX-License-Identifier: MIT
+// The dial-out types: backup records and modem settings.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/service_classes.h"
+#include "tests/support/service_fixture.h"
+
+namespace {
+
+using namespace alerting;      // NOLINT
+using namespace test_support;  // NOLINT
+using ::testing::ElementsAre;
+
+constexpr std::uint8_t kPattern = 0x5A;
+
+/// Offsets of the modem block: name, identity, script, baud, data bits, stop bits, parity, initialization,
+/// suffix, capabilities, prefix (for alphanumeric pagers the alpha initialization).
+struct Block {
+  std::uint32_t code;
+  std::size_t name, id, script, baud, data, stop, parity, init, suffix, capabilities, prefix;
+};
+const Block kBlocks[] = {
+    {3, 1206, 1271, 2311, 2829, 2833, 2837, 2841, 2845, 3101, 3137, 3141},
+    {2, 1422, 1487, 2527, 3045, 3049, 3053, 3057, 3061, 3317, 3353, 3357},
+    {11, 2069, 2134, 3170, 3431, 3435, 3439, 3443, 3447, 3703, 3739, 3743},
+    {12, 2678, 2743, 2061, 2326, 2330, 2334, 2338, 2342, 2598, 2634, 2638},
+    {10, 2417, 2482, 3518, 3783, 3787, 3791, 3795, 3799, 4055, 4091, 4095},
+};
+
+void PutText(std::string& bytes, std::size_t offset, std::size_t width, const std::string& text) {
+  bytes.replace(offset, width, width, '\0');
+  bytes.replace(offset, text.size(), text);
+}
+
+void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
+  for (std::size_t i = 0; i < 4; ++i) bytes[offset + i] = static_cast<char>(value >> (8 * i));
+}
+
+std::string WithModem(const Block& block, const GUID& modem, std::string bytes) {
+  PutText(bytes, block.name, 65, "Modem A");
+  std::memcpy(bytes.data() + block.id, &modem, sizeof(modem));
+  PutText(bytes, block.script, 261, "dial.scr");
+  PutU32(bytes, block.baud, 9600);
+  PutU32(bytes, block.data, 7);
+  PutU32(bytes, block.stop, 2);
+  PutU32(bytes, block.parity, 1);
+  PutText(bytes, block.init, 256, "ATZ");
+  PutText(bytes, block.suffix, 36, ";H");
+  PutU32(bytes, block.capabilities, 5);
+  PutText(bytes, block.prefix, 36, block.code == kTypeAlpha ? "ATM0" : "ATDT");
+  return bytes;
+}
+
+class ModemRecordsTest : public ServiceTest {
+ protected:
+  static GUID AddModem() {
+    EnsureStoresOpen();
+    ALRTSERV_MODEM modem{};
+    modem.name.Assign("Modem A");
+    modem.initString.Assign("ATZ");
+    modem.dialSuffix.Assign(";H");
+    modem.dialPrefix.Assign("ATDT");
+    modem.alphaInitString.Assign("ATM0");
+    modem.capabilities = 5;
+    GUID id{};
+    EXPECT_EQ(ModemStore().DBAlertRecAdd(modem, id), kOk);
+    return id;
+  }
+  static CNtfyServiceUserBase& Users(CNtfyService& service) {
+    return dynamic_cast<CNtfyServiceUserBase&>(service);
+  }
+  static ModemSettings Settings(const GUID& modem) { return {modem, 9600, 7, 1, 2, "dial.scr"}; }
+};
+
+TEST_F(ModemRecordsTest, LoadingAServiceWithoutABackupRecordMakesOneLikeItsPrimary) {
+  for (const Block& block : kBlocks) {
+    SCOPED_TRACE(block.code);
+    TheServices().RemoveAll();
+    const GUID id = SeedService(block.code, "Service", kPattern);
+    const std::string primary = StoredSpecific(block.code, StoredCommon(id).specificRecordId);
+    CNtfyService& service = *Find(id);
+    const ALRTNTFYSERV common = StoredCommon(id);
+    EXPECT_EQ(service.GetModemId(), common.backupSpecificRecordId);
+    ASSERT_FALSE(common.backupSpecificRecordId.IsNull());
+    EXPECT_EQ(StoredSpecific(block.code, common.backupSpecificRecordId).substr(16), primary.substr(16));
+    ASSERT_TRUE(service.ReloadRecords());
+    EXPECT_EQ(StoredCommon(id).backupSpecificRecordId, common.backupSpecificRecordId) << "made once";
+  }
+}
+
+TEST_F(ModemRecordsTest, SettingsReachTheChosenRecordAtTheirOffsetsOnSave) {
+  const GUID modem = AddModem();
+  for (const Block& block : kBlocks) {
+    for (const bool backup : {false, true}) {
+      SCOPED_TRACE(::testing::Message() << block.code << (backup ? " backup" : " primary"));
+      TheServices().RemoveAll();
+      const GUID id = SeedService(block.code, "Service", 0);
+      CNtfyService& service = *Find(id);
+      const ALRTNTFYSERV common = StoredCommon(id);
+      const std::string primary = StoredSpecific(block.code, common.specificRecordId);
+      const std::string spare = StoredSpecific(block.code, common.backupSpecificRecordId);
+      EXPECT_FALSE(service.HasModem() || service.HasBackupModem());
+      ASSERT_TRUE(Users(service).SetModemSettings(Settings(modem), "Modem A", backup));
+      EXPECT_EQ(service.HasModem(), !backup);
+      EXPECT_EQ(service.HasBackupModem(), backup);
+      ASSERT_TRUE(service.SaveRecords());
+      EXPECT_EQ(StoredSpecific(block.code, common.specificRecordId),
+                backup ? primary : WithModem(block, modem, primary));
+      EXPECT_EQ(StoredSpecific(block.code, common.backupSpecificRecordId),
+                backup ? WithModem(block, modem, spare) : spare);
+      ModemSettings read;
+      EXPECT_TRUE(Users(service).GetModemSettings(read, backup));
+      EXPECT_EQ(read.baudRate, 9600U);
+      EXPECT_EQ(read.parityCode, 1U);
+      EXPECT_EQ(read.stopBitsCode, 2U);
+      EXPECT_EQ(read.scriptFile, "dial.scr");
+    }
+  }
+}
+
+TEST_F(ModemRecordsTest, AnUnknownModemIsRefusedAndChangesNothing) {
+  CNtfyService& service = *Find(SeedService(kTypeNumeric, "Pager"));
+  EXPECT_FALSE(Users(service).SetModemSettings(Settings(GUID::Generate()), "gone", false));
+  EXPECT_FALSE(service.HasModem());
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to find the corresponding  record in the modem database.  Try selecting a "
+                          "different modem."));
+}
+
+TEST_F(ModemRecordsTest, ABackupRecordThatIsGoneLeavesTheServiceWithoutOneInMemory) {
+  const GUID id = SeedService(kTypeGeneric, "Port");
+  const GUID backup = Find(id)->GetModemId();
+  ASSERT_EQ(ServiceStore().SpecificStore<ALRTGENPORTSERVICEREC>()->DBAlertRecDelete(backup), kOk);
+  CNtfyService& service = *Find(id);
+  EXPECT_TRUE(service.ReloadRecords());
+  EXPECT_TRUE(service.GetModemId().IsNull());
+  EXPECT_FALSE(service.HasBackupModem());
+  EXPECT_EQ(StoredCommon(id).backupSpecificRecordId, backup) << "until the next save";
+}
+
+TEST_F(ModemRecordsTest, ThePagerFollowsItsProvider) {
+  const GUID id = SeedService(kTypeAlpha, "Pager");
+  auto& pager = FindAs<CNtfyServiceAlpha>(id);
+  pager.SetProviderFields({"Company", "North  zone", "555-0000", 120});
+  EXPECT_EQ(pager.GetMaxMessageLength(), 120);
+  ASSERT_TRUE(pager.SaveRecords());
+  const std::string stored = StoredSpecific(kTypeAlpha, StoredCommon(id).specificRecordId);
+  EXPECT_STREQ(stored.data() + 16, "North  zone");
+  EXPECT_STREQ(stored.data() + 2326, "Company");
+  EXPECT_STREQ(stored.data() + 2391, "555-0000");
+  EXPECT_EQ(static_cast<unsigned char>(stored[2322]), 120U);
+  EXPECT_EQ(pager.GetProviderFields().phone, "555-0000");
+}
+
+}  // namespace

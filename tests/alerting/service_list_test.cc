@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/services/service_list.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/service_fixture.h"
+
+namespace {
+
+using namespace alerting;      // NOLINT
+using namespace test_support;  // NOLINT
+using ::testing::ElementsAre;
+
+class ServiceListTest : public ServiceTest {
+ protected:
+  static std::vector<std::string> Names() {
+    std::vector<std::string> names;
+    for (int i = 0; i < TheServices().GetCount(); ++i) names.push_back(TheServices().GetAt(i)->Name());
+    return names;
+  }
+};
+
+TEST_F(ServiceListTest, AnEmptyStoreIsReportedOnceAndAnswersAsTheLastGoodRead) {
+  CNtfyServiceList& list = TheServices();
+  const bool read_before = list.Read() || list.Read();  // other tests of this process may have read a list
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to read records from the notification service database."));
+  EXPECT_EQ(list.Read(), read_before);
+  EXPECT_EQ(list.GetCount(), 0);
+
+  SeedService(kTypeSmtp, "Mail");
+  list.RemoveAll();
+  EXPECT_TRUE(list.Read());
+  EXPECT_EQ(list.GetCount(), 1);
+
+  list.RemoveAll();
+  library.engine->FailAll("", StoreOp::kFindFirst);
+  EXPECT_FALSE(list.Read());
+  EXPECT_TRUE(list.Read()) << "a read has succeeded before";
+  EXPECT_EQ(list.GetCount(), 0);
+  EXPECT_EQ(desktop.TakeMessages().size(), 1U);
+}
+
+TEST_F(ServiceListTest, ListsTypesWithAClassInTheOrderOfTheStore) {
+  SeedService(kTypeWave, "a wave");
+  SeedCommon(RecordTypeOf(kTypePhone), "a phone call");
+  SeedCommon(RecordTypeOf(kTypeScript), "a script");
+  SeedCommon(0, "no type");
+  SeedCommon(16, "no type either");
+  SeedService(kTypeProgram, "a program");
+  const GUID second_wave = SeedService(kTypeWave, "another wave");
+  ASSERT_TRUE(TheServices().Read());
+  EXPECT_THAT(Names(), ElementsAre("a wave", "a program", "another wave"));
+  EXPECT_EQ(TheServices().GetAt(-1), nullptr);
+  EXPECT_EQ(TheServices().GetAt(3), nullptr);
+  EXPECT_EQ(TheServices().FindById(second_wave), 2);
+  EXPECT_EQ(TheServices().FindById(kNullGuid), std::nullopt);
+  EXPECT_TRUE(TheServices().IsFirstOfType(0));
+  EXPECT_TRUE(TheServices().IsFirstOfType(1));
+  EXPECT_FALSE(TheServices().IsFirstOfType(2));
+  EXPECT_FALSE(TheServices().IsFirstOfType(3));
+
+  EXPECT_TRUE(TheServices().DeleteAt(0));
+  EXPECT_THAT(Names(), ElementsAre("a program", "another wave"));
+  EXPECT_EQ(TheServices().FindById(second_wave), 1);
+  EXPECT_TRUE(TheServices().IsFirstOfType(1));
+}
+
+TEST_F(ServiceListTest, AServiceWhoseSpecificRecordIsGoneStaysInTheList) {
+  SeedCommon(RecordTypeOf(kTypeSmtp), "half a service");
+  ASSERT_TRUE(TheServices().Read());
+  EXPECT_THAT(Names(), ElementsAre("half a service"));
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to read the record from the notification service-specific database."));
+}
+
+TEST_F(ServiceListTest, ADeleteThatFailsStillTakesTheServiceFromTheList) {
+  SeedService(kTypeProgram, "a program");
+  ASSERT_TRUE(TheServices().Read());
+  library.engine->FailAll("", StoreOp::kDelete);
+  EXPECT_FALSE(TheServices().DeleteAt(0));
+  EXPECT_EQ(TheServices().GetCount(), 0);
+  EXPECT_FALSE(TheServices().DeleteAt(0));
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to read the record from the notification service database."));
+}
+
+TEST_F(ServiceListTest, AddsFromTheStoreAtTheEnd) {
+  SeedService(kTypeProgram, "first");
+  ASSERT_TRUE(TheServices().Read());
+  EXPECT_TRUE(TheServices().AddFromStore(SeedService(kTypeTts, "second")));
+  EXPECT_FALSE(TheServices().AddFromStore(SeedCommon(RecordTypeOf(kTypeScript), "script"))) << "silently";
+  EXPECT_FALSE(TheServices().AddFromStore(GUID::Generate()));
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to read records from the notification service database."));
+  EXPECT_THAT(Names(), ElementsAre("first", "second"));
+}
+
+}  // namespace

@@ -1,0 +1,256 @@
+// SPDX-License-Identifier: MIT
+// What the service objects write, byte for byte: fields at their offsets, everything else as it was.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/service_classes.h"
+#include "tests/support/service_fixture.h"
+
+namespace {
+
+using namespace alerting;      // NOLINT
+using namespace test_support;  // NOLINT
+using ::testing::ElementsAre;
+
+constexpr std::uint8_t kPattern = 0xA5;
+
+struct Place {
+  std::size_t offset = 0, width = 0;
+};
+
+/// Where a type keeps what its service object writes; width 0: the record has no such field.
+struct Layout {
+  std::uint32_t code;
+  Place body, subject;
+  std::size_t priority, body_keywords, subject_keywords;
+  Place login, password, place, text1, text2;  // `place`: directory, phone number or server
+  std::size_t delay;
+};
+
+// clang-format off
+const Layout kLayouts[] = {
+  {0, {375, 1025}, {1400, 257}, 1657, 1661, 2938, {277, 49}, {326, 49}, {16, 261}, {}, {}, 0},
+  {1, {2130, 1025}, {3155, 257}, 3412, 3416, 4436, {}, {}, {}, {}, {}, 0},
+  {2, {140, 1025}, {1165, 257}, 1503, 1507, 3393, {42, 49}, {91, 49}, {16, 26}, {}, {}, 0},
+  {3, {140, 1025}, {1165, 41}, 1287, 1291, 3177, {42, 49}, {91, 49}, {16, 26}, {}, {}, 0},
+  {4, {370, 1025}, {1395, 257}, 1652, 1656, 2933, {272, 49}, {321, 49}, {16, 256}, {}, {}, 0},
+  {5, {114, 1025}, {1139, 257}, 1396, 1400, 2677, {16, 49}, {65, 49}, {}, {}, {}, 0},
+  {6, {114, 1025}, {1139, 257}, 1396, 1400, 2677, {16, 49}, {65, 49}, {}, {}, {}, 0},
+  {7, {}, {}, 0, 0, 0, {}, {}, {}, {16, 261}, {277, 1221}, 0},
+  {8, {16, 1025}, {}, 0, 1242, 0, {}, {}, {}, {1041, 201}, {}, 0},
+  {10, {2065, 257}, {}, 0, 2498, 0, {}, {}, {}, {}, {}, 0},
+  {11, {16, 2049}, {}, 0, 2150, 0, {}, {}, {}, {}, {}, 2065},
+  {12, {16, 1025}, {}, 0, 1041, 0, {}, {}, {}, {}, {}, 0},
+};
+// clang-format on
+
+void PutText(std::string& bytes, Place place, const std::string& text) {
+  if (place.width == 0) return;
+  bytes.replace(place.offset, place.width, place.width, '\0');
+  bytes.replace(place.offset, text.size(), text);
+}
+
+void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
+  if (offset == 0) return;
+  for (std::size_t i = 0; i < 4; ++i) bytes[offset + i] = static_cast<char>(value >> (8 * i));
+}
+
+void PutKeywords(std::string& bytes, std::size_t offset,
+                 std::vector<std::pair<std::uint32_t, const char*>> used) {
+  if (offset == 0) return;
+  bytes.replace(offset, 20 * 51, 20 * 51, '\0');
+  for (const auto& [id, name] : used) {
+    PutText(bytes, {offset, 41}, name);
+    PutU32(bytes, offset + 41, id);
+    PutText(bytes, {offset + 45, 6}, id == 11 ? "%ld" : "%s");
+    offset += 51;
+  }
+}
+
+std::string Expected(const Layout& layout, std::string bytes) {
+  PutText(bytes, layout.body, "%s sent %ld");
+  PutKeywords(bytes, layout.body_keywords, {{1, "<User Name>"}, {11, "<Event ID>"}});
+  PutText(bytes, layout.subject, "About %s");
+  PutKeywords(bytes, layout.subject_keywords, {{8, "<Severity>"}});
+  PutU32(bytes, layout.priority, 1);
+  PutText(bytes, layout.login, "operator");
+  PutText(bytes, layout.password, "secret");
+  PutText(bytes, layout.place, "555-1234");
+  PutText(bytes, layout.text1, "");
+  PutText(bytes, layout.text2, "");
+  PutU32(bytes, layout.delay, 17);
+  return bytes;
+}
+
+void Edit(CNtfyService& service) {
+  DefaultMessage message;
+  message.body = "%s sent %ld";
+  message.bodyKeywords = {1, 11};
+  message.subject = "About %s";
+  message.subjectKeywords = {8};
+  message.priority = 1;
+  EXPECT_TRUE(service.SetDefaultMessage(message));
+  GeneralFields fields;
+  fields.loginId = "operator";
+  fields.password = fields.verifyPassword = "secret";
+  fields.mhsDirectory = fields.phoneNumber = fields.smtpServer = "555-1234";
+  fields.text = fields.text1 = fields.text2 = "";
+  fields.dialDelay = 17;
+  fields.enabled = 0;
+  EXPECT_TRUE(AsItsClass(service, [&](auto& typed) { return typed.SetGeneralFields(fields); }));
+}
+
+std::string WithoutIdentity(const std::string& record) { return record.substr(16); }
+
+class ServiceRecordsTest : public ServiceTest {};
+
+TEST_F(ServiceRecordsTest, ASaveWritesItsFieldsAtTheirOffsetsAndNothingElse) {
+  for (const Layout& layout : kLayouts) {
+    SCOPED_TRACE(layout.code);
+    TheServices().RemoveAll();
+    const GUID id = SeedService(layout.code, "Service", kPattern);
+    const ALRTNTFYSERV before = StoredCommon(id);
+    const std::string specific_before = StoredSpecific(layout.code, before.specificRecordId);
+    CNtfyService& service = *Find(id);
+    Edit(service);
+    EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), specific_before)
+        << "edits stay in memory";
+    ASSERT_TRUE(service.SaveRecords());
+
+    EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), Expected(layout, specific_before));
+    ALRTNTFYSERV expected = before;
+    expected.enabled = 0;
+    expected.virgin = 0;
+    expected.backupSpecificRecordId = service.Common().backupSpecificRecordId;
+    const ALRTNTFYSERV after = StoredCommon(id);
+    EXPECT_EQ(std::memcmp(&after, &expected, sizeof(after)), 0);
+    EXPECT_EQ(after.backupSpecificRecordId.IsNull(), !service.IsModemService());
+  }
+}
+
+TEST_F(ServiceRecordsTest, ACopyCarriesTheUnsavedEditsUnderNewIdentities) {
+  for (const Layout& layout : kLayouts) {
+    SCOPED_TRACE(layout.code);
+    TheServices().RemoveAll();
+    const GUID id = SeedService(layout.code, "Service", kPattern);
+    const std::string source = StoredSpecific(layout.code, StoredCommon(id).specificRecordId);
+    CNtfyService& service = *Find(id);
+    Edit(service);
+    GUID copy_id{};
+    ASSERT_TRUE(service.MakeCopy("A name of more than thirty-two characters", copy_id));
+
+    const ALRTNTFYSERV copy = StoredCommon(copy_id);
+    EXPECT_EQ(copy.name.View(), "A name of more than thirty-two c");
+    EXPECT_EQ(copy.enabled, 1U);
+    EXPECT_EQ(copy.virgin, 1U);
+    EXPECT_NE(copy.specificRecordId, service.Common().specificRecordId);
+    EXPECT_EQ(WithoutIdentity(StoredSpecific(layout.code, copy.specificRecordId)),
+              WithoutIdentity(Expected(layout, source)));
+    ALRTNTFYSERV expected = service.Common();
+    expected.serviceId = copy.serviceId;
+    expected.specificRecordId = copy.specificRecordId;
+    expected.backupSpecificRecordId = copy.backupSpecificRecordId;
+    expected.name = copy.name;
+    expected.enabled = expected.virgin = 1;
+    EXPECT_EQ(std::memcmp(&copy, &expected, sizeof(copy)), 0);
+    if (!service.IsModemService()) continue;
+    EXPECT_NE(copy.backupSpecificRecordId, service.Common().backupSpecificRecordId);
+    EXPECT_FALSE(copy.backupSpecificRecordId.IsNull());
+    ASSERT_TRUE(TheServices().AddFromStore(copy_id));
+    EXPECT_FALSE(Find(copy_id)->HasBackupModem()) << "the copy keeps the backup's settings, not its modem";
+  }
+}
+
+TEST_F(ServiceRecordsTest, ProgramLaunchSavesAndCopiesItsCommonRecordAlone) {
+  const GUID id = SeedService(kTypeProgram, "Launcher", kPattern);
+  ALRTNTFYSERV expected = StoredCommon(id);
+  auto& service = FindAs<CNtfyServiceProg>(id);
+  EXPECT_EQ(service.GetSpecificRecord(), nullptr);
+  EXPECT_EQ(service.GetEnabled(), 1U);
+  service.SetEnabled(0);
+  ASSERT_TRUE(service.SaveRecords());
+  expected.enabled = expected.virgin = 0;
+  const ALRTNTFYSERV after = StoredCommon(id);
+  EXPECT_EQ(std::memcmp(&after, &expected, sizeof(after)), 0);
+
+  GUID copy{};
+  ASSERT_TRUE(service.MakeCopy("Copy", copy));
+  EXPECT_EQ(StoredCommon(copy).virgin, 1U);
+  EXPECT_TRUE(service.ReloadRecords());
+}
+
+TEST_F(ServiceRecordsTest, PasswordsThatDifferAreRefusedAndTheEnabledFlagDefaultsToOn) {
+  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  GeneralFields fields;
+  fields.smtpServer = "mail.example.org";
+  fields.password = "one";
+  fields.verifyPassword = "two";
+  fields.enabled = 0;
+  EXPECT_FALSE(service.SetGeneralFields(fields));
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("The two password strings are not the same.  Save aborted."));
+  EXPECT_EQ(service.GetGeneralFields().smtpServer, "");
+  EXPECT_EQ(service.GetGeneralFields().enabled, 1U);
+
+  fields.verifyPassword = "one";
+  EXPECT_TRUE(service.SetGeneralFields(fields));
+  EXPECT_EQ(service.GetGeneralFields().enabled, 0U);
+  EXPECT_EQ(service.GetGeneralFields().verifyPassword, "one") << "the stored password stands in both fields";
+  fields.enabled.reset();
+  EXPECT_TRUE(service.SetGeneralFields(fields));
+  EXPECT_EQ(service.GetGeneralFields().enabled, 1U);
+}
+
+TEST_F(ServiceRecordsTest, TextsTooLongForTheirFieldsAreCutInStepWithTheirKeywords) {
+  auto& service = FindAs<CNtfyServiceCIS>(SeedService(kTypeCompuServe, "Mail"));
+  DefaultMessage message;
+  message.subject = std::string(37, 'x') + "%s%s";  // the second placeholder would end in byte 41
+  message.subjectKeywords = {1, 2};
+  ASSERT_TRUE(service.SetDefaultMessage(message));
+  DefaultMessage kept;
+  ASSERT_TRUE(service.GetDefaultMessage(kept));
+  EXPECT_EQ(kept.subject, std::string(37, 'x') + "%s");
+  EXPECT_EQ(kept.subjectKeywords, (KeywordIds{1}));
+}
+
+TEST_F(ServiceRecordsTest, AReloadRefusesAServiceOfAnotherTypeOrNone) {
+  const GUID id = SeedService(kTypeSmtp, "Mail");
+  auto& service = FindAs<CNtfyServiceSMTP>(id);
+  ALRTNTFYSERV stored = StoredCommon(id);
+  stored.name.Assign("Renamed elsewhere");
+  ASSERT_EQ(ServiceStore().DBAlertRecUpdate(stored), kOk);
+  EXPECT_TRUE(service.ReloadRecords());
+  EXPECT_EQ(service.Name(), "Renamed elsewhere");
+
+  stored.recordType = RecordTypeOf(kTypeMhs);
+  stored.name.Assign("Another type");
+  ASSERT_EQ(ServiceStore().DBAlertRecUpdate(stored), kOk);
+  EXPECT_FALSE(service.ReloadRecords());
+  EXPECT_EQ(service.Name(), "Renamed elsewhere") << "goes on with what it held";
+
+  ASSERT_EQ(ServiceStore().DBAlertRecDelete(id), kOk);
+  EXPECT_FALSE(service.ReloadRecords());
+  EXPECT_FALSE(service.SaveRecords());
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("The record in the service database is for an unexpected service type.",
+                          "Unable to read the record from the notification service database.",
+                          "Unable to update the notification service database record."));
+}
+
+TEST_F(ServiceRecordsTest, AMissingSpecificStoreFailsTheLoadOfEveryTypeButSnmpWithItsMessage) {
+  SeedService(kTypeSmtp, "Mail");
+  SeedService(kTypeSnmp, "Traps");
+  SeedService(kTypeNumeric, "Pager");
+  ServiceStore().DropSpecificStore<ALRTSMTPSERVICEREC>();
+  ServiceStore().DropSpecificStore<ALRTSNMPSERVICEREC>();
+  ServiceStore().DropSpecificStore<ALRTNPAGESERVICEREC>();
+  EXPECT_TRUE(TheServices().Read());
+  EXPECT_THAT(
+      desktop.TakeMessages(),
+      ElementsAre("The reference to a service specific database object is invalid.  Record not read.",
+                  "The reference to a service specific database object is invalid.  Record not read."));
+  for (int i = 0; i < 3; ++i) EXPECT_FALSE(TheServices().GetAt(i)->SaveRecords());
+  EXPECT_EQ(desktop.TakeMessages().size(), 3U);
+}
+
+}  // namespace

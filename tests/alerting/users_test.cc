@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: MIT
+// Users' entries on services: links, user records, lists.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "alerting/services/user_list.h"
+#include "platform/ui/dialog.h"
+#include "tests/support/service_classes.h"
+#include "tests/support/service_fixture.h"
+
+namespace {
+
+using namespace alerting;      // NOLINT
+using namespace test_support;  // NOLINT
+using ::testing::ElementsAre;
+
+/// Where the type's user record keeps the address, and how wide that is.
+struct UserLayout {
+  std::uint32_t code;
+  std::size_t size, address, width, name, enabled;
+};
+const UserLayout kUserLayouts[] = {
+    {0, 362, 32, 261, 293, 358}, {2, 431, 32, 261, 293, 358}, {3, 362, 32, 261, 293, 358},
+    {4, 362, 32, 261, 293, 358}, {5, 362, 32, 261, 293, 358}, {6, 362, 32, 261, 293, 358},
+    {10, 146, 113, 29, 48, 142}, {11, 131, 32, 26, 58, 123},
+};
+
+struct ListDialog : platform::ui::Dialog {
+  ListDialog() : Dialog(nullptr, "Users") {}
+  platform::ui::ListBox list{*this, 1, "&Users:", true};
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (int i = 0; i < list.Count(); ++i) names.push_back(list.ItemText(i));
+    return names;
+  }
+};
+
+class UsersTest : public ServiceTest {
+ protected:
+  /// The type's current user record as bytes.
+  static std::string CurrentUser(CNtfyService& service) {
+    return AsItsClass(service, [](auto& typed) -> std::string {
+      if constexpr (requires { typed.CurrentUser(); })
+        return {reinterpret_cast<const char*>(&typed.CurrentUser()), sizeof(typed.CurrentUser())};
+      else
+        return {};
+    });
+  }
+  static CNtfyServiceUserBase& Users(CNtfyService& service) {
+    return dynamic_cast<CNtfyServiceUserBase&>(service);
+  }
+  static std::vector<ALRTUSRINSTSERV> Links(const GUID& user) {
+    std::vector<ALRTUSRINSTSERV> links;
+    ALRTUSRINSTSERV link{};
+    Status status = UserLinkStore().DBAlertRecFindFirst(kLinkByUser, 16, &user, link);
+    for (; status == kOk; status = UserLinkStore().DBAlertRecFindNext(link)) links.push_back(link);
+    return links;
+  }
+};
+
+TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
+  for (const UserLayout& layout : kUserLayouts) {
+    SCOPED_TRACE(layout.code);
+    TheServices().RemoveAll();
+    const GUID user = MakeUser("Operator");
+    CNtfyService& service = *Find(SeedService(layout.code, "A service"));
+    EXPECT_FALSE(service.IsUserConfigured(user));
+    ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-1", 1}));
+
+    const std::string record = CurrentUser(service);
+    ASSERT_EQ(record.size(), layout.size);
+    EXPECT_EQ(std::memcmp(record.data() + 16, &user, 16), 0);
+    EXPECT_EQ(record.substr(layout.address, layout.width), "555-1" + std::string(layout.width - 5, '\0'));
+    EXPECT_EQ(record.substr(layout.name, 65), "Op" + std::string(63, '\0'));
+    EXPECT_EQ(record.substr(layout.enabled, 4), std::string("\1\0\0\0", 4));
+    ASSERT_EQ(Links(user).size(), 1U);
+    const ALRTUSRINSTSERV link = Links(user)[0];
+    EXPECT_EQ(link.serviceId, service.ServiceId());
+    EXPECT_EQ(std::memcmp(&link.userRecordId, record.data(), 16), 0);
+    EXPECT_EQ(link.serviceName.View(), "A service");
+    EXPECT_EQ(link.recordType, layout.code + 1);
+    EXPECT_EQ(link.userEnabled, 1U);
+
+    ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-2", 0}));
+    ASSERT_EQ(Links(user).size(), 1U);
+    EXPECT_EQ(Links(user)[0].userRecordId, link.userRecordId) << "the same record, found through the link";
+    EXPECT_EQ(Links(user)[0].userEnabled, 0U);
+    UserEntry entry;
+    EXPECT_TRUE(Users(service).GetUserEntry(user, entry));
+    EXPECT_EQ(entry.address, "555-2");
+    EXPECT_EQ(entry.enabled, 0U);
+  }
+}
+
+TEST_F(UsersTest, AUserWithoutAnEntryHasTheConsolesNameAndIsEnabled) {
+  const GUID user = MakeUser("Operator One");
+  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  UserEntry entry{"", "as it was", 0};
+  EXPECT_TRUE(service.GetUserEntry(user, entry));
+  EXPECT_EQ(entry.name, "Operator One");
+  EXPECT_EQ(entry.address, "as it was");
+  EXPECT_EQ(entry.enabled, 1U);
+  UserEntry unknown{"kept", "", 0};
+  EXPECT_TRUE(service.GetUserEntry(GUID::Generate(), unknown));
+  EXPECT_EQ(unknown.name, "kept");
+  EXPECT_EQ(unknown.enabled, 1U);
+}
+
+TEST_F(UsersTest, ALinkToAnotherServiceOfTheTypeIsNoLinkToThisOne) {
+  const GUID user = MakeUser("Operator");
+  auto& first = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "First"));
+  ASSERT_TRUE(first.SaveUserEntry(user, {"Op", "op@example.org", 1}));
+  TheServices().RemoveAll();
+  auto& second = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Second"));
+  EXPECT_FALSE(second.IsUserConfigured(user));
+  EXPECT_FALSE(second.DeleteUser(user));
+  std::string address;
+  EXPECT_TRUE(second.GetUserAddress(user, address)) << "an address is suggested without a link";
+  EXPECT_EQ(address, "op@example.org");
+  EXPECT_FALSE(second.GetUserAddress(GUID::Generate(), address));
+}
+
+TEST_F(UsersTest, DeletingTakesRecordAndLinkButLeavesARecordWithoutALink) {
+  const GUID user = MakeUser("Operator");
+  auto& service = FindAs<CNtfyServiceNum>(SeedService(kTypeNumeric, "Pager"));
+  ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "555-1", 1}));
+  ASSERT_TRUE(service.DeleteUserLink(user));
+  EXPECT_FALSE(service.DeleteUser(user));
+  std::string address;
+  EXPECT_TRUE(service.GetUserAddress(user, address));
+
+  ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "555-2", 1}));
+  EXPECT_TRUE(service.DeleteUser(user));
+  EXPECT_FALSE(service.IsUserConfigured(user));
+  EXPECT_TRUE(service.GetUserAddress(user, address));
+  EXPECT_EQ(address, "555-1") << "only the record of the link is gone";
+}
+
+TEST_F(UsersTest, OneCallAddsAMailUserWithItsLink) {
+  const GUID user = MakeUser("Operator");
+  auto& service = FindAs<CNtfyServiceMHS>(SeedService(kTypeMhs, "Mail"));
+  ASSERT_TRUE(service.AddUserWithLink("Op", "op@site", user));
+  UserEntry entry;
+  EXPECT_TRUE(service.GetUserEntry(user, entry));
+  EXPECT_EQ(entry.address, "op@site");
+  EXPECT_EQ(entry.enabled, 1U);
+  ASSERT_EQ(Links(user).size(), 1U);
+  EXPECT_EQ(Links(user)[0].serviceName.View(), "Mail");
+}
+
+TEST_F(UsersTest, MciKeepsTheOtherMailSystemOfAUser) {
+  const GUID user = MakeUser("Operator");
+  auto& service = FindAs<CNtfyServiceMCI>(SeedService(kTypeMci, "MCI"));
+  std::uint32_t enabled = 7;
+  std::string address = "kept";
+  EXPECT_FALSE(service.GetUserExtra(enabled, address, user));
+  EXPECT_FALSE(service.SetUserExtra(1, "EMS", user));
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to reread user record just written for the service."));
+  ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "op", 1}));
+  EXPECT_TRUE(service.SetUserExtra(1, "EMS", user));
+  EXPECT_TRUE(service.GetUserExtra(enabled, address, user));
+  EXPECT_EQ(enabled, 1U);
+  EXPECT_EQ(address, "EMS");
+  const std::string record = CurrentUser(service);
+  EXPECT_STREQ(record.data() + 366, "EMS");
+  EXPECT_EQ(record[362], 1);
+}
+
+TEST_F(UsersTest, ListsTheUsersOfThisServiceWithTheirIdentities) {
+  auto& other = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Other"));
+  ListDialog dialog;
+  EXPECT_FALSE(other.FillUserList(dialog.list));
+  const GUID ann = MakeUser("Ann"), bob = MakeUser("Bob"), eve = MakeUser("Eve");
+  ASSERT_TRUE(other.SaveUserEntry(eve, {"Eve", "e", 1}));
+  const GUID other_id = other.ServiceId();
+  TheServices().RemoveAll();
+  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  EXPECT_FALSE(service.FillUserList(dialog.list)) << "the store has users, but none of this service";
+  ASSERT_TRUE(service.SaveUserEntry(bob, {"Bob", "b", 1}));
+  ASSERT_TRUE(service.SaveUserEntry(ann, {"Ann", "a", 1}));
+  EXPECT_TRUE(service.FillUserList(dialog.list));
+  EXPECT_THAT(dialog.Names(), ElementsAre("Ann", "Bob"));
+  EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(0)), ann);
+  EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(1)), bob);
+  EXPECT_NE(Find(other_id), nullptr);
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre("No records in the user installed services database.",
+                                                  "No records in the user installed services database."));
+}
+
+TEST_F(UsersTest, TypesWithoutUsersAnswerForNone) {
+  for (const std::uint32_t code : {1U, 7U, 8U, 12U, 13U}) {
+    SCOPED_TRACE(code);
+    TheServices().RemoveAll();
+    const GUID user = MakeUser("Operator");
+    CNtfyService& service = *Find(SeedService(code, "Service"));
+    ListDialog dialog;
+    EXPECT_FALSE(service.DeleteUser(user));
+    EXPECT_TRUE(service.FillUserList(dialog.list));
+    EXPECT_EQ(dialog.list.Count(), 0);
+    ASSERT_TRUE(service.AddOrUpdateUserLink(user, GUID::Generate(), code + 1, 1));
+    EXPECT_EQ(service.IsUserConfigured(user), code != kTypeTts && code != kTypeGeneric);
+    auto* users = dynamic_cast<CNtfyServiceUserBase*>(&service);
+    if (users == nullptr) continue;
+    UserEntry entry{"kept", "kept", 5};
+    std::string address = "kept";
+    EXPECT_TRUE(users->GetUserEntry(user, entry));
+    EXPECT_TRUE(users->SaveUserEntry(user, entry));
+    EXPECT_FALSE(users->GetUserAddress(user, address));
+    EXPECT_EQ(entry.name + address, "keptkept");
+  }
+}
+
+}  // namespace

@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+// Drives the shared library as a console does: loaded at run time, functions found by their decorated names.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+
+#include "alerting/alerting.h"
+#include "companions/alertstore/console_users.h"
+#include "companions/alertstore/stores.h"
+#include "platform/base/module.h"
+#include "platform/ui/desktop.h"
+
+namespace {
+
+using namespace alertstore;  // NOLINT
+using platform::GUID;
+using platform::kNullGuid;
+
+class QuietDesktop : public platform::ui::Desktop {
+ public:
+  QuietDesktop() { SetCurrent(this); }
+  ~QuietDesktop() override { SetCurrent(nullptr); }
+  platform::ui::Answer ShowMessage(const platform::ui::Message& message) override {
+    titles.insert(message.title);
+    ++messages;
+    return platform::ui::Answer::kOk;
+  }
+  std::set<std::string> titles;
+  int messages = 0;
+};
+
+/// Every export by name, and how it is called: api.DomainServiceGetCount().
+struct Api {
+  explicit Api(const platform::DynamicLibrary& library) {
+#define ALERTING_EXPORT(result, name, arguments, bytes) \
+  name = reinterpret_cast<decltype(name)>(library.Find("_" #name "@" #bytes));
+#define ALERTING_PLAIN_EXPORT(result, name, arguments) \
+  name = reinterpret_cast<decltype(name)>(library.Find(#name));
+#include "alerting/api/exports.def"
+#undef ALERTING_EXPORT
+#undef ALERTING_PLAIN_EXPORT
+  }
+#define ALERTING_EXPORT(result, name, arguments, bytes) result(*name) arguments;
+#define ALERTING_PLAIN_EXPORT(result, name, arguments) result(*name) arguments;
+#include "alerting/api/exports.def"
+#undef ALERTING_EXPORT
+#undef ALERTING_PLAIN_EXPORT
+};
+
+/// A data directory of its own and the library loaded for one test.
+class ExportsTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    directory_ = (std::filesystem::temp_directory_path() / "alerting-exports-XXXXXX").string();
+    ASSERT_NE(mkdtemp(directory_.data()), nullptr);
+    setenv("ALERTING_DATA", directory_.c_str(), 1);
+    library_ = std::make_unique<platform::DynamicLibrary>();
+    ASSERT_TRUE(library_->Load(ALERTING_LIBRARY)) << library_->Error();
+    api_ = std::make_unique<Api>(*library_);
+  }
+  void TearDown() override {
+    api_->CloseDBs();
+    library_.reset();
+    std::filesystem::remove_all(directory_);
+  }
+
+  template <class Record>
+  static GUID Add(std::uint32_t code, const char* name) {
+    CAlertNtfyServDB store;
+    EXPECT_EQ(store.DBOpen(), kOk);
+    ALRTNTFYSERV common{};
+    common.name.Assign(name);
+    common.recordType = code + 1;
+    common.enabled = 1;
+    Record record{};
+    GUID id{}, specific{};
+    EXPECT_EQ(store.DBAlertRecAdd(common, id, record, specific), kOk);
+    return id;
+  }
+
+  QuietDesktop desktop_;
+  std::string directory_;
+  std::unique_ptr<platform::DynamicLibrary> library_;
+  std::unique_ptr<Api> api_;
+  const GUID manager_ = GUID::Generate();
+};
+
+TEST_F(ExportsTest, EveryFunctionIsFoundUnderItsDecoratedNameOnly) {
+  int found = 0;
+#define ALERTING_EXPORT(result, name, arguments, bytes)                                \
+  found += api_->name != nullptr;                                                      \
+  EXPECT_NE(api_->name, nullptr) << #name;                                             \
+  EXPECT_EQ(library_->Find("_" #name "@28"), nullptr) << "another byte count: " #name; \
+  EXPECT_EQ(library_->Find(#name), nullptr) << "undecorated: " #name;
+#define ALERTING_PLAIN_EXPORT(result, name, arguments) \
+  found += api_->name != nullptr;                      \
+  EXPECT_NE(api_->name, nullptr) << #name;
+#include "alerting/api/exports.def"
+#undef ALERTING_EXPORT
+#undef ALERTING_PLAIN_EXPORT
+  EXPECT_EQ(found, 44);
+}
+
+TEST_F(ExportsTest, NothingElseLeavesTheLibrary) {
+  std::set<std::string> expected;
+#define ALERTING_EXPORT(result, name, arguments, bytes) expected.insert("_" #name "@@ARGS_" #bytes);
+#define ALERTING_PLAIN_EXPORT(result, name, arguments) expected.insert(#name);
+#include "alerting/api/exports.def"
+#undef ALERTING_EXPORT
+#undef ALERTING_PLAIN_EXPORT
+  std::set<std::string> leaving;
+  FILE* nm = popen("nm -D --defined-only --with-symbol-versions " ALERTING_LIBRARY, "r");
+  ASSERT_NE(nm, nullptr);
+  char address[64], kind[8], name[256];
+  char line[512];
+  while (std::fgets(line, sizeof(line), nm) != nullptr)
+    if (std::sscanf(line, "%63s %7s %255s", address, kind, name) == 3 && kind[0] != 'A') leaving.insert(name);
+  ASSERT_EQ(pclose(nm), 0);
+  EXPECT_EQ(leaving, expected);
+}
+
+TEST_F(ExportsTest, AnEmptyStoreAnswersTheFailureValuesOfEachFunction) {
+  EXPECT_EQ(api_->DomainServiceInit(), 1U);
+  EXPECT_EQ(api_->DomainServiceGetCount(), 0);
+  EXPECT_EQ(desktop_.messages, 1);
+  EXPECT_THAT(desktop_.titles, ::testing::ElementsAre("Alerting"));
+  EXPECT_EQ(api_->DomainServiceGetCount(), 0);
+  EXPECT_EQ(desktop_.messages, 1) << "told once";
+  EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, 0), 0) << "unread list";
+  EXPECT_EQ(api_->DomainServiceTypeFromID(0), 3U);
+  EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
+  EXPECT_EQ(api_->DomainServiceGetIconOffset(0), 0) << "unread list";
+  EXPECT_EQ(api_->UserUpdatePanelData(nullptr), 0U);
+  EXPECT_EQ(api_->DomainServiceSetBackupServer(kNullGuid), 1U);
+}
+
+TEST_F(ExportsTest, IndicesOutOfRangeAndUnknownIdentitiesAreFailures) {
+  Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  ALERTRESPREC response{};
+  for (const int index : {-1, 1, 0x7FFFFFFF, static_cast<int>(0x80000000)}) {
+    SCOPED_TRACE(index);
+    EXPECT_EQ(api_->DomainServiceGetInfo(index), nullptr);
+    EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, index), 2);
+    EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, index), 0);
+    EXPECT_EQ(api_->DomainServiceTypeFromID(index), 3U);
+    EXPECT_EQ(api_->DomainServiceGetIconOffset(index), -1);
+    EXPECT_EQ(api_->DomainServiceGetIcon(index), nullptr);
+    EXPECT_EQ(api_->DomainServiceGetResponseType(index), 0);
+    const std::uint32_t zeros[] = {api_->DomainServiceIsUser(index),
+                                   api_->DomainServiceIsFirstOfType(index),
+                                   api_->DomainServiceDeleteService(index, manager_),
+                                   api_->DomainServiceCopyService(index, "x"),
+                                   api_->DomainServiceCopyServiceX(index, "x", manager_),
+                                   api_->DomainServiceIsServer(index, manager_),
+                                   api_->DomainServiceServerEnable(index, manager_, 1),
+                                   api_->DomainServiceCachedIsServer(index, manager_),
+                                   api_->DomainServiceIsVirgin(index),
+                                   api_->DomainServiceUsesExtensionAgent(index),
+                                   api_->DomainServiceIsModemService(index),
+                                   api_->DomainServiceHasModem(index),
+                                   api_->DomainServiceHasBackupModem(index),
+                                   api_->DomainServiceShowBackup(index),
+                                   api_->DomainServiceInitWithDefMsg(index, &response),
+                                   api_->DomainServiceReinitializeResponse(index, &response),
+                                   api_->UserServiceUserIsConfigured(index, manager_),
+                                   api_->UserServiceUserDelete(index, manager_),
+                                   static_cast<std::uint32_t>(api_->UserGetAddServicePanelCount(index)),
+                                   static_cast<std::uint32_t>(api_->ResponseGetAddServicePanelCount(index)),
+                                   static_cast<std::uint32_t>(api_->ResponseGetPropertyPanelCount(index))};
+    EXPECT_THAT(zeros, ::testing::Each(0U));
+  }
+  EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
+  EXPECT_EQ(api_->DomainServiceInitWithDefMsgX(manager_, &response), 0U);
+  EXPECT_EQ(api_->DomainServiceValidateResponse(&response), 0U) << "its service is gone: no message";
+  EXPECT_EQ(api_->DomainServiceValidateResponse(nullptr), 0U);
+  EXPECT_EQ(api_->DomainServiceInitWithDefMsg(0, nullptr), 0U);
+  EXPECT_EQ(api_->UserUpdatePanelData(nullptr), 0U);
+  EXPECT_EQ(api_->ResponseUpdatePanelData(nullptr), 0U);
+  EXPECT_EQ(api_->ResponseUpdatePropertyPanelData(nullptr), 0U);
+  EXPECT_EQ(desktop_.messages, 0);
+}
+
+TEST_F(ExportsTest, ServicesAreCopiedEnabledAndDeleted) {
+  const GUID mail = Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  const GUID pager = Add<ALRTNPAGESERVICEREC>(11, "Pager");
+  const GUID port = Add<ALRTGENPORTSERVICEREC>(12, "Port");
+  ASSERT_EQ(api_->DomainServiceGetCount(), 3);
+  EXPECT_EQ(api_->DomainServiceType(mail), 1U);
+  EXPECT_EQ(api_->DomainServiceType(port), 2U);
+  EXPECT_EQ(api_->DomainServiceIsModemService(1), 1U);
+  EXPECT_EQ(api_->DomainServiceGetIconOffset(1), 10);
+  EXPECT_NE(api_->DomainServiceGetIcon(1), nullptr);
+  EXPECT_EQ(api_->DomainServiceIsVirgin(0), 0U);
+
+  ASSERT_EQ(api_->DomainServiceCopyServiceX(0, "Second mail", manager_), 1U);
+  ASSERT_EQ(api_->DomainServiceGetCount(), 4);
+  EXPECT_EQ(api_->DomainServiceGetInfo(3)->name.View(), "Second mail");
+  EXPECT_EQ(api_->DomainServiceIsVirgin(3), 1U);
+  EXPECT_EQ(api_->DomainServiceIsServer(3, manager_), 1U);
+  EXPECT_EQ(api_->DomainServiceIsServer(0, manager_), 0U);
+  EXPECT_EQ(api_->DomainServiceCachedIsServer(3, manager_), 0U) << "nothing loaded yet";
+  EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 1U);
+  EXPECT_EQ(api_->DomainServiceCachedIsServer(3, manager_), 1U);
+
+  EXPECT_EQ(api_->DomainServiceServerEnable(0, manager_, 1), 1U);
+  EXPECT_EQ(api_->DomainServiceDeleteService(0, manager_), 1U) << "the first of its type stays";
+  EXPECT_EQ(api_->DomainServiceGetCount(), 4);
+  EXPECT_EQ(api_->DomainServiceIsServer(0, manager_), 0U) << "but is disabled";
+  EXPECT_EQ(api_->DomainServiceDeleteService(3, manager_), 1U);
+  EXPECT_EQ(api_->DomainServiceGetCount(), 3);
+  EXPECT_EQ(api_->DomainServiceCopyService(1, nullptr), 1U);
+  EXPECT_EQ(api_->DomainServiceCopyService(1, "Second pager"), 1U);
+  EXPECT_EQ(api_->DomainServiceIsFirstOfType(1), 1U);
+  EXPECT_EQ(api_->DomainServiceIsFirstOfType(3), 0U);
+  EXPECT_EQ(desktop_.messages, 0);
+  EXPECT_NE(pager, port);
+}
+
+TEST_F(ExportsTest, ClosedStoresFailWithoutCrashing) {
+  Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  ASSERT_EQ(api_->DomainServiceGetCount(), 1);
+  EXPECT_EQ(api_->OpenDBs(), 1U);
+  EXPECT_EQ(api_->CloseDBs(), 1U);
+  EXPECT_EQ(api_->DomainServiceGetCount(), 0);
+  EXPECT_EQ(api_->DomainServiceGetInfo(0), nullptr);
+  EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 1U) << "a read has succeeded before";
+  EXPECT_EQ(api_->DomainServiceCopyService(0, "x"), 0U);
+  EXPECT_EQ(api_->UserServiceUserDelete(0, manager_), 0U);
+  EXPECT_EQ(api_->OpenDBs(), 0U);
+  api_->CloseDBs();
+  EXPECT_EQ(api_->OpenDBs(), 0U);
+  EXPECT_EQ(api_->DomainServiceGetCount(), 1) << "read again after the close";
+}
+
+TEST_F(ExportsTest, ResponsesAndUsersGoThroughTheServiceOfTheirIndex) {
+  const GUID mail = Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  ALERTRESPREC response{};
+  EXPECT_EQ(api_->DomainServiceReinitializeResponse(0, &response), 1U);
+  EXPECT_EQ(response.serviceId, mail);
+  EXPECT_EQ(api_->DomainServiceReinitializeResponse(0, &response), 0U);
+  EXPECT_EQ(api_->DomainServiceInitWithDefMsgX(mail, &response), 1U);
+  EXPECT_EQ(api_->DomainServiceValidateResponse(&response), 0U);
+  EXPECT_EQ(desktop_.messages, 1) << "no message in the response";
+  EXPECT_EQ(api_->UserGetAddServicePanelCount(0), 1);
+  EXPECT_EQ(api_->ResponseGetAddServicePanelCount(0), 1);
+  EXPECT_EQ(api_->UserServiceUserIsConfigured(0, manager_), 0U);
+  EXPECT_EQ(api_->UserServiceUserDelete(0, manager_), 0U);
+}
+
+TEST_F(ExportsTest, TheIconStripHoldsNineteenDistinctPictures) {
+  platform::ui::Bitmap* strip = api_->GetIconBitmapObject();
+  platform::ui::Bitmap* other = api_->GetIconBitmapObject();
+  ASSERT_NE(strip, nullptr);
+  EXPECT_NE(strip, other);
+  EXPECT_EQ(strip->Width(), 343);
+  EXPECT_EQ(strip->Height(), 18);
+  std::set<std::vector<std::uint32_t>> pictures;
+  for (int i = 0; i < 19; ++i) {
+    const platform::ui::Bitmap picture = strip->Part(18 * i, 0, 18, 18);
+    pictures.insert({picture.Data(), picture.Data() + 18 * 18});
+  }
+  EXPECT_EQ(pictures.size(), 19U);
+  EXPECT_EQ(api_->DeleteIconBitmapObject(strip), 1U);
+  EXPECT_EQ(api_->DeleteIconBitmapObject(other), 1U);
+  EXPECT_EQ(api_->DeleteIconBitmapObject(nullptr), 0U);
+  const std::unique_ptr<platform::ui::Bitmap> copy(api_->GetIconBitmap());
+  EXPECT_NE(copy, nullptr);
+  const int expected[] = {3, 2, 0, 1, -1, 17, 18, -1};
+  for (int code = 0; code < 8; ++code) EXPECT_EQ(api_->GetSpecialIconOffset(code), expected[code]);
+  EXPECT_EQ(api_->GetSpecialIconOffset(-1), -1);
+}
+
+}  // namespace

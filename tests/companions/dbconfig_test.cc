@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: MIT
+#include "companions/dbconfig/dbconfig.h"
+
+#include <fcntl.h>
+#include <gmock/gmock.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <thread>
+
+#include "companions/alertstore/stores.h"
+#include "companions/ctxhelp/resource_directory.h"
+#include "companions/dbconfig/service_types.h"
+#include "platform/base/paths.h"
+#include "tests/companions/json_schema.h"
+#include "tests/companions/store_fixture.h"
+#include "tests/support/failing_engine.h"
+
+using namespace alertstore;
+using nlohmann::json;
+using platform::GUID;
+using test_support::FailingEngine;
+using test_support::kAnyStore;
+using test_support::StoreOp;
+using testing::IsEmpty;
+
+namespace {
+
+/// A record with a default message of one keyword.
+template <class Record>
+Record WithBody(std::string_view body) {
+  Record record{};
+  record.defaultBody.Assign(body);
+  record.bodyKeywords[0].id = 1;
+  return record;
+}
+
+class DbConfigTest : public StoreTest {
+ protected:
+  void SetUp() override { ASSERT_EQ(services_.DBOpen(), kOk); }
+
+  ALRTNTFYSERV Common(std::uint32_t type, std::string_view name) {
+    ALRTNTFYSERV common{};
+    common.recordType = type;
+    common.name.Assign(name);
+    common.enabled = 1;
+    return common;
+  }
+
+  template <class Specific>
+  ALRTNTFYSERV AddService(std::uint32_t type, Specific specific) {
+    ALRTNTFYSERV common = Common(type, "Service " + std::to_string(type));
+    GUID id{}, specific_id{};
+    EXPECT_EQ(services_.DBAlertRecAdd(common, id, specific, specific_id), kOk);
+    return common;
+  }
+
+  template <class Store>
+  GUID Add(typename Store::RecordType record) {
+    Store store;
+    GUID id{};
+    EXPECT_EQ(store.DBOpen(), kOk);
+    EXPECT_EQ(store.DBAlertRecAdd(record, id), kOk);
+    return id;
+  }
+
+  template <class User>
+  void AddUser(const GUID& service, User user) {
+    CAlertUsrInstServDB links;
+    ASSERT_EQ(links.DBOpen(), kOk);
+    RecordStore<User> users;
+    ASSERT_EQ(users.DBOpen(), kOk);
+    ALRTUSRINSTSERV link{};
+    link.serviceId = service;
+    GUID id{}, user_id{};
+    ASSERT_EQ(links.DBAlertRecAdd(link, id, user, user_id), kOk);
+  }
+
+  /// One service of every type, with what belongs to it.
+  void AddFullSite();
+
+  std::uint32_t Write() { return dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0); }
+  std::string Path() const { return directory_ + "/alert-managers.json"; }
+  std::string Bytes() const {
+    std::string bytes;
+    EXPECT_TRUE(platform::ReadWholeFile(Path(), bytes));
+    return bytes;
+  }
+  json WrittenDocument() {
+    EXPECT_EQ(Write(), 0u);
+    return json::parse(Bytes());
+  }
+
+  CAlertNtfyServDB services_;
+};
+
+void DbConfigTest::AddFullSite() {
+  AddService(1, WithBody<ALRTMHSSERVICEREC>("mhs"));
+  AddService(2, WithBody<ALRTSNMPSERVICEREC>("snmp"));
+  const auto mci = AddService(3, WithBody<ALRTMCISERVICEREC>("mci"));
+  AddService(4, WithBody<ALRTCOMPUSSERVICEREC>("compuserve"));
+  const auto smtp = AddService(5, WithBody<ALRTSMTPSERVICEREC>("smtp"));
+  AddService(6, WithBody<ALRTMAPISERVICEREC>("mapi"));
+  AddService(7, WithBody<ALRTCCMAILSERVICEREC>("cc"));
+  AddService(8, ALRTWAVESERVICEREC{});
+  AddService(9, WithBody<ALRTTTSSERVICEREC>("speech"));
+  const auto alpha = AddService(11, WithBody<ALRTAPAGESERVICEREC>("alpha"));
+  const auto numeric = AddService(12, WithBody<ALRTNPAGESERVICEREC>("911"));
+  AddService(13, WithBody<ALRTGENPORTSERVICEREC>("port"));
+  GUID id{};
+  ALRTNTFYSERV program = Common(14, "Program");
+  ASSERT_EQ(services_.DBAlertRecAdd(program, id), kOk);
+
+  AddUser(smtp.serviceId, ALRTUSR_SMTPSERVICEREC{});
+  AddUser(mci.serviceId, ALRTUSR_MCISERVICEREC{});
+  AddUser(alpha.serviceId, ALRTUSR_APAGESERVICEREC{});
+  AddUser(numeric.serviceId, ALRTUSR_NPAGESERVICEREC{});
+  Add<CAlertRespDB>(ALERTRESPREC{});
+  Add<CAlertUSR_SNMPDB>(ALRTUSR_SNMPSERVICEREC{});
+  Add<CAlertSERV_MODEMDB>(ALRTSERV_MODEM{});
+  Add<CAlertMODEM_LOCATIONDB>(ALRTMODEM_LOCATION{});
+  Add<CAlertAPAGE_SERVICE_PROVIDERDB>(ALRTAPAGE_SERVICE_PROVIDER_REC{});
+  ALRTSERV_INST_NTFY_SERVREC enabled{};
+  enabled.managerGuid = Add<CAlert_SRV_CFGDB>(ALRT_SRV_CFGREC{});
+  enabled.serviceGuid = smtp.serviceId;
+  Add<CAlertSERV_INST_NTFY_SERVDB>(enabled);
+}
+
+JsonSchema FileSchema() {
+  std::string bytes;
+  const std::string path = ctxhelp::ResourceDirectory() + "/../docs/configuration-file.schema.json";
+  EXPECT_TRUE(platform::ReadWholeFile(path, bytes)) << path;
+  return JsonSchema(json::parse(bytes));
+}
+
+TEST_F(DbConfigTest, AFileOfAllTypesFollowsTheSchema) {
+  AddFullSite();
+  const json document = WrittenDocument();
+  EXPECT_THAT(FileSchema().Problems(document), IsEmpty());
+  ASSERT_EQ(document["services"].size(), dbconfig::ServiceTypes().size());
+  for (std::size_t i = 0; i < document["services"].size(); ++i)
+    EXPECT_EQ(document["services"][i]["type"], dbconfig::ServiceTypes()[i].key);
+}
+
+TEST_F(DbConfigTest, TheSchemaRefusesWhatTheFileNeverSays) {
+  AddFullSite();
+  const json good = WrittenDocument();
+  const struct {
+    const char* what;
+    std::function<void(json&)> change;
+  } cases[] = {
+      {"a later version", [](json& d) { d["version"] = 2; }},
+      {"no responses", [](json& d) { d.erase("responses"); }},
+      {"an unknown type", [](json& d) { d["services"][0]["type"] = "pigeon"; }},
+      {"an unknown member", [](json& d) { d["modems"][0]["colour"] = "blue"; }},
+      {"another type's settings",
+       [](json& d) { d["services"][0]["settings"] = d["services"][4]["settings"]; }},
+      {"a number as text", [](json& d) { d["responses"][0]["priority"] = "1"; }},
+      {"a malformed identity", [](json& d) { d["services"][0]["id"] = "{1}"; }},
+      {"mail without users", [](json& d) { d["services"][4].erase("users"); }},
+      {"a broken backup modem", [](json& d) { d["services"][2]["backupModem"] = json::object(); }},
+      {"a negative speed", [](json& d) { d["modems"][0]["baudRate"] = -1; }},
+  };
+  for (const auto& [what, change] : cases) {
+    json bad = good;
+    change(bad);
+    EXPECT_FALSE(FileSchema().Problems(bad).empty()) << what;
+  }
+}
+
+TEST_F(DbConfigTest, AServiceIsToldWithItsSettingsMessageAndUsers) {
+  auto record = WithBody<ALRTSMTPSERVICEREC>("Hello %s, 5% left");
+  record.smtpServer.Assign("mail.example.org");
+  record.password.Assign("secret");
+  record.defaultSubject.Assign("%ld");
+  record.subjectKeywords[0].id = 11;
+  record.subjectKeywords[2].id = 12;  // behind an unused slot: no placeholder reaches it
+  record.defaultPriority = 2;
+  const ALRTNTFYSERV service = AddService(5, record);
+  ALRTUSR_SMTPSERVICEREC user{};
+  user.userId = GUID::Generate();
+  user.userName.Assign("Ann");
+  user.userAddress.Assign("ann@example.org");
+  user.userEnabled = 1;
+  AddUser(service.serviceId, user);
+
+  const json told = WrittenDocument()["services"][0];
+  EXPECT_EQ(told["id"], service.serviceId.ToString());
+  EXPECT_EQ(told["settings"]["smtpServer"], "mail.example.org");
+  EXPECT_EQ(told["settings"]["password"], "secret");
+  EXPECT_EQ(told["defaultMessage"], json::parse(R"({
+    "body": {"text": "Hello %s, 5% left", "keywords": [{"id": 1, "name": "<User Name>", "format": "%s"}]},
+    "subject": {"text": "%ld", "keywords": [{"id": 11, "name": "<Event ID>", "format": "%ld"}]},
+    "priority": 2})"));
+  EXPECT_EQ(told["users"],
+            json::parse(R"([{"userId": ")" + user.userId.ToString() +
+                        R"(", "name": "Ann", "address": "ann@example.org", "enabled": true}])"));
+}
+
+TEST_F(DbConfigTest, ModemAndBackupModemComeFromTheirOwnRecords) {
+  ALRTNPAGESERVICEREC record{};
+  record.modemName.Assign("first");
+  record.baudRate = 9600;
+  record.dialPrefix.Assign("ATDT");
+  ALRTNTFYSERV service = AddService(12, record);
+  EXPECT_EQ(WrittenDocument()["services"][0]["backupModem"], nullptr);
+
+  record.modemName.Assign("second");
+  service.backupSpecificRecordId = Add<CAlertNPAGENtfyServDB>(record);
+  ASSERT_EQ(services_.DBAlertRecUpdate(service), kOk);
+  const json told = WrittenDocument()["services"][0];
+  EXPECT_EQ(told["modem"]["modemName"], "first");
+  EXPECT_EQ(told["modem"]["baudRate"], 9600);
+  EXPECT_EQ(told["modem"]["dialPrefix"], "ATDT");
+  EXPECT_EQ(told["modem"]["modemId"], nullptr);
+  EXPECT_EQ(told["backupModem"]["modemName"], "second");
+}
+
+TEST_F(DbConfigTest, EachManagerListsItsOwnServices) {
+  ALRT_SRV_CFGREC manager{};
+  manager.managerName.Assign("server-1");
+  const GUID first = Add<CAlert_SRV_CFGDB>(manager);
+  manager.managerName.Assign("server-2");
+  Add<CAlert_SRV_CFGDB>(manager);
+  ALRTSERV_INST_NTFY_SERVREC entry{};
+  entry.managerGuid = first;
+  entry.serviceGuid = GUID::Generate();
+  entry.isBackup = 1;
+  Add<CAlertSERV_INST_NTFY_SERVDB>(entry);
+
+  const json managers = WrittenDocument()["alertManagers"];
+  EXPECT_EQ(managers[0]["name"], "server-1");
+  EXPECT_EQ(managers[0]["services"],
+            json::array({{{"serviceId", entry.serviceGuid.ToString()}, {"backup", true}}}));
+  EXPECT_EQ(managers[1]["services"], json::array());
+}
+
+TEST_F(DbConfigTest, AResponseNamesItsKeywords) {
+  ALERTRESPREC response{};
+  response.serviceRecordType = 5;
+  response.message.Assign("%s");
+  response.messageKeywords[0] = 2;
+  response.userName.Assign("Ann");
+  Add<CAlertRespDB>(response);
+  const json told = WrittenDocument()["responses"][0];
+  EXPECT_EQ(told["serviceType"], "internet-mail");
+  EXPECT_EQ(told["serviceId"], nullptr);
+  EXPECT_EQ(told["message"]["keywords"][0]["name"], "<Workstation>");
+  EXPECT_EQ(told["subject"]["keywords"], json::array());
+}
+
+TEST_F(DbConfigTest, LooseEndsAreLeftOut) {
+  ALRTNTFYSERV alone = Common(5, "no record of its own"), script = Common(15, "script");
+  GUID id{};
+  ASSERT_EQ(services_.DBAlertRecAdd(alone, id), kOk);
+  ASSERT_EQ(services_.DBAlertRecAdd(script, id), kOk);
+  ALRTUSRINSTSERV link{};
+  link.serviceId = alone.serviceId;
+  link.userRecordId = GUID::Generate();
+  Add<CAlertUsrInstServDB>(link);
+
+  const json document = WrittenDocument();
+  ASSERT_EQ(document["services"].size(), 1u);
+  EXPECT_FALSE(document["services"][0].contains("settings"));
+  EXPECT_EQ(document["services"][0]["users"], json::array());
+  EXPECT_THAT(FileSchema().Problems(document), IsEmpty());
+}
+
+TEST_F(DbConfigTest, TheFileIsForItsOwnerAndTheSameWhenNothingChanged) {
+  AddFullSite();
+  ASSERT_EQ(Write(), 0u);
+  const std::string first = Bytes();
+  struct stat status {};
+  ASSERT_EQ(stat(Path().c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0600u);
+  ASSERT_EQ(Write(), 0u);
+  EXPECT_EQ(Bytes(), first);
+}
+
+TEST_F(DbConfigTest, BytesThatAreNoUtf8AreReplaced) {
+  ALRTNTFYSERV service = Common(14, "a\xFFz");
+  GUID id{};
+  ASSERT_EQ(services_.DBAlertRecAdd(service, id), kOk);
+  EXPECT_EQ(WrittenDocument()["services"][0]["name"], "a\uFFFDz");
+}
+
+TEST_F(DbConfigTest, AnyStoreThatCannotBeReadFailsTheWriteAndKeepsTheFile) {
+  AddFullSite();
+  ASSERT_EQ(Write(), 0u);
+  const std::string before = Bytes();
+  ALRTNTFYSERV more = Common(14, "one more");
+  GUID id{};
+  ASSERT_EQ(services_.DBAlertRecAdd(more, id), kOk);
+
+  const auto engine = std::make_shared<FailingEngine>(CurrentEngine());
+  SetEngine(engine);
+  int failed = 0;
+  for (int n = 1;; ++n) {
+    engine->FailNth(kAnyStore, StoreOp::kAny, n);
+    const std::uint32_t status = Write();
+    if (engine->Failures() == 0) break;
+    ++failed;
+    EXPECT_EQ(status, dbconfig::kStoresUnreadable) << engine->Calls().back().Text();
+    EXPECT_EQ(Bytes(), before) << engine->Calls().back().Text();
+    engine->Forget();
+  }
+  EXPECT_GT(failed, 60);  // 29 stores are opened and read, and one read transaction begun
+  EXPECT_NE(Bytes(), before);
+}
+
+TEST_F(DbConfigTest, AFileThatCannotBeReplacedFailsTheWrite) {
+  std::filesystem::create_directories(Path() + "/in the way");
+  EXPECT_EQ(Write(), dbconfig::kFileUnwritable);
+  EXPECT_EQ(dbconfig::MakeDbConfig()->IsConversionComplete(), 1u);
+}
+
+TEST_F(DbConfigTest, AWriteWaitsForAnotherConsoleAndIsUnderWayMeanwhile) {
+  ASSERT_EQ(Write(), 0u);
+  const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CLOEXEC);
+  ASSERT_EQ(flock(other_console, LOCK_EX), 0);
+  const auto component = dbconfig::MakeDbConfig();
+  std::uint32_t status = 99;
+  std::thread writer([&] { status = component->CreateAlertServerConfigFile(0); });
+  while (component->IsConversionComplete() != 0) std::this_thread::yield();
+  close(other_console);
+  writer.join();
+  EXPECT_EQ(status, 0u);
+  EXPECT_EQ(component->IsConversionComplete(), 1u);
+}
+
+TEST_F(DbConfigTest, TheDataDirectoryIsCutToTheBuffer) {
+  UseDirectory("/data/\u00E9");
+  char buffer[16] = "untouched";
+  const auto component = dbconfig::MakeDbConfig();
+  component->GetQEVDataDirectory(buffer, 0);
+  EXPECT_STREQ(buffer, "untouched");
+  component->GetQEVDataDirectory(buffer, sizeof buffer);
+  EXPECT_STREQ(buffer, "/data/\u00E9");
+  component->GetQEVDataDirectory(buffer, 8);  // one byte too few for the last letter
+  EXPECT_STREQ(buffer, "/data/");
+}
+
+}  // namespace

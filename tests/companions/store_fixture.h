@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "companions/alertstore/engine.h"
+#include "companions/alertstore/stores.h"
+
+/// A data directory of the test's own, with the embedded engine.
+class StoreTest : public testing::Test {
+ protected:
+  StoreTest() {
+    std::string name = testing::TempDir() + "store-XXXXXX";
+    directory_ = mkdtemp(name.data());
+    UseDirectory(directory_);
+    alertstore::SetEngine(nullptr);
+  }
+  ~StoreTest() override {
+    alertstore::SetEngine(nullptr);
+    std::error_code ignored;
+    std::filesystem::remove_all(directory_, ignored);
+  }
+
+  static void UseDirectory(const std::string& directory) { setenv("ALERTING_DATA", directory.c_str(), 1); }
+
+  std::string directory_;
+};
+
+/// The names of the records that a scan gives, as "a b c".
+template <class Store>
+std::string NamesOf(Store& store, std::uint32_t selector) {
+  std::string names;
+  typename Store::RecordType record{};
+  alertstore::Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
+  for (; status == alertstore::kOk; status = store.DBAlertRecFindNext(record)) {
+    if (!names.empty()) names += ' ';
+    names += record.name.View();
+  }
+  return names;
+}
+
+/// Adds a record of that name and answers its identity; a failure fails the test.
+template <class Store>
+platform::GUID AddNamed(Store& store, std::string_view name) {
+  typename Store::RecordType record{};
+  record.name.Assign(name);
+  platform::GUID id{};
+  EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk) << name;
+  return id;
+}

@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/select.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <functional>
+#include <string>
+
+#include "companions/alertstore/file_lock.h"
+#include "tests/companions/store_fixture.h"
+
+using namespace alertstore;
+using platform::GUID;
+
+namespace {
+
+// Another console: a child process that runs `body` and reports its truth. It is started before this process
+// has a store open, since a connection must not be used on both sides of a fork.
+pid_t StartConsole(const std::function<bool()>& body) {
+  const pid_t child = fork();
+  if (child == 0) _exit(body() ? 0 : 1);
+  return child;
+}
+
+bool Succeeded(pid_t child) {
+  int status = 0;
+  return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+// One end writes a byte, the other waits for it, for 10 seconds at most.
+class Signal {
+ public:
+  Signal() { EXPECT_EQ(pipe(ends_), 0); }
+  ~Signal() {
+    close(ends_[0]);
+    close(ends_[1]);
+  }
+  Signal(const Signal&) = delete;
+  Signal& operator=(const Signal&) = delete;
+
+  bool Send() const { return write(ends_[1], "x", 1) == 1; }
+  bool Wait() const {
+    fd_set set;
+    FD_ZERO(&set);
+    FD_SET(ends_[0], &set);
+    timeval limit{10, 0};
+    char byte = 0;
+    return select(ends_[0] + 1, &set, nullptr, nullptr, &limit) == 1 && read(ends_[0], &byte, 1) == 1;
+  }
+
+ private:
+  int ends_[2];
+};
+
+class StoreProcessesTest : public StoreTest {
+ protected:
+  StoreProcessesTest() : limit_before_(FileLock::WaitLimit()) {}
+  ~StoreProcessesTest() override { FileLock::SetWaitLimit(limit_before_); }
+
+  // One service, added by a process that has ended, so that none has the database open.
+  GUID AddServiceAndClose() {
+    CAlertNtfyServDB services;
+    EXPECT_EQ(services.DBOpen(), kOk);
+    return AddNamed(services, "shared");
+  }
+
+ private:
+  const std::chrono::milliseconds limit_before_;
+};
+
+bool CountUp(const GUID& id, int times) {
+  CAlertNtfyServDB services;
+  if (services.DBOpen() != kOk) return false;
+  for (int i = 0; i < times; ++i) {
+    ALRTNTFYSERV record{};
+    record.serviceId = id;
+    if (services.File().DBFileLock() != kOk) return false;
+    const bool counted = services.DBAlertRecRetrieve(id, record) == kOk &&
+                         (record.enabled = record.enabled + 1, services.DBAlertRecUpdate(record) == kOk);
+    if (services.File().DBFileUnlock() != kOk || !counted) return false;
+  }
+  return true;
+}
+
+TEST_F(StoreProcessesTest, TwoConsolesThatCountUnderTheLockLoseNothing) {
+  const GUID id = AddServiceAndClose();
+  constexpr int kTimes = 1000;
+  const pid_t one = StartConsole([&] { return CountUp(id, kTimes); });
+  const pid_t two = StartConsole([&] { return CountUp(id, kTimes); });
+  EXPECT_TRUE(Succeeded(one));
+  EXPECT_TRUE(Succeeded(two));
+
+  CAlertNtfyServDB services;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  ALRTNTFYSERV record{};
+  record.serviceId = id;
+  ASSERT_EQ(services.DBAlertRecRetrieve(id, record), kOk);
+  EXPECT_EQ(record.enabled, 2u * kTimes);
+}
+
+TEST_F(StoreProcessesTest, TwoConsolesThatAddWithoutALockBothSucceed) {
+  const auto add_many = [] {
+    CAlertNtfyServDB services;
+    if (services.DBOpen() != kOk) return false;  // both make the database
+    for (int i = 0; i < 200; ++i) {
+      ALRTNTFYSERV common{};
+      ALRTMHSSERVICEREC specific{};
+      GUID id{}, specific_id{};
+      if (services.DBAlertRecAdd(common, id, specific, specific_id) != kOk) return false;
+    }
+    return true;
+  };
+  const pid_t one = StartConsole(add_many);
+  const pid_t two = StartConsole(add_many);
+  EXPECT_TRUE(Succeeded(one));
+  EXPECT_TRUE(Succeeded(two));
+}
+
+TEST_F(StoreProcessesTest, ALockHeldElsewhereEndsTheWaitWithAStatus) {
+  AddServiceAndClose();
+  Signal locked, done;
+  const pid_t holder = StartConsole([&] {
+    CAlertNtfyServDB services;
+    return services.DBOpen() == kOk && services.File().DBFileLock() == kOk && locked.Send() && done.Wait();
+  });
+  ASSERT_TRUE(locked.Wait());
+  CAlertNtfyServDB services;
+  CAlertRespDB responses;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  ASSERT_EQ(responses.DBOpen(), kOk);
+  FileLock::SetWaitLimit(std::chrono::milliseconds(50));
+  EXPECT_EQ(services.File().DBFileLock(), kLockTimeout);
+  EXPECT_EQ(services.File().DBFileUnlock(), kNotLocked);
+  EXPECT_EQ(responses.File().DBFileLock(), kOk) << "every store has a lock of its own";
+  AddNamed(services, "not locked out");
+
+  FileLock::SetWaitLimit(std::chrono::seconds(10));
+  EXPECT_TRUE(done.Send());
+  EXPECT_EQ(services.File().DBFileLock(), kOk) << "waits until the holder has gone";
+  EXPECT_TRUE(Succeeded(holder));
+}
+
+TEST_F(StoreProcessesTest, AKilledHolderFreesItsLock) {
+  AddServiceAndClose();
+  Signal locked, never;
+  const pid_t holder = StartConsole([&] {
+    CAlertNtfyServDB services;
+    return services.DBOpen() == kOk && services.File().DBFileLock() == kOk && locked.Send() && never.Wait();
+  });
+  ASSERT_TRUE(locked.Wait());
+  ASSERT_EQ(kill(holder, SIGKILL), 0);
+  CAlertNtfyServDB services;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  EXPECT_EQ(services.File().DBFileLock(), kOk);
+  waitpid(holder, nullptr, 0);
+}
+
+// A child inherits its parent's open files. Were the lock among them, it would outlive the parent's unlock.
+TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
+  CAlertNtfyServDB services;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  ASSERT_EQ(services.File().DBFileLock(), kOk);
+  Signal done;
+  const pid_t child = StartConsole([&] { return done.Wait(); });
+  ASSERT_EQ(services.File().DBFileUnlock(), kOk);
+
+  CAlertNtfyServDB again;
+  ASSERT_EQ(again.DBOpen(), kOk);
+  FileLock::SetWaitLimit(std::chrono::milliseconds(50));
+  EXPECT_EQ(again.File().DBFileLock(), kOk);
+  EXPECT_TRUE(done.Send());
+  EXPECT_TRUE(Succeeded(child));
+}
+
+TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
+  CAlertNtfyServDB one;
+  ASSERT_EQ(one.DBOpen(), kOk);
+  FileLock::SetWaitLimit(std::chrono::milliseconds(50));
+  {
+    CAlertNtfyServDB two;
+    ASSERT_EQ(two.DBOpen(), kOk);
+    EXPECT_EQ(two.File().DBFileLock(), kOk);
+    EXPECT_EQ(two.File().DBFileLock(), kAlreadyLocked);
+    EXPECT_EQ(one.File().DBFileLock(), kLockTimeout);
+  }
+  EXPECT_EQ(one.File().DBFileLock(), kOk) << "the lock went with its store object";
+  EXPECT_EQ(one.File().DBFileUnlock(), kOk);
+  EXPECT_EQ(one.File().DBFileUnlock(), kNotLocked);
+}
+
+// The services there are; each must have its specific record, and there must be no other specific record.
+int CountWholeServices() {
+  CAlertNtfyServDB services;
+  EXPECT_EQ(services.DBOpen(), kOk);
+  auto* specifics = services.SpecificStore<ALRTSNMPSERVICEREC>();
+  int commons = 0, others = 0;
+  ALRTNTFYSERV common{};
+  ALRTSNMPSERVICEREC specific{};
+  Status status = services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, common);
+  for (; status == kOk; status = services.DBAlertRecFindNext(common), ++commons) {
+    specific.guid = common.specificRecordId;
+    EXPECT_EQ(specifics->DBAlertRecRetrieve(specific.guid, specific), kOk);
+  }
+  status = specifics->DBAlertRecFindFirst(kByIdentity, 0, nullptr, specific);
+  for (; status == kOk; status = specifics->DBAlertRecFindNext(specific)) ++others;
+  EXPECT_EQ(commons, others);
+  return commons;
+}
+
+// A console is killed again and again while it adds services. Whatever was under way, no service may be
+// without its specific record, and none that was acknowledged may be missing.
+TEST_F(StoreProcessesTest, ATwoRecordAddIsNeverHalfThere) {
+  int acknowledged_adds = 0;
+  for (int round = 0; round < 20; ++round) {
+    SCOPED_TRACE(round);
+    Signal acknowledged;
+    const pid_t adder = StartConsole([&] {
+      CAlertNtfyServDB services;
+      bool added = services.DBOpen() == kOk;
+      while (added) {
+        ALRTNTFYSERV common{};
+        ALRTSNMPSERVICEREC specific{};
+        GUID id{}, specific_id{};
+        added = services.DBAlertRecAdd(common, id, specific, specific_id) == kOk && acknowledged.Send();
+      }
+      return false;
+    });
+    for (int i = 0; i < 3; ++i, ++acknowledged_adds) ASSERT_TRUE(acknowledged.Wait());
+    usleep(static_cast<useconds_t>(round * 37));  // into another part of an add each time
+    kill(adder, SIGKILL);
+    waitpid(adder, nullptr, 0);
+    EXPECT_GE(CountWholeServices(), acknowledged_adds);
+  }
+}
+
+}  // namespace

@@ -1,0 +1,365 @@
+// SPDX-License-Identifier: MIT
+// Runs the real program in data directories of its own.
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <vector>
+
+#include "companions/alertstore/stores.h"
+#include "platform/base/paths.h"
+
+using namespace alertstore;
+using nlohmann::json;
+using platform::GUID;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace {
+
+struct Ran {
+  int code;
+  std::string out;
+  std::string err;
+};
+
+std::string Quoted(const std::string& argument) { return "'" + argument + "'"; }
+
+class AlertctlTest : public testing::Test {
+ protected:
+  AlertctlTest() {
+    std::string name = testing::TempDir() + "alertctl-XXXXXX";
+    root_ = mkdtemp(name.data());
+    data_ = root_ + "/data";
+    setenv("ALERTING_DATA", data_.c_str(), 1);
+  }
+  ~AlertctlTest() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(root_, ignored);
+  }
+
+  Ran Run(const std::vector<std::string>& arguments) {
+    std::string command = Quoted(ALERTCTL);
+    for (const std::string& argument : arguments) command += " " + Quoted(argument);
+    command += " >" + Quoted(root_ + "/out") + " 2>" + Quoted(root_ + "/err");
+    const int status = std::system(command.c_str());
+    Ran ran{WIFEXITED(status) ? WEXITSTATUS(status) : -1, {}, {}};
+    platform::ReadWholeFile(root_ + "/out", ran.out);
+    platform::ReadWholeFile(root_ + "/err", ran.err);
+    return ran;
+  }
+
+  /// What a verb prints with --json; it must succeed.
+  json RunJson(std::vector<std::string> arguments) {
+    arguments.push_back("--json");
+    const Ran ran = Run(arguments);
+    EXPECT_EQ(ran.code, 0) << ran.err;
+    return json::parse(ran.out, nullptr, false);
+  }
+
+  std::string ConfigFile() {
+    EXPECT_EQ(Run({"config", "write"}).code, 0);
+    std::string bytes;
+    EXPECT_TRUE(platform::ReadWholeFile(data_ + "/alert-managers.json", bytes));
+    return bytes;
+  }
+
+  std::string root_, data_;
+};
+
+/// The first record of the store for which `wanted` holds; a missing one fails the test.
+template <class Store, class Wanted>
+typename Store::RecordType Find(Store& store, Wanted wanted) {
+  typename Store::RecordType record{};
+  EXPECT_EQ(store.DBOpen(), kOk);
+  const std::uint32_t selector = store.Schema().selectors.front().number;
+  Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
+  while (status == kOk && !wanted(record)) status = store.DBAlertRecFindNext(record);
+  EXPECT_EQ(status, kOk) << "no such record in " << store.Schema().file;
+  return record;
+}
+
+template <class Store>
+Store& Opened(Store& store) {
+  EXPECT_EQ(store.DBOpen(), kOk);
+  return store;
+}
+
+ALRTNTFYSERV ServiceOfType(std::uint32_t type) {
+  CAlertNtfyServDB services;
+  return Find(services, [&](const ALRTNTFYSERV& service) { return service.recordType == type; });
+}
+
+TEST_F(AlertctlTest, InitSetsUpOnceAndThenChangesNothing) {
+  const json first = RunJson({"init"});
+  EXPECT_EQ(first["changed"], true);
+  EXPECT_EQ(first["added"],
+            json::parse(R"({"alertManagers": 1, "locations": 1, "modemTypes": 6, "services": 13,
+                                            "testResponses": 13})"));
+  const std::string before = ConfigFile();
+  const Ran again = Run({"init"});
+  EXPECT_EQ(again.code, 0);
+  EXPECT_THAT(again.out, HasSubstr("Nothing to add"));
+  EXPECT_EQ(ConfigFile(), before);
+}
+
+TEST_F(AlertctlTest, InitCompletesARunThatWasCutShort) {
+  RunJson({"init"});
+  CAlertNtfyServDB services;
+  CAlertRespDB responses;
+  CAlertMODEM_LOCATIONDB locations;
+  const GUID program = ServiceOfType(14).serviceId;
+  ASSERT_EQ(Opened(services).DBAlertRecDelete(program), kOk);
+  ASSERT_EQ(Opened(responses).DBAlertRecDelete(*GUID::Parse("3217DA57-ADD1-11CF-8137-000000000001")), kOk);
+  ASSERT_EQ(locations.DBOpen(), kOk);
+  ASSERT_EQ(locations.DBAlertRecDelete(Find(locations, [](const auto&) { return true; }).guid), kOk);
+
+  EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "locations": 1, "modemTypes": 0,
+                                                        "services": 1, "testResponses": 1})"));
+  EXPECT_EQ(ServiceOfType(14).serviceId, program);
+  EXPECT_EQ(RunJson({"manager", "list"})[0]["services"].size(), 13u) << "one entry a service, none twice";
+}
+
+TEST_F(AlertctlTest, InitBringsNothingBackThatWasRemovedFromAFinishedSite) {
+  RunJson({"init"});
+  ASSERT_EQ(Run({"service", "disable", "Internet Mail"}).code, 0);
+  CAlertSERV_MODEMDB types("QModemDB.dat");
+  ASSERT_EQ(Opened(types).DBAlertRecDelete(Find(types, [](const auto&) { return true; }).guid), kOk);
+  EXPECT_EQ(RunJson({"init"})["changed"], false);
+}
+
+TEST_F(AlertctlTest, EveryTypeHasItsTestResponse) {
+  RunJson({"init"});
+  CAlertRespDB responses;
+  for (std::uint32_t type : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14}) {
+    const GUID id{
+        0x3217DA53u + type - 1, std::uint16_t{0xADD1}, std::uint16_t{0x11CF}, {0x81, 0x37, 0, 0, 0, 0, 0, 1}};
+    const ALERTRESPREC response = Find(responses, [&](const ALERTRESPREC& r) { return r.responseId == id; });
+    const ALRTNTFYSERV service = ServiceOfType(type);
+    EXPECT_EQ(response.serviceId, service.serviceId) << type;
+    EXPECT_EQ(response.serviceName.View(), service.name.View());
+    EXPECT_EQ(response.serviceRecordType, type);
+    const bool device = type == 2 || type == 8 || type == 9 || type == 13;
+    EXPECT_EQ(response.responseType, type == 14 ? 4 : device ? 16 : 1) << type;
+  }
+}
+
+TEST_F(AlertctlTest, DefaultMessagesAreStoredWithTheirKeywords) {
+  RunJson({"init"});
+  CAlertNtfyServDB services;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  ALRTSMTPSERVICEREC record{};
+  record.guid = ServiceOfType(5).specificRecordId;
+  ASSERT_EQ(services.SpecificStore<ALRTSMTPSERVICEREC>()->DBAlertRecRetrieve(record.guid, record), kOk);
+  EXPECT_EQ(record.defaultSubject.View(), "%s: %s");
+  EXPECT_EQ(record.subjectKeywords[0].id, 8u);
+  EXPECT_EQ(record.subjectKeywords[0].text.View(), "<Severity>");
+  EXPECT_EQ(record.subjectKeywords[1].id, 4u);
+  EXPECT_EQ(record.subjectKeywords[1].format.View(), "%s");
+  EXPECT_EQ(record.subjectKeywords[2].id, 0u);
+  EXPECT_THAT(std::string(record.defaultBody.View()), HasSubstr("Event number: %ld\n"));
+  EXPECT_EQ(record.defaultPriority, 1u);
+
+  CAlertRespDB responses;
+  const auto response = Find(responses, [](const ALERTRESPREC& r) { return r.serviceRecordType == 5; });
+  EXPECT_EQ(response.message.View(), record.defaultBody.View());
+  EXPECT_EQ(response.subjectKeywords[1], 4);
+}
+
+TEST_F(AlertctlTest, ListsAndShowsAsTextAndAsJson) {
+  EXPECT_THAT(Run({"service", "list"}).out, HasSubstr("alertctl init"));
+  RunJson({"init"});
+  EXPECT_THAT(Run({"service", "list"}).out, HasSubstr("cc:Mail"));
+  const json list = RunJson({"service", "list"});
+  ASSERT_EQ(list.size(), 13u);
+  EXPECT_EQ(list[4]["name"], "Internet Mail");
+  EXPECT_EQ(list[4]["type"], "internet-mail");
+  EXPECT_EQ(list[4]["alertManagers"].size(), 1u);
+
+  EXPECT_THAT(Run({"service", "show", "INTERNET mail"}).out, HasSubstr("Workstation: <Workstation>"));
+  const json by_id = RunJson({"service", "show", list[4]["id"]});
+  EXPECT_EQ(by_id["name"], "Internet Mail");
+  EXPECT_EQ(by_id["defaultMessage"]["subject"]["text"], "%s: %s");
+
+  EXPECT_EQ(RunJson({"response", "list"}).size(), 13u);
+  EXPECT_EQ(RunJson({"response", "show", "3217da57-add1-11cf-8137-000000000001"})["serviceName"],
+            "Internet Mail");
+}
+
+TEST_F(AlertctlTest, ExitCodesAndMessagesSayWhatIsWrong) {
+  RunJson({"init"});
+  RunJson({"user", "add", "Ann"});
+  std::filesystem::create_directories(data_ + "/plain");
+  const struct {
+    std::vector<std::string> arguments;
+    int code;
+    const char* says;
+  } cases[] = {
+      {{}, 2, "subcommand"},
+      {{"service"}, 2, "subcommand"},
+      {{"service", "fetch"}, 2, "fetch"},
+      {{"service", "show"}, 2, "service"},
+      {{"service", "list", "--colour"}, 2, "--colour"},
+      {{"service", "show", "Pigeon Post"}, 3, "no service is named \"Pigeon Post\""},
+      {{"response", "show", "{00000000-0000-0000-0000-000000000001}"}, 3, "no response"},
+      {{"response", "show", "first"}, 4, "\"first\" is no identity"},
+      {{"service", "copy", "Internet Mail", "cc:mail"}, 4, "already"},
+      {{"service", "copy", "Internet Mail", "123456789012345678901234567890123"}, 4, "1 to 32 bytes"},
+      {{"service", "copy", "Internet Mail", "New", "--manager", "nowhere"}, 3, "no alert manager"},
+      {{"service", "delete", "Internet Mail"}, 4, "first Internet Mail service"},
+      {{"user", "add", ""}, 4, "1 to 64 bytes"},
+      {{"user", "add", "Bob", "--id", "7"}, 4, "no identity"},
+      {{"user", "remove", "Bob"}, 3, "no user is named \"Bob\""},
+      {{"entry", "set", "Ann", "Wave File", "x"}, 4, "no entries on Wave File"},
+      {{"entry", "set", "Ann", "Numeric Pager", "12345678901234567890123456"}, 4, "1 to 25 bytes"},
+      {{"entry", "remove", "Ann", "Internet Mail"}, 3, "no entry"},
+      {{"config", "show"}, 3, "config write"},
+      {{"service", "list", "--data", "/dev/null/nowhere"}, 5, "cannot"},
+      {{"init", "--data", "/dev/null/nowhere"}, 5, "--data"},
+      {{"config", "write", "--data", "/dev/null/nowhere"}, 5, "/dev/null/nowhere"},
+  };
+  for (const auto& [arguments, code, says] : cases) {
+    const Ran ran = Run(arguments);
+    const std::string what = testing::PrintToString(arguments);
+    EXPECT_EQ(ran.code, code) << what << ran.err;
+    EXPECT_THAT(ran.err, HasSubstr(says)) << what;
+    EXPECT_THAT(ran.out, IsEmpty()) << what;
+  }
+}
+
+TEST_F(AlertctlTest, ADataDirectoryThatCannotBeReadIsAStoreFailure) {
+  RunJson({"init"});
+  std::filesystem::resize_file(data_ + "/alerting.db", 100);
+  std::filesystem::remove(data_ + "/alerting.db-wal");
+  for (const auto& verb :
+       {std::vector<std::string>{"service", "list"}, {"user", "list"}, {"init"}, {"config", "write"}})
+    EXPECT_EQ(Run(verb).code, 5) << testing::PrintToString(verb);
+}
+
+TEST_F(AlertctlTest, NoPasswordIsEverPrinted) {
+  RunJson({"init"});
+  CAlertNtfyServDB services;
+  ASSERT_EQ(services.DBOpen(), kOk);
+  ALRTSMTPSERVICEREC record{};
+  record.guid = ServiceOfType(5).specificRecordId;
+  auto& store = *services.SpecificStore<ALRTSMTPSERVICEREC>();
+  ASSERT_EQ(store.DBAlertRecRetrieve(record.guid, record), kOk);
+  record.password.Assign("s3cr3t!");
+  ASSERT_EQ(store.DBAlertRecUpdate(record), kOk);
+  EXPECT_THAT(ConfigFile(), HasSubstr("s3cr3t!")) << "the alert managers need it";
+
+  EXPECT_EQ(RunJson({"service", "show", "Internet Mail"})["settings"]["password"], "********");
+  for (const auto& verb : {std::vector<std::string>{"service", "list"},
+                           {"service", "show", "Internet Mail"},
+                           {"config", "show"},
+                           {"entry", "list"},
+                           {"response", "list"},
+                           {"manager", "list"},
+                           {"service", "copy", "Internet Mail", "Copy"}}) {
+    for (const char* format : {"", "--json"}) {
+      auto arguments = verb;
+      if (*format) arguments.push_back(format);
+      const Ran ran = Run(arguments);
+      EXPECT_THAT(ran.out + ran.err, Not(HasSubstr("s3cr3t!"))) << testing::PrintToString(arguments);
+    }
+  }
+}
+
+TEST_F(AlertctlTest, AServiceIsCopiedDisabledEnabledAndDeleted) {
+  RunJson({"init"});
+  const json copy = RunJson({"service", "copy", "Internet Mail", "Night mail"});
+  const json shown = RunJson({"service", "show", "night mail"});
+  EXPECT_EQ(shown["id"], copy["id"]);
+  EXPECT_EQ(shown["alertManagers"].size(), 1u);
+
+  EXPECT_EQ(RunJson({"service", "disable", "Night mail"})["alertManagers"], json::array());
+  EXPECT_EQ(RunJson({"service", "disable", "Night mail"})["changed"], false);
+  EXPECT_EQ(RunJson({"service", "enable", "Night mail"})["changed"], true);
+  EXPECT_EQ(RunJson({"service", "enable", "Night mail"})["changed"], false);
+
+  CAlert_SRV_CFGDB managers;
+  ALRT_SRV_CFGREC other{};
+  other.managerName.Assign("server-2");
+  GUID id{};
+  ASSERT_EQ(Opened(managers).DBAlertRecAdd(other, id), kOk);
+  EXPECT_EQ(Run({"service", "enable", "Night mail", "--manager", "server-2"}).code, 4) << "enabled elsewhere";
+  RunJson({"service", "disable", "Night mail"});
+  EXPECT_EQ(RunJson({"service", "enable", "Night mail", "--manager", "server-2"})["alertManagers"],
+            json::array({"server-2"}));
+
+  EXPECT_EQ(RunJson({"service", "delete", "Night mail"})["deleted"], true);
+  EXPECT_EQ(Run({"service", "show", "Night mail"}).code, 3);
+  EXPECT_EQ(RunJson({"service", "list"}).size(), 13u);
+}
+
+TEST_F(AlertctlTest, AUserHasOneEntryOnAService) {
+  RunJson({"init"});
+  const json ann = RunJson({"user", "add", "Ann", "--id", "7b1c7a52-0d5c-4f4b-8b60-6f3b1c9e2a11"});
+  EXPECT_EQ(ann["id"], "{7B1C7A52-0D5C-4F4B-8B60-6F3B1C9E2A11}");
+  EXPECT_EQ(Run({"user", "add", "Other", "--id", ann["id"]}).code, 4) << "the identity is taken";
+  RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
+  RunJson({"entry", "set", "Ann", "Numeric Pager", "555-0100"});
+  RunJson({"entry", "set", "ann", "internet mail", "ann@example.com", "--disabled"});
+
+  const json entries = RunJson({"entry", "list", "--user", "Ann"});
+  ASSERT_EQ(entries.size(), 2u);
+  EXPECT_EQ(entries[0]["address"], "ann@example.com");
+  EXPECT_EQ(entries[0]["enabled"], false);
+  CAlertUsrInstServDB links;
+  const auto link = Find(links, [](const ALRTUSRINSTSERV& l) { return l.recordType == 5; });
+  EXPECT_EQ(link.serviceName.View(), "Internet Mail");
+  EXPECT_EQ(link.userEnabled, 0u);
+
+  EXPECT_EQ(Run({"user", "remove", "Ann"}).code, 4) << "entries would be left behind";
+  RunJson({"entry", "remove", "Ann", "Internet Mail"});
+  EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);
+  RunJson({"entry", "remove", "Ann", "Numeric Pager"});
+  RunJson({"user", "remove", "Ann"});
+  EXPECT_EQ(RunJson({"user", "list"}), json::array());
+}
+
+TEST_F(AlertctlTest, AnEntryWhoseRecordIsGoneIsRepaired) {
+  RunJson({"init"});
+  RunJson({"user", "add", "Ann"});
+  RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
+  CAlertUSR_SMTPDB users;
+  ASSERT_EQ(Opened(users).DBAlertRecDelete(Find(users, [](const auto&) { return true; }).guid), kOk);
+  EXPECT_EQ(RunJson({"entry", "list"}), json::array());
+  RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
+  EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);
+}
+
+TEST_F(AlertctlTest, EveryVerbHelpsWithExamples) {
+  for (const auto& verb : {std::vector<std::string>{"init"},
+                           {"service", "list"},
+                           {"service", "show"},
+                           {"service", "copy"},
+                           {"service", "delete"},
+                           {"service", "enable"},
+                           {"service", "disable"},
+                           {"user", "list"},
+                           {"user", "add"},
+                           {"user", "remove"},
+                           {"entry", "list"},
+                           {"entry", "set"},
+                           {"entry", "remove"},
+                           {"manager", "list"},
+                           {"response", "list"},
+                           {"response", "show"},
+                           {"config", "write"},
+                           {"config", "show"}}) {
+    auto arguments = verb;
+    arguments.push_back("--help");
+    const Ran ran = Run(arguments);
+    EXPECT_EQ(ran.code, 0);
+    std::string words = "alertctl";
+    for (const std::string& word : verb) words += " " + word;
+    EXPECT_THAT(ran.out,
+                testing::AllOf(HasSubstr("Examples:\n  " + words), HasSubstr("--json"), HasSubstr("--data")));
+  }
+}
+
+}  // namespace

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <memory>
+#include <thread>
+
+#include "platform/base/module.h"
+#include "platform/ui/canvas.h"
+#include "platform/ui/desktop.h"
+#include "platform/ui/dialog.h"
+#include "platform/ui/lists.h"
+#include "platform/ui/property_sheet.h"
+
+namespace platform::ui {
+namespace {
+
+using testing::ElementsAre;
+
+class Watcher : public WindowObserver {
+ public:
+  std::vector<Change> changes;
+  void OnWindowChanged(Window&, Change change) override { changes.push_back(change); }
+};
+
+TEST(WindowTest, AHandleFindsALiveWindowOrNothing) {
+  auto window = std::make_unique<Window>();
+  const Handle handle = window->GetHandle();
+  EXPECT_NE(handle, kNoWindow);
+  EXPECT_EQ(Window::FromHandle(handle), window.get());
+  window.reset();
+  EXPECT_EQ(Window::FromHandle(handle), nullptr);
+  EXPECT_EQ(Window::FromHandle(kNoWindow), nullptr);
+}
+
+TEST(WindowTest, HandlesMayBeAskedForOnAnyThread) {
+  std::atomic<bool> wrong = false;
+  std::vector<std::thread> threads;
+  for (int i = 0; i < 4; ++i) {
+    threads.emplace_back([&] {
+      for (int n = 0; n < 500; ++n) {
+        const Window window;
+        if (Window::FromHandle(window.GetHandle()) != &window) wrong = true;
+      }
+    });
+  }
+  for (std::thread& thread : threads) thread.join();
+  EXPECT_FALSE(wrong);
+}
+
+TEST(WindowTest, AnObserverHearsOfChangesAndLastOfTheEnd) {
+  Watcher watcher;
+  {
+    Window window;
+    window.SetObserver(&watcher);
+    window.SetLabel("x");
+    window.Enable(false);
+    window.Enable(false);
+    window.Show(false);
+  }
+  EXPECT_THAT(watcher.changes,
+              ElementsAre(Change::kLabel, Change::kEnabled, Change::kVisible, Change::kDestroyed));
+}
+
+TEST(WindowTest, LabelsAndTheirAccessKeys) {
+  struct Row {
+    const char *label, *plain;
+    char key;
+  };
+  for (const Row& row :
+       {Row{"&Name:", "Name:", 'n'}, Row{"<< Fie&lds...", "<< Fields...", 'l'}, Row{"A && B", "A & B", 0},
+        Row{"A && &B", "A & B", 'b'}, Row{"End&", "End", 0}, Row{"", "", 0}, Row{"Plain", "Plain", 0}}) {
+    EXPECT_EQ(PlainLabel(row.label), row.plain) << row.label;
+    EXPECT_EQ(AccessKey(row.label), row.key) << row.label;
+  }
+}
+
+TEST(FormTest, AControlThatGoesLeavesItsForm) {
+  Dialog dialog(nullptr, "Form");
+  Button stays(dialog, 1, "Stays");
+  {
+    Button goes(dialog, 2, "Goes");
+    goes.SetDefault(true);
+    dialog.MoveFocus(&goes);
+    EXPECT_EQ(dialog.DefaultButton(), &goes);
+  }
+  EXPECT_THAT(dialog.Controls(), ElementsAre(&stays));
+  EXPECT_EQ(dialog.FocusedControl(), nullptr);
+  EXPECT_EQ(dialog.DefaultButton(), nullptr);
+}
+
+TEST(FormTest, OneButtonIsTheDefault) {
+  Dialog dialog(nullptr, "Form");
+  Button first(dialog, 1, "First"), second(dialog, 2, "Second");
+  first.SetDefault(true);
+  second.SetDefault(true);
+  EXPECT_EQ(dialog.DefaultButton(), &second);
+  EXPECT_FALSE(first.IsDefault());
+}
+
+TEST(FormTest, NothingReachesAControlThatIsHiddenOrDisabled) {
+  Dialog dialog(nullptr, "Form");
+  int reports = 0;
+  CheckBox box(dialog, 1, "Box");
+  Button button(dialog, 2, "Button");
+  ListView list(dialog, 3, "List");
+  list.AddRow({"row"});
+  for (Control* control : dialog.Controls()) control->SetOnChange([&] { ++reports; });
+  button.SetOnClick([&] { ++reports; });
+  list.SetOnClick([&] { ++reports; });
+  box.Enable(false);
+  button.Show(false);
+  list.Enable(false);
+  box.OnClick();
+  button.OnClick();
+  list.OnClickAt(0);
+  list.OnKeyDown(Key::kDown);
+  EXPECT_EQ(reports, 0);
+  EXPECT_FALSE(box.Checked());
+  EXPECT_EQ(list.SelectedRow(), -1);
+}
+
+TEST(ItemListTest, FindsByTextBytesAndData) {
+  Dialog dialog(nullptr, "Form");
+  ComboBox list(dialog, 1, "List");
+  list.Add("Office", 7);
+  list.Add("OFFICE", 8);
+  EXPECT_EQ(list.FindText("office"), 0);
+  EXPECT_EQ(list.FindBytes("OFFICE"), 1);
+  EXPECT_EQ(list.FindBytes("office"), -1);
+  EXPECT_EQ(list.FindText("Off"), -1) << "no prefixes";
+  EXPECT_EQ(list.FindData(8), 1);
+  EXPECT_EQ(list.FindData(9), -1);
+  list.Select(2);
+  EXPECT_EQ(list.Current(), -1);
+  EXPECT_EQ(list.ItemText(-1), "");
+  EXPECT_EQ(list.Data(5), 0u);
+}
+
+TEST(ListViewTest, TheRowMovedToIsInView) {
+  Dialog dialog(nullptr, "Form");
+  ListView list(dialog, 1, "List");
+  for (int i = 0; i < 30; ++i) list.AddRow({std::to_string(i)});
+  list.OnScrolled(0, 8);
+  list.OnKeyDown(Key::kDown);
+  list.OnKeyDown(Key::kPageDown);
+  EXPECT_EQ(list.SelectedRow(), 8);
+  EXPECT_EQ(list.FirstVisibleRow(), 1);
+  list.OnKeyDown(Key::kEnd);
+  EXPECT_EQ(list.FirstVisibleRow(), 22);
+  list.OnKeyDown(Key::kPageUp);
+  EXPECT_EQ(list.SelectedRow(), 21);
+  EXPECT_EQ(list.FirstVisibleRow(), 21);
+}
+
+TEST(CanvasTest, ScrollingStopsAtTheLastPage) {
+  struct Row {
+    int position, maximum, page, result;
+  };
+  Dialog dialog(nullptr, "Form");
+  Canvas strip(dialog, 1, "Strip");
+  for (const Row& row :
+       {Row{5, 11, 8, 4}, Row{3, 11, 8, 3}, Row{-1, 11, 8, 0}, Row{2, 3, 8, 0}, Row{9, -1, 0, 0}}) {
+    strip.SetScroll(row.position, row.maximum, row.page);
+    EXPECT_EQ(strip.ScrollPosition(), row.result) << row.position << " of " << row.maximum;
+  }
+}
+
+class TwoPageSheet : public PropertySheet {
+ public:
+  TwoPageSheet() : PropertySheet("Sheet", nullptr) {
+    AddPage(first);
+    AddPage(second);
+  }
+  PropertyPage first{"First"}, second{"Second"};
+};
+
+TEST(PropertySheetTest, PagesThatAreMembersMayGoBeforeTheirSheet) {
+  auto sheet = std::make_unique<TwoPageSheet>();
+  sheet->OpenWindow();
+  sheet->CloseWindow();
+  sheet.reset();
+  PropertyPage outlives("Page");
+  {
+    PropertySheet other("Other", nullptr);
+    other.AddPage(outlives);
+  }
+  EXPECT_EQ(outlives.Sheet(), nullptr);
+  outlives.SetModified(true);
+  EXPECT_TRUE(outlives.PageChanged()) << "also without a sheet";
+}
+
+TEST(PropertySheetTest, APageThatGoesLeavesTheOthers) {
+  PropertySheet sheet("Sheet", nullptr, 1);
+  auto first = std::make_unique<PropertyPage>("First");
+  PropertyPage second("Second");
+  sheet.AddPage(*first);
+  sheet.AddPage(second);
+  sheet.OpenWindow();
+  ASSERT_EQ(sheet.ActivePage(), &second);
+  first.reset();
+  EXPECT_EQ(sheet.ActivePage(), &second);
+  EXPECT_EQ(sheet.ActiveIndex(), 0);
+}
+
+// Without a desktop nobody sees a window.
+
+class CountingDialog : public Dialog {
+ public:
+  CountingDialog() : Dialog(nullptr, "Counting") {}
+  int opened = 0;
+  bool closed = false;
+
+ private:
+  void OnInitDialog() override { ++opened; }
+  void Destroy() override {
+    closed = true;
+    Dialog::Destroy();
+  }
+};
+
+TEST(BaseDesktopTest, ModalWindowsEndAsCancelled) {
+  CountingDialog dialog;
+  Watcher watcher;
+  dialog.SetObserver(&watcher);
+  EXPECT_EQ(dialog.RunModal(), kCancel);
+  EXPECT_EQ(dialog.opened, 1);
+  EXPECT_TRUE(dialog.closed);
+  EXPECT_THAT(watcher.changes, testing::Contains(Change::kEnded));
+  dialog.SetObserver(nullptr);
+}
+
+TEST(BaseDesktopTest, MessagesGoToStandardErrorAndQuestionsAreAnsweredNo) {
+  const Module module("Alerting");
+  const ModuleScope scope(module);
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(MessageBox("Told."), Answer::kOk);
+  EXPECT_EQ(MessageBox("Asked?", Buttons::kYesNo), Answer::kNo);
+  EXPECT_EQ(MessageBox("Asked?", Buttons::kYesNoCancel), Answer::kNo);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "Alerting: Told.\nAlerting: Asked?\nAlerting: Asked?\n");
+}
+
+TEST(BaseDesktopTest, NothingIsChosenHeardOrCopied) {
+  Desktop& desktop = Desktop::Current();
+  FileDialog files(nullptr);
+  EXPECT_EQ(files.RunModal(), kCancel);
+  desktop.SetClipboardText("x");
+  EXPECT_FALSE(desktop.ClipboardText());
+  EXPECT_FALSE(desktop.OpenSound("/nowhere.wav")->Play({}));
+  EXPECT_TRUE(desktop.ExtractIcons("/nowhere.ico", 10).empty());
+}
+
+TEST(BaseDesktopTest, PostedTasksRunOnTheThreadOfTheWindows) {
+  std::thread::id ran_on;
+  std::thread([&] { Desktop::Current().Post([&] { ran_on = std::this_thread::get_id(); }); }).join();
+  EXPECT_EQ(ran_on, std::thread::id());
+  CountingDialog dialog;
+  dialog.RunModal();
+  EXPECT_EQ(ran_on, std::this_thread::get_id());
+}
+
+TEST(ModuleTest, HoldsStringsAndResources) {
+  Module module("Title");
+  const std::uint8_t bytes[] = {1, 2, 3};
+  module.AddString(100, "One hundred");
+  module.AddResource("icon", bytes);
+  EXPECT_EQ(module.String(100), "One hundred");
+  EXPECT_EQ(module.String(101), "");
+  EXPECT_EQ(module.Resource("icon").size(), 3u);
+  EXPECT_TRUE(module.Resource("none").empty());
+}
+
+TEST(ModuleTest, ScopesNestAndHoldOnTheirThreadOnly) {
+  const Module outer("Outer"), inner("Inner");
+  EXPECT_EQ(Module::Current().Title(), "");
+  {
+    const ModuleScope first(outer);
+    {
+      const ModuleScope second(inner);
+      EXPECT_EQ(Module::Current().Title(), "Inner");
+      std::thread([] { EXPECT_EQ(Module::Current().Title(), ""); }).join();
+    }
+    EXPECT_EQ(Module::Current().Title(), "Outer");
+  }
+  EXPECT_EQ(Module::Current().Title(), "");
+}
+
+TEST(DynamicLibraryTest, FindsFunctionsByNameAndVersion) {
+  DynamicLibrary library;
+  EXPECT_EQ(library.Find("cos"), nullptr) << "nothing is loaded";
+  EXPECT_FALSE(library.Load("/nowhere/libnothing.so"));
+  EXPECT_THAT(library.Error(), testing::HasSubstr("libnothing.so"));
+  ASSERT_TRUE(library.Load("libm.so.6")) << library.Error();
+  EXPECT_EQ(library.Error(), "");
+  EXPECT_NE(library.Find("cos"), nullptr);
+  EXPECT_EQ(library.Find("cos@8"), nullptr) << "no such version";
+  EXPECT_EQ(library.Find("no_such_function"), nullptr);
+}
+
+}  // namespace
+}  // namespace platform::ui

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QClipboard>
+
+#include "desktops/qt/qt_test_desktop.h"
+#include "tests/stories/test_desktop.h"
+
+namespace stories {
+namespace {
+
+// One application serves all tests of the process; Qt cannot make a second one.
+void EnsureApplication() {
+  static int argument_count = 1;
+  static char name[] = "stories";
+  static char* arguments[] = {name, nullptr};
+  static QApplication application(argument_count, arguments);
+}
+
+class QtStoriesDesktop : public TestDesktop {
+ public:
+  desktops::Script& Script() override { return desktop_.script; }
+  void ClearClipboard() override { QGuiApplication::clipboard()->clear(); }
+  void SetSystemMajorVersion(int version) override { desktop_.system_major_version = version; }
+  std::string LastHelpText() override { return desktop_.last_help_text; }
+
+ private:
+  desktops::QtTestDesktop desktop_;
+};
+
+}  // namespace
+
+std::unique_ptr<TestDesktop> MakeTestDesktop() {
+  EnsureApplication();
+  return std::make_unique<QtStoriesDesktop>();
+}
+
+}  // namespace stories

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/stories/test_desktop.h"
+
+namespace stories {
+
+/// A test that says what a person sees and does. Everything that went other than its script says fails it.
+class StoryTest : public testing::Test {
+ protected:
+  desktops::Script& Script() { return desktop_->Script(); }
+  TestDesktop& Desk() { return *desktop_; }
+
+  void TearDown() override {
+    for (const std::string& failure : Script().Failures()) ADD_FAILURE() << failure;
+  }
+
+ private:
+  std::unique_ptr<TestDesktop> desktop_ = MakeTestDesktop();
+};
+
+}  // namespace stories

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "desktops/scripted/script.h"
+
+namespace stories {
+
+/// The desktop that the stories run on: each suite is built once for every desktop, with its own
+/// MakeTestDesktop. It is the current platform::ui::Desktop while it lives; the clipboard is reached there.
+class TestDesktop {
+ public:
+  virtual ~TestDesktop() = default;
+
+  virtual desktops::Script& Script() = 0;
+  /// Leaves the clipboard without any text.
+  virtual void ClearClipboard() = 0;
+  virtual void SetSystemMajorVersion(int version) = 0;
+  /// The help text shown last, or "".
+  virtual std::string LastHelpText() = 0;
+};
+
+std::unique_ptr<TestDesktop> MakeTestDesktop();
+
+}  // namespace stories

@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/failing_engine.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace test_support {
+
+using alertstore::kOk;
+using alertstore::Selector;
+using alertstore::Status;
+using alertstore::StoreSchema;
+using alertstore::Table;
+
+std::string_view NameOf(StoreOp op) {
+  constexpr std::string_view kNames[] = {"Open", "FindFirst", "FindNext",  "Retrieve",
+                                         "Add",  "AddPair",   "Update",    "Delete",
+                                         "Lock", "Unlock",    "BeginRead", "Any"};
+  return kNames[static_cast<std::size_t>(op)];
+}
+
+std::string StoreCall::Text() const {
+  std::string text{NameOf(op)};
+  if (!store.empty()) text += ' ' + store;
+  if (!other_store.empty()) text += '+' + other_store;
+  return status == kOk ? text : text + " failed";
+}
+
+template <class Operation>
+Status FailingEngine::Make(StoreCall call, Operation operation) {
+  call.status = MustFail(call) ? rule_.status : operation();
+  calls_.push_back(std::move(call));
+  return calls_.back().status;
+}
+
+bool FailingEngine::MustFail(const StoreCall& call) {
+  if (!rule_active_) return false;
+  if (rule_.store != kAnyStore && rule_.store != call.store) return false;
+  if (rule_.op != StoreOp::kAny && rule_.op != call.op) return false;
+  if (rule_.remaining > 0) {
+    if (--rule_.remaining > 0) return false;
+    rule_active_ = false;
+  }
+  ++failures_;
+  return true;
+}
+
+void FailingEngine::FailNth(std::string_view store, StoreOp op, int n, Status status) {
+  rule_ = {std::string(store), op, n, status};
+  rule_active_ = n > 0;
+  failures_ = 0;
+}
+
+void FailingEngine::FailAll(std::string_view store, StoreOp op, Status status) {
+  rule_ = {std::string(store), op, 0, status};
+  rule_active_ = true;
+  failures_ = 0;
+}
+
+void FailingEngine::FailNone() {
+  rule_active_ = false;
+  failures_ = 0;
+}
+
+std::vector<StoreCall> FailingEngine::Writes() const {
+  std::vector<StoreCall> writes;
+  std::ranges::copy_if(calls_, std::back_inserter(writes), [](const StoreCall& call) {
+    return call.status == kOk && call.op >= StoreOp::kAdd && call.op <= StoreOp::kDelete;
+  });
+  return writes;
+}
+
+int FailingEngine::Count(std::string_view store, StoreOp op) const {
+  return static_cast<int>(std::ranges::count_if(calls_, [&](const StoreCall& call) {
+    return (store == kAnyStore || call.store == store) && (op == StoreOp::kAny || call.op == op);
+  }));
+}
+
+std::vector<std::string> FailingEngine::HeldLocks() const {
+  std::vector<std::string> held;
+  for (const auto& [store, count] : locks_)
+    if (count > 0) held.push_back(store);
+  return held;
+}
+
+// A table of the engine below, whose calls pass through the rule of the engine.
+class FailingTable : public Table {
+ public:
+  FailingTable(FailingEngine& engine, std::string store, std::uint32_t record_size,
+               std::unique_ptr<Table> base)
+      : engine_(engine), store_(std::move(store)), record_size_(record_size), base_(std::move(base)) {}
+  ~FailingTable() override { NoteUnlocked(); }
+
+  Status FindFirst(const Selector& selector, std::string_view key, void* out) override {
+    return engine_.Make(Call(StoreOp::kFindFirst), [&] { return base_->FindFirst(selector, key, out); });
+  }
+  Status FindFirst(void* out) override {
+    return engine_.Make(Call(StoreOp::kFindFirst), [&] { return base_->FindFirst(out); });
+  }
+  Status FindNext(void* out) override {
+    return engine_.Make(Call(StoreOp::kFindNext), [&] { return base_->FindNext(out); });
+  }
+  Status Retrieve(const platform::GUID& id, void* out) override {
+    return engine_.Make(Call(StoreOp::kRetrieve, Bytes(&id, sizeof id)),
+                        [&] { return base_->Retrieve(id, out); });
+  }
+  Status Add(const void* record) override {
+    return engine_.Make(Call(StoreOp::kAdd, Bytes(record, record_size_)), [&] { return base_->Add(record); });
+  }
+  Status AddPair(const void* record, const StoreSchema& other, const void* other_record) override {
+    StoreCall call = Call(StoreOp::kAddPair, Bytes(record, record_size_));
+    call.other_store = other.file;
+    call.other_record = Bytes(other_record, other.record_size);
+    return engine_.Make(std::move(call), [&] { return base_->AddPair(record, other, other_record); });
+  }
+  Status Update(const void* record) override {
+    return engine_.Make(Call(StoreOp::kUpdate, Bytes(record, record_size_)),
+                        [&] { return base_->Update(record); });
+  }
+  Status Delete(const platform::GUID& id) override {
+    return engine_.Make(Call(StoreOp::kDelete, Bytes(&id, sizeof id)), [&] { return base_->Delete(id); });
+  }
+
+  Status Lock() override {
+    const Status status = engine_.Make(Call(StoreOp::kLock), [&] { return base_->Lock(); });
+    if (status != kOk) return status;
+    locked_ = true;
+    ++engine_.locks_[store_];
+    return kOk;
+  }
+  Status Unlock() override {
+    const Status released = base_->Unlock();
+    if (released == kOk) NoteUnlocked();
+    return engine_.Make(Call(StoreOp::kUnlock), [&] { return released; });
+  }
+
+ private:
+  static std::string Bytes(const void* record, std::size_t size) {
+    return {static_cast<const char*>(record), size};
+  }
+  StoreCall Call(StoreOp op, std::string record = {}) const {
+    return {store_, op, kOk, std::move(record), {}, {}};
+  }
+  void NoteUnlocked() {
+    if (std::exchange(locked_, false)) --engine_.locks_[store_];
+  }
+
+  FailingEngine& engine_;  // outlives its tables, as every engine does: the store keeps it
+  const std::string store_;
+  const std::uint32_t record_size_;
+  const std::unique_ptr<Table> base_;
+  bool locked_ = false;
+};
+
+Status FailingEngine::Open(const StoreSchema& schema, std::unique_ptr<Table>& table) {
+  return Make({schema.file, StoreOp::kOpen, kOk, {}, {}, {}}, [&] {
+    std::unique_ptr<Table> opened;
+    const Status status = base_->Open(schema, opened);
+    if (status == kOk)
+      table = std::make_unique<FailingTable>(*this, schema.file, schema.record_size, std::move(opened));
+    return status;
+  });
+}
+
+Status FailingEngine::BeginRead() {
+  return Make({{}, StoreOp::kBeginRead, kOk, {}, {}, {}}, [&] { return base_->BeginRead(); });
+}
+
+}  // namespace test_support

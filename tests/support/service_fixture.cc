@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/service_fixture.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "companions/alertstore/console_users.h"
+
+namespace test_support {
+
+using namespace alertstore;  // NOLINT
+using platform::GUID;
+using platform::kNullGuid;
+
+void FakeDbConfig::GetQEVDataDirectory(char* buffer, std::size_t size) {
+  if (size > 0) buffer[0] = '\0';
+}
+
+std::uint32_t FakeDbConfig::CreateAlertServerConfigFile(std::uint32_t) {
+  ++files_written;
+  return result;
+}
+
+std::uint32_t FakeDbConfig::IsConversionComplete() { return polls_until_complete-- <= 0; }
+
+void FakeAgentUi::DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) {
+  if (!chosen_address.empty()) std::strcpy(buffer, chosen_address.c_str());
+}
+
+namespace {
+
+std::string MakeDirectory() {
+  std::string path = (std::filesystem::temp_directory_path() / "alerting-test-XXXXXX").string();
+  if (mkdtemp(path.data()) == nullptr) std::abort();
+  return path;
+}
+
+}  // namespace
+
+LibraryUnderTest::LibraryUnderTest() : directory_(MakeDirectory()) {
+  setenv("ALERTING_DATA", directory_.c_str(), 1);
+  SetEngine(nullptr);
+  engine = std::make_shared<FailingEngine>(CurrentEngine());
+  SetEngine(engine);
+  before_ = alerting::SetCompanions({&dbconfig, &agentui, nullptr});
+  alerting::Load();
+}
+
+LibraryUnderTest::~LibraryUnderTest() {
+  dbconfig.polls_until_complete = 0;
+  alerting::TheApp().CloseStores();
+  alerting::Unload();
+  alerting::SetCompanions(before_);
+  SetEngine(nullptr);
+  unsetenv("ALERTING_DATA");
+  std::filesystem::remove_all(directory_);
+}
+
+platform::ui::Answer RecordingDesktop::ShowMessage(const platform::ui::Message& message) {
+  messages.push_back(message.text);
+  return message.buttons == platform::ui::Buttons::kOk ? platform::ui::Answer::kOk
+                                                       : platform::ui::Answer::kNo;
+}
+
+void ServiceTest::ExpectNoMessages() {
+  for (const std::string& text : desktop.messages) ADD_FAILURE() << "a message nobody expected: " << text;
+  EXPECT_EQ(desktop.wait_cursors, 0);
+}
+
+std::vector<std::uint32_t> ConfiguredTypes() { return {0, 1, 2, 3, 4, 5, 6, 7, 8, 10, 11, 12, 13}; }
+
+GUID SeedCommon(std::uint32_t record_type, std::string_view name) {
+  alerting::EnsureStoresOpen();
+  ALRTNTFYSERV common{};
+  common.recordType = record_type;
+  common.enabled = 1;
+  common.name.Assign(name);
+  GUID id{};
+  EXPECT_EQ(alerting::ServiceStore().DBAlertRecAdd(common, id), kOk);
+  return id;
+}
+
+GUID SeedService(std::uint32_t code, std::string_view name, std::uint8_t pattern) {
+  if (code == alerting::kTypeProgram && pattern == 0) return SeedCommon(alerting::RecordTypeOf(code), name);
+  alerting::EnsureStoresOpen();
+  ALRTNTFYSERV common;
+  std::memset(&common, pattern, sizeof(common));
+  common.serviceId = common.specificRecordId = common.backupSpecificRecordId = kNullGuid;
+  common.recordType = alerting::RecordTypeOf(code);
+  common.enabled = 1;
+  common.virgin = 1;
+  common.name.Assign(name);
+  GUID id{}, specific_id{};
+  CAlertNtfyServDB& store = alerting::ServiceStore();
+  if (code == alerting::kTypeProgram) {
+    EXPECT_EQ(store.DBAlertRecAdd(common, id), kOk);
+    return id;
+  }
+  WithRecordOf(code, [&]<class Record>() {
+    Record record;
+    std::memset(&record, pattern, sizeof(record));
+    record.guid = kNullGuid;
+    EXPECT_EQ(store.DBAlertRecAdd(common, id, record, specific_id), kOk);
+  });
+  return id;
+}
+
+ALRTNTFYSERV StoredCommon(const GUID& service) {
+  ALRTNTFYSERV common{};
+  common.serviceId = service;
+  EXPECT_EQ(alerting::ServiceStore().DBAlertRecRetrieve(service, common), kOk);
+  return common;
+}
+
+std::string StoredSpecific(std::uint32_t code, const GUID& record_id) {
+  return WithRecordOf(code, [&]<class Record>() {
+    Record record{};
+    record.guid = record_id;
+    EXPECT_EQ(alerting::ServiceStore().SpecificStore<Record>()->DBAlertRecRetrieve(record_id, record), kOk);
+    return std::string(reinterpret_cast<const char*>(&record), sizeof(record));
+  });
+}
+
+alerting::CNtfyService* Find(const GUID& service) {
+  EXPECT_TRUE(alerting::TheServices().Read());
+  const std::optional<int> index = alerting::TheServices().FindById(service);
+  return index ? alerting::TheServices().GetAt(*index) : nullptr;
+}
+
+GUID MakeUser(std::string_view name) {
+  const GUID id = GUID::Generate();
+  EXPECT_EQ(AddConsoleUser(id, name), kOk);
+  return id;
+}
+
+}  // namespace test_support

@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "alerting/api/load.h"
+#include "alerting/frame/app.h"
+#include "alerting/frame/companions.h"
+#include "alerting/frame/stores.h"
+#include "alerting/services/service_list.h"
+#include "alerting/services/user_base.h"
+#include "platform/ui/desktop.h"
+#include "tests/support/failing_engine.h"
+
+namespace test_support {
+
+/// Counts the rewrites of the configuration file and answers as told.
+class FakeDbConfig : public dbconfig::DbConfig {
+ public:
+  void GetQEVDataDirectory(char* buffer, std::size_t size) override;
+  std::uint32_t CreateAlertServerConfigFile(std::uint32_t zero) override;
+  std::uint32_t IsConversionComplete() override;
+
+  int files_written = 0;
+  std::uint32_t result = 0;
+  /// How many more times the conversion is still under way.
+  int polls_until_complete = 0;
+};
+
+/// Answers the recently used dialogs as told and records what the library hands over.
+class FakeAgentUi : public agentui::AgentUi {
+ public:
+  void FillComboWithMRUList(platform::ui::ComboBox&) override {}
+  void AddEntryToMRUList(const char* program) override { recorded.push_back(program); }
+  void FreeComboMRUData(platform::ui::ComboBox&) override {}
+  void AddIPAddressToMRUList(const char* address) override { recorded.push_back(address); }
+  void AddCommunityNameToMRUList(const char* community) override { recorded.push_back(community); }
+  void DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) override;
+  void DisplayCommunityNameMRUListDialog(platform::ui::Window*, char*) override {}
+  void RegisterTestButtonCallbackMessageHandler(void (*)(std::uint32_t)) override {}
+  void SendTestButtonToAlertServer(const void*) override {}
+  void DisplayTestEventResultsDialog(platform::ui::Window*, std::uint32_t) override {}
+
+  std::string chosen_address;
+  std::vector<std::string> recorded;
+};
+
+/// The loaded library over an empty data directory of its own, with stand-ins for the other components and an
+/// engine that fails on command. One at a time.
+class LibraryUnderTest {
+ public:
+  LibraryUnderTest();
+  ~LibraryUnderTest();
+
+  const std::string& Directory() const { return directory_; }
+
+  FakeDbConfig dbconfig;
+  FakeAgentUi agentui;
+  std::shared_ptr<FailingEngine> engine;
+
+ private:
+  std::string directory_;
+  alerting::Companions before_;
+};
+
+/// A desktop that writes messages down and answers OK, or No to a question.
+class RecordingDesktop : public platform::ui::Desktop {
+ public:
+  RecordingDesktop() : before_(SetCurrent(this)) {}
+  ~RecordingDesktop() override { SetCurrent(before_); }
+  platform::ui::Answer ShowMessage(const platform::ui::Message& message) override;
+  void Sleep(std::uint32_t milliseconds) override { sleeps.push_back(milliseconds); }
+  void ShowWaitCursor() override { ++wait_cursors; }
+  void HideWaitCursor() override { --wait_cursors; }
+
+  /// The texts since the last call.
+  std::vector<std::string> TakeMessages() { return std::exchange(messages, {}); }
+
+  std::vector<std::string> messages;
+  std::vector<std::uint32_t> sleeps;
+  int wait_cursors = 0;
+
+ private:
+  platform::ui::Desktop* before_;
+};
+
+class ServiceTest : public ::testing::Test {
+ protected:
+  RecordingDesktop desktop;
+  LibraryUnderTest library;
+
+  /// A message that no test took is one that nobody expected.
+  void TearDown() override { ExpectNoMessages(); }
+
+ private:
+  void ExpectNoMessages();
+};
+
+/// Calls `visit.template operator()<Record>()` with the specific record of a type. Not for Program Launch.
+template <class Visit>
+decltype(auto) WithRecordOf(std::uint32_t code, Visit&& visit) {
+  using namespace alertstore;  // NOLINT
+  switch (code) {
+    case alerting::kTypeMhs:
+      return visit.template operator()<ALRTMHSSERVICEREC>();
+    case alerting::kTypeSnmp:
+      return visit.template operator()<ALRTSNMPSERVICEREC>();
+    case alerting::kTypeMci:
+      return visit.template operator()<ALRTMCISERVICEREC>();
+    case alerting::kTypeCompuServe:
+      return visit.template operator()<ALRTCOMPUSSERVICEREC>();
+    case alerting::kTypeSmtp:
+      return visit.template operator()<ALRTSMTPSERVICEREC>();
+    case alerting::kTypeMapi:
+      return visit.template operator()<ALRTMAPISERVICEREC>();
+    case alerting::kTypeVim:
+      return visit.template operator()<ALRTCCMAILSERVICEREC>();
+    case alerting::kTypeWave:
+      return visit.template operator()<ALRTWAVESERVICEREC>();
+    case alerting::kTypeTts:
+      return visit.template operator()<ALRTTTSSERVICEREC>();
+    case alerting::kTypeAlpha:
+      return visit.template operator()<ALRTAPAGESERVICEREC>();
+    case alerting::kTypeNumeric:
+      return visit.template operator()<ALRTNPAGESERVICEREC>();
+    default:
+      return visit.template operator()<ALRTGENPORTSERVICEREC>();
+  }
+}
+
+/// The thirteen types that have a class.
+std::vector<std::uint32_t> ConfiguredTypes();
+
+/// Adds a service straight to the stores, which it opens first, and answers its identity. `pattern` fills
+/// every byte of both records that is neither identity nor link nor a field set here (0: zeros).
+platform::GUID SeedService(std::uint32_t code, std::string_view name, std::uint8_t pattern = 0);
+/// Adds a common record of any stored type, without a specific record.
+platform::GUID SeedCommon(std::uint32_t record_type, std::string_view name);
+
+/// Stored bytes.
+alertstore::ALRTNTFYSERV StoredCommon(const platform::GUID& service);
+std::string StoredSpecific(std::uint32_t code, const platform::GUID& record);
+
+/// The service as the list has it; the list is read first. Null when it is not there.
+alerting::CNtfyService* Find(const platform::GUID& service);
+template <class Service>
+Service& FindAs(const platform::GUID& service) {
+  return dynamic_cast<Service&>(*Find(service));
+}
+
+/// Adds a console user.
+platform::GUID MakeUser(std::string_view name);
+
+}  // namespace test_support
