@@ -14,19 +14,20 @@
 namespace {
 
 struct Options {
-  std::string data, library, screenshots;
+  std::string data, library_path, screenshots;
 };
 
 // Pictures need no display to be shown on.
 bool HasDisplay() { return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr; }
 
 int Run(const Options& options) {
-  alertconsole::AlertingLibrary library(alertconsole::AlertingLibrary::PathOf(options.library));
+  alertconsole::AlertingLibrary library(alertconsole::AlertingLibrary::PathOf(options.library_path));
   if (!options.screenshots.empty()) {
     return alertconsole::WriteScreenshots(library, QString::fromStdString(options.screenshots));
   }
   alertconsole::MainWindow window(library);
   window.show();
+  window.ShowServices();
   return QApplication::exec();
 }
 
@@ -36,7 +37,7 @@ int main(int argc, char** argv) {
   Options options;
   CLI::App command("Shows and edits the notification services of this site.", "alertconsole");
   command.add_option("--data", options.data, "Data directory (else ALERTING_DATA, else the user's own)");
-  command.add_option("--library", options.library,
+  command.add_option("--library", options.library_path,
                      "The alerting library (else ALERTING_LIBRARY, else beside the console)");
   command.add_option("--screenshot-dir", options.screenshots,
                      "Write pictures of the windows there, and exit");

@@ -78,6 +78,7 @@ int WriteScreenshots(AlertingLibrary& library, const QString& folder) {
   if (!QDir().mkpath(folder)) photographer.Fail("cannot make the folder " + folder);
   MainWindow window(library);
   window.show();
+  window.ShowServices();
   photographer.Take(window, "console.png");
   const int service = window.FirstOfType(kInternetMail);
   if (service < 0) {

@@ -13,7 +13,7 @@
 #include <QToolBar>
 #include <QTreeWidget>
 
-#include "companions/dbconfig/service_types.h"
+#include "companions/dbconfig/strings.h"
 #include "desktops/qt/icons.h"
 #include "desktops/qt/texts.h"
 #include "platform/ui/image.h"
@@ -31,11 +31,6 @@ constexpr int kIconSize = 18;
 constexpr QRgb kBackground = qRgb(255, 0, 255);
 constexpr int kLongestName = 32;
 
-QString TypeName(std::uint32_t record_type) {
-  const dbconfig::ServiceType* type = dbconfig::FindServiceType(record_type);
-  return type != nullptr ? QString::fromUtf8(type->name) : QString();
-}
-
 }  // namespace
 
 MainWindow::MainWindow(AlertingLibrary& library)
@@ -50,7 +45,7 @@ MainWindow::MainWindow(AlertingLibrary& library)
   setCentralWidget(pages_);
   MakeActions();
   resize(760, 480);
-  ShowServices();
+  EnableActions();
 }
 
 MainWindow::~MainWindow() { as_owner_.SetObserver(nullptr); }
@@ -130,7 +125,7 @@ void MainWindow::ShowRow(int index) {
   const alertstore::ALRTNTFYSERV* service = library_.GetInfo(index);
   if (row == nullptr || service == nullptr) return;
   row->setText(kName, ToQt(service->name.View()));
-  row->setText(kType, TypeName(service->recordType));
+  row->setText(kType, QString::fromUtf8(dbconfig::ServiceTypeName(service->recordType)));
   row->setText(kEnabled, service->enabled != 0 ? tr("Yes") : tr("No"));
   const int offset = library_.GetIconOffset(index);
   if (offset >= 0) row->setIcon(kName, icons_.copy(offset * kIconSize, 0, kIconSize, kIconSize));

@@ -26,7 +26,7 @@ std::vector<std::string> EntriesOf(const Json& file, const std::string& list) {
   const auto found = file.find(list);
   if (found == file.end() || !found->is_array()) return entries;
   for (const Json& entry : *found)
-    if (entry.is_string() && entries.size() < kRecentLimit) entries.push_back(entry.get<std::string>());
+    if (entry.is_string()) entries.push_back(entry.get<std::string>());
   return entries;
 }
 

@@ -15,7 +15,6 @@ struct ShownSelection {
 class EditView {
  public:
   virtual ~EditView() = default;
-  virtual QWidget* Widget() = 0;
   virtual QString Shown() const = 0;
   virtual void Show(const QString& text) = 0;
   virtual ShownSelection Selection() const = 0;
@@ -45,7 +44,6 @@ class LineField : public QLineEdit, public EditView {
   explicit LineField(QWidget* parent);
   void SetEvents(EditEvents* events) { events_ = events; }
 
-  QWidget* Widget() override { return this; }
   QString Shown() const override { return text(); }
   void Show(const QString& text) override { setText(text); }
   ShownSelection Selection() const override;
@@ -69,7 +67,6 @@ class TextField : public QPlainTextEdit, public EditView {
   explicit TextField(QWidget* parent);
   void SetEvents(EditEvents* events) { events_ = events; }
 
-  QWidget* Widget() override { return this; }
   QString Shown() const override { return toPlainText(); }
   void Show(const QString& text) override;
   ShownSelection Selection() const override;

@@ -14,12 +14,9 @@ class FileChoice : public QFileDialog {
  public:
   FileChoice(platform::ui::FileDialog& dialog, QWidget* parent);
 
-  platform::ui::FileDialog& ShownDialog() const { return dialog_; }
-  FormView* Preview() const { return preview_.get(); }
+ private:
   /// Tells the dialog that another file stands in the name field.
   void Highlight(const QString& path);
-
- private:
   void SetFilters();
   void SetStart();
   void AddPreview();

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QStyle>
 #include <QTimer>
 #include <QWhatsThis>
 

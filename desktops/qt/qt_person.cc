@@ -162,6 +162,7 @@ void QtPerson::AccessKey(char key) {
   // A button pressed so stays down for a moment, so that it is seen.
   const auto released = [this] { return window_ == nullptr || !finder_.IsAnyButtonDown(); };
   if (!QTest::qWaitFor(released)) Fail("A button stays down");
+  Settle();
 }
 
 void QtPerson::Check(const std::string& label, bool checked) {

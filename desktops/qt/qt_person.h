@@ -6,6 +6,7 @@
 #include "desktops/qt/widget_finder.h"
 #include "desktops/scripted/person.h"
 
+class QComboBox;
 class QTreeWidget;
 
 namespace desktops {
@@ -66,7 +67,7 @@ class QtPerson : public Person {
   void Click(QAbstractButton& button);
   void AskInMenu(QWidget& widget);
   QPoint PointInText(QWidget& field, std::size_t position);
-  void ChooseInCombo(class QComboBox& combo, const QString& item);
+  void ChooseInCombo(QComboBox& combo, const QString& item);
   QPoint RowPoint(QTreeWidget& list, int row);
   int RowOfItem(QTreeWidget& list, const std::string& item);
   void ClickRowOf(QTreeWidget& list, int row, bool twice);

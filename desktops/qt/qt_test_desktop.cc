@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/qt_test_desktop.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -39,6 +40,15 @@ QMessageBox::StandardButton ButtonOf(Answer answer) {
 }
 
 }  // namespace
+
+void QtTestDesktop::EnsureApplication() {
+  static int argument_count = 1;
+  static char name[] = "tests";
+  static char* arguments[] = {name, nullptr};
+  // Never destroyed: at the end of the process its windows would outlive what they are drawn with.
+  static auto* application = new QApplication(argument_count, arguments);
+  static_cast<void>(application);
+}
 
 QtTestDesktop::QtTestDesktop() {
   qt::SetFailedHandlerReport(

@@ -17,6 +17,9 @@ class ModalWindow;
 /// expectation when it opens; messages are shown and their button is clicked. Sleeps are recorded, not slept.
 class QtTestDesktop : public QtDesktop {
  public:
+  /// Makes the process's application where there is none. Qt cannot make a second one, so it stays.
+  static void EnsureApplication();
+
   QtTestDesktop();
   ~QtTestDesktop() override;
 

@@ -77,11 +77,6 @@ FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
   return *view;
 }
 
-FormView* SheetWindow::ActiveView() const {
-  const auto found = views_.find(sheet_.ActivePage());
-  return found != views_.end() ? found->second.get() : nullptr;
-}
-
 void SheetWindow::ShowPage() {
   PropertyPage* page = sheet_.ActivePage();
   if (page == nullptr || !page->Created()) return;

@@ -8,6 +8,8 @@
 #include "desktops/qt/modal_window.h"
 #include "platform/ui/property_sheet.h"
 
+class QBoxLayout;
+
 namespace desktops::qt {
 
 /// A property sheet with its tabs and buttons, or a wizard, which shows one page without tabs. A page's view
@@ -17,11 +19,9 @@ class SheetWindow : public ModalWindow {
   SheetWindow(platform::ui::PropertySheet& sheet, QWidget* parent);
 
   void OnWindowChanged(platform::ui::Window& window, platform::ui::Change change) override;
-  /// The view of the active page, or null before the first.
-  FormView* ActiveView() const;
 
  private:
-  void AddButtons(class QBoxLayout& row);
+  void AddButtons(QBoxLayout& row);
   void AddTabs();
   void ShowPage();
   void ShowButtons();

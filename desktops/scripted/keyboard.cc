@@ -74,7 +74,7 @@ void TypeIntoCombo(ComboBox& combo, char32_t c) {
   std::string text = combo.Text();
   if (c == U'\b') {
     text.resize(platform::Utf8Previous(text, text.size()));
-  } else {
+  } else if (c >= U' ') {
     platform::Utf8Append(text, c);
   }
   combo.OnTextEdited(text);

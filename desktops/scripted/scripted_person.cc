@@ -2,6 +2,7 @@
 #include "desktops/scripted/scripted_person.h"
 
 #include <algorithm>
+#include <cctype>
 
 #include "desktops/scripted/control_search.h"
 #include "desktops/scripted/keyboard.h"
@@ -172,6 +173,7 @@ void ScriptedPerson::AccessKey(char key) {
 
 bool ScriptedPerson::PressSheetAccessKey(char key) {
   if (sheet_ == nullptr) return false;
+  key = static_cast<char>(std::tolower(static_cast<unsigned char>(key)));
   for (const NamedSheetButton& named : SheetButtons()) {
     if (platform::ui::AccessKey(named.label) != key || !sheet_->ButtonEnabled(named.button)) continue;
     PressSheetButton(named.button, named.label);

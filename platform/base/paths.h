@@ -6,7 +6,7 @@
 namespace platform {
 
 /// The directory in which the console keeps its records and files: the environment variable ALERTING_DATA,
-/// else "$XDG_DATA_HOME/alerting", else "$HOME/.local/share/alerting" (XDG Base Directory Specification),
+/// else "$XDG_DATA_HOME/alerting", else "$HOME/.local/share/alerting" (the XDG base directories),
 /// else "./alerting-data". Read anew on each call; the directory itself may not exist.
 std::string DataDirectory();
 

@@ -12,13 +12,28 @@ namespace platform::ui {
 class Form;
 
 /// Keys that a control may hear of besides characters.
-enum class Key { kLeft, kRight, kUp, kDown, kHome, kEnd, kPageUp, kPageDown, kDelete, kSpace, kTab, kEnter, kEscape, kF1 };
+enum class Key {
+  kLeft,
+  kRight,
+  kUp,
+  kDown,
+  kHome,
+  kEnd,
+  kPageUp,
+  kPageDown,
+  kDelete,
+  kSpace,
+  kTab,
+  kEnter,
+  kEscape,
+  kF1
+};
 
 /// A control of a form. Constructing it adds it to the form; the order of construction is the tab order. Its
 /// label belongs to it: hiding or disabling the control does the same to the label.
 ///
-/// Changes that the program makes report nothing; changes that a person makes run the control's change handler
-/// and then the form's OnPersonChange.
+/// Changes that the program makes report nothing; changes that a person makes run the control's change
+/// handler and then the form's OnPersonChange.
 class Control : public Window {
  public:
   Control(Form& form, int id, std::string label);

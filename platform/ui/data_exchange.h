@@ -24,8 +24,8 @@ class DataExchange {
   void Text(ComboBox& combo, std::string& value);
   void Check(CheckBox& box, bool& value);
   void Radio(RadioGroup& group, int& index);
-  /// An integer from `lower` to `upper`. Anything else shows "Please enter an integer between %1 and %2." with
-  /// the bounds put in, moves the focus to the field, selects its text, and fails.
+  /// An integer from `lower` to `upper`. Anything else shows "Please enter an integer between %1 and %2."
+  /// with the bounds put in, moves the focus to the field, selects its text, and fails.
   void Integer(Edit& edit, std::uint32_t& value, std::uint32_t lower, std::uint32_t upper);
 
  private:

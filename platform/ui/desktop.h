@@ -24,9 +24,9 @@ class Sound {
   virtual void Stop() = 0;
 };
 
-/// The one seam between the program and whoever shows it to a person. One desktop is current in a process. The
-/// base is the desktop of a process without one: messages go to standard error, questions are answered No, and
-/// modal windows end as cancelled.
+/// The one seam between the program and whoever shows it to a person. One desktop is current in a process.
+/// The base is the desktop of a process without one: messages go to standard error, questions are answered
+/// No, and modal windows end as cancelled.
 class Desktop {
  public:
   virtual ~Desktop();
@@ -63,8 +63,8 @@ class Desktop {
   /// Shows a help text beside the control that was asked about (null: in the middle of the active window).
   virtual void ShowHelpText(Window* beside, const std::string& text);
 
-  /// Runs `task` on the user-interface thread, soon; may be called on any thread. The base runs it when the next
-  /// modal window is opened.
+  /// Runs `task` on the user-interface thread, soon; may be called on any thread. The base runs it when the
+  /// next modal window is opened.
   virtual void Post(std::function<void()> task);
 };
 

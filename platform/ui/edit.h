@@ -20,10 +20,10 @@ constexpr char32_t kCharPaste = 22;
 constexpr char32_t kCharCut = 24;
 constexpr char32_t kCharUndo = 26;
 
-/// A text field. The object does the editing itself, so a filter in a derived class sees every character on every
-/// desktop: typed keys arrive at OnChar, pasted and dropped text at OnPaste. Texts are UTF-8; positions and the
-/// limit count bytes and never fall inside a sequence. A line break in a multi-line field is "\r\n", passed and
-/// erased in one step.
+/// A text field. The object does the editing itself, so a filter in a derived class sees every character on
+/// every desktop: typed keys arrive at OnChar, pasted and dropped text at OnPaste. Texts are UTF-8; positions
+/// and the limit count bytes and never fall inside a sequence. A line break in a multi-line field is "\r\n",
+/// passed and erased in one step.
 class Edit : public Control {
  public:
   static constexpr std::size_t kNoLimit = static_cast<std::size_t>(-1);
@@ -52,15 +52,16 @@ class Edit : public Control {
   std::size_t Caret() const { return caret_at_start_ ? start_ : end_; }
   /// Clamped to the text and to sequence boundaries; swapped ends mean a caret at the start.
   void SetSelection(std::size_t start, std::size_t end, bool caret_at_start = false);
-  /// Replaces the selection, the caret goes behind the inserted text. A program's change: no report, no limit.
+  /// Replaces the selection, the caret goes behind the inserted text. A program's change: no report, no
+  /// limit.
   void ReplaceSelection(std::string_view text);
   /// Asks the desktop to bring the caret into view.
   void ScrollToCaret() { Notify(Change::kSelection); }
 
   /// A typed character or one of the kChar... controls. The base edits the text.
   virtual void OnChar(char32_t c);
-  /// Text put in from the clipboard or dropped by a person. The base inserts it at the selection, cut to the limit;
-  /// a single-line field takes the text before the first line break.
+  /// Text put in from the clipboard or dropped by a person. The base inserts it at the selection, cut to the
+  /// limit; a single-line field takes the text before the first line break.
   virtual void OnPaste(std::string_view text);
   /// The mouse button was released in the field; the selection is already what the mouse made it.
   virtual void OnMouseUp() {}
@@ -102,7 +103,8 @@ class Edit : public Control {
   std::size_t limit_ = kNoLimit;
   bool masked_ = false, multi_line_ = false, read_only_ = false, digits_only_ = false;
   std::vector<State> undo_;
-  bool typing_ = false;  // the last change was a typed character, so the next one belongs to the same undo step
+  // The last change was a typed character; the next one belongs to the same undo step.
+  bool typing_ = false;
 };
 
 }  // namespace platform::ui

@@ -42,8 +42,8 @@ class Form : public Window {
   /// Moves the focus, by program or person; null takes it away.
   void MoveFocus(Control* control);
 
-  /// The control that takes the focus after the one that has it, in tab order and round the end; null where there
-  /// is none.
+  /// The control that takes the focus after the one that has it, in tab order and round the end; null where
+  /// there is none.
   Control* NextInTabOrder() const;
 
   /// The button that Enter presses, or null.
@@ -51,8 +51,8 @@ class Form : public Window {
 
   /// Passes a help request on; the base ignores it.
   virtual void OnHelp(const HelpEvent&) {}
-  /// Enter (not in a multi-line field) and Escape, where the control did not want them. Enter presses the button
-  /// with the focus, else the default button.
+  /// Enter (not in a multi-line field) and Escape, where the control did not want them. Enter presses the
+  /// button with the focus, else the default button.
   virtual void OnEnter();
   virtual void OnEscape() {}
   /// A person changed a control, after its own handler ran. One place to mark a page as modified.

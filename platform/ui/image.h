@@ -13,7 +13,8 @@ namespace platform::ui {
 class Bitmap {
  public:
   Bitmap() = default;
-  Bitmap(int width, int height) : width_(width), height_(height), pixels_(static_cast<std::size_t>(width * height)) {}
+  Bitmap(int width, int height)
+      : width_(width), height_(height), pixels_(static_cast<std::size_t>(width * height)) {}
 
   int Width() const { return width_; }
   int Height() const { return height_; }

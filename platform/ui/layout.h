@@ -9,12 +9,14 @@ namespace platform::ui {
 
 class Control;
 
-/// Where the controls of a form stand, as a tree that a desktop turns into real places. Pixels are its affair.
+/// Where the controls of a form stand, as a tree that a desktop turns into real places. Pixels are its
+/// affair.
 struct LayoutNode {
   enum class Kind {
     kColumn,  ///< children one under the other
     kRow,     ///< children side by side
-    kGroup,   ///< a framed box with `text` as its caption ("" for a frame alone) around its children, as a column
+    kGroup,   ///< a framed box with `text` as its caption ("" for a frame alone) around its children, as a
+              ///< column
     kField,   ///< a control with its label on the left (buttons and check boxes carry their own text)
     kOver,    ///< a control with its label above it
     kBare,    ///< a control without its label

@@ -23,7 +23,8 @@ class ItemList : public Control {
 
   bool Sorted() const { return sorted_; }
   int Count() const { return static_cast<int>(items_.size()); }
-  /// Adds an item and answers its index. In a sorted list that is its place, and the current item stays current.
+  /// Adds an item and answers its index. In a sorted list that is its place, and the current item stays
+  /// current.
   int Add(std::string_view text, ItemData data = 0);
   void SetData(int index, ItemData data);
   /// Leaves the field of an editable combo box as it is.
@@ -97,8 +98,8 @@ class ListBox : public ItemList {
   std::function<void()> on_double_click_;
 };
 
-/// A report: columns, rows of texts, one row selected and one focused at most. The change handler hears of every
-/// new selection that a person makes.
+/// A report: columns, rows of texts, one row selected and one focused at most. The change handler hears of
+/// every new selection that a person makes.
 class ListView : public Control {
  public:
   struct Column {

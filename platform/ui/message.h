@@ -19,8 +19,8 @@ struct Message {
   Window* parent = nullptr;
 };
 
-/// Shows a modal message on the current desktop and answers the button pressed. The title is that of the current
-/// Module.
+/// Shows a modal message on the current desktop and answers the button pressed. The title is that of the
+/// current Module.
 Answer MessageBox(const std::string& text, Buttons buttons = Buttons::kOk,
                   MessageIcon icon = MessageIcon::kWarning, Window* parent = nullptr);
 

@@ -28,8 +28,8 @@ class PropertyPage : public Form {
 
   /// The page becomes the current one. False keeps it from being shown. The base agrees.
   virtual bool OnSetActive() { return true; }
-  /// Another page is chosen, or OK or Apply pressed: the base takes the values out of the controls and refuses
-  /// when one of them is refused.
+  /// Another page is chosen, or OK or Apply pressed: the base takes the values out of the controls and
+  /// refuses when one of them is refused.
   virtual bool OnKillActive() { return UpdateData(true); }
   /// The platform's apply notification, to pages that were shown only. False keeps the sheet open.
   virtual bool OnApply() { return true; }
@@ -75,9 +75,9 @@ class PropertySheet : public Window, public Modal {
   std::uint32_t WizardButtons() const { return wizard_buttons_; }
   void SetWizardButtons(std::uint32_t flags) override;
 
-  /// What the platform does when a button is pressed, also when the program presses it. OK and Apply: the active
-  /// page lets go, every shown page gets OnApply, the page-changed states are cleared; OK then ends with kOk.
-  /// A disabled button does nothing.
+  /// What the platform does when a button is pressed, also when the program presses it. OK and Apply: the
+  /// active page lets go, every shown page gets OnApply, the page-changed states are cleared; OK then ends
+  /// with kOk. A disabled button does nothing.
   void Press(SheetButton button);
   /// A person pressed a button: OnCommand sees it first and may consume it.
   void OnButton(SheetButton button);
@@ -92,7 +92,8 @@ class PropertySheet : public Window, public Modal {
   bool UpdateData(bool save) override;
 
  protected:
-  /// Sees a button that a person pressed before the platform acts on it; true consumes it. The base lets all pass.
+  /// Sees a button that a person pressed before the platform acts on it; true consumes it. The base lets all
+  /// pass.
   virtual bool OnCommand(SheetButton) { return false; }
   /// The sheet's window has been made, the first page not yet.
   virtual void OnCreated() {}

@@ -45,8 +45,8 @@ enum WizardButton : std::uint32_t {
   kWizardDisabledFinish = 8
 };
 
-/// Whatever has a place on a desktop: a control, a dialog, a page, a sheet, or a host window that is not ours.
-/// Objects own their state; showing it is the desktop's affair.
+/// Whatever has a place on a desktop: a control, a dialog, a page, a sheet, or a host window that is not
+/// ours. Objects own their state; showing it is the desktop's affair.
 class Window {
  public:
   explicit Window(Window* parent = nullptr, int id = 0, std::string label = {});

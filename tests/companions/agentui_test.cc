@@ -81,6 +81,7 @@ TEST_F(AgentUiTest, ThePersonChoosesAnAddress) {
   component_->AddIPAddressToMRUList("mail.example.org");
   EXPECT_EQ(AddressAfter([](Person& person) {
               EXPECT_THAT(person.Items(kList), ElementsAre("mail.example.org", "192.0.2.1"));
+              EXPECT_THAT(person.Screen(), testing::Not(testing::HasSubstr("has been used yet")));
               person.Choose(kList, "192.0.2.1");
               person.Press("OK");
             }),

@@ -317,14 +317,22 @@ TEST_F(DbConfigTest, AFileThatCannotBeReplacedFailsTheWrite) {
   EXPECT_EQ(dbconfig::MakeDbConfig()->IsConversionComplete(), 1u);
 }
 
+TEST_F(DbConfigTest, WithoutTheLockNothingIsWritten) {
+  std::filesystem::create_directories(Path() + ".lock");
+  EXPECT_EQ(Write(), dbconfig::kFileUnwritable);
+  EXPECT_FALSE(std::filesystem::exists(Path()));
+}
+
 TEST_F(DbConfigTest, AWriteWaitsForAnotherConsoleAndIsUnderWayMeanwhile) {
-  ASSERT_EQ(Write(), 0u);
-  const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CLOEXEC);
+  const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
   ASSERT_EQ(flock(other_console, LOCK_EX), 0);
   const auto component = dbconfig::MakeDbConfig();
   std::uint32_t status = 99;
   std::thread writer([&] { status = component->CreateAlertServerConfigFile(0); });
   while (component->IsConversionComplete() != 0) std::this_thread::yield();
+  std::this_thread::sleep_for(std::chrono::milliseconds(100));
+  EXPECT_EQ(component->IsConversionComplete(), 0u);
+  EXPECT_FALSE(std::filesystem::exists(Path()));
   close(other_console);
   writer.join();
   EXPECT_EQ(status, 0u);

@@ -14,6 +14,8 @@ void Put(Bytes& bytes, std::uint64_t value, int size) {
   for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
 }
 
+void PutZeros(Bytes& bytes, std::size_t count) { bytes.resize(bytes.size() + count); }
+
 struct Picture {
   std::int32_t width, height;
   unsigned bits;
@@ -31,7 +33,7 @@ Bytes Dib(const Picture& p) {
   Put(bytes, 1, 2);
   Put(bytes, p.bits, 2);
   Put(bytes, p.compression, 4);
-  Put(bytes, 0, 4 + 4 + 4);
+  PutZeros(bytes, 12);
   Put(bytes, p.palette.size(), 4);
   Put(bytes, 0, 4);
   for (const std::uint32_t color : p.palette) Put(bytes, color, 4);

@@ -131,5 +131,20 @@ TEST_F(ScriptTest, SleepsAreRecordedAndLetPostedTasksRun) {
   EXPECT_THAT(desktop_.script.sleeps, ElementsAre(60000u));
 }
 
+TEST_F(ScriptTest, ASoundPlaysUntilItIsFinishedOrStopped) {
+  int finished = 0;
+  const auto sound = desktop_.OpenSound("/proc/self/exe");
+  ASSERT_TRUE(sound->Play([&] { ++finished; }));
+  EXPECT_EQ(desktop_.playing_sound, "/proc/self/exe");
+  desktop_.FinishSound();
+  EXPECT_EQ(desktop_.playing_sound, "");
+  ASSERT_TRUE(sound->Play([&] { ++finished; }));
+  sound->Stop();
+  EXPECT_EQ(desktop_.playing_sound, "");
+  desktop_.FinishSound();
+  EXPECT_EQ(finished, 1);
+  EXPECT_FALSE(desktop_.OpenSound("/nowhere.wav")->Play({}));
+}
+
 }  // namespace
 }  // namespace desktops

@@ -10,6 +10,7 @@
 #include "platform/ui/canvas.h"
 #include "platform/ui/desktop.h"
 #include "platform/ui/dialog.h"
+#include "platform/ui/edit.h"
 #include "platform/ui/lists.h"
 #include "platform/ui/property_sheet.h"
 
@@ -136,6 +137,13 @@ TEST(ItemListTest, FindsByTextBytesAndData) {
   EXPECT_EQ(list.Current(), -1);
   EXPECT_EQ(list.ItemText(-1), "");
   EXPECT_EQ(list.Data(5), 0u);
+}
+
+TEST(EditTest, APastedTextEndsAtAZeroByte) {
+  Dialog dialog(nullptr, "Form");
+  Edit edit(dialog, 1, "Edit");
+  edit.OnPaste(std::string_view("ab\0cd", 5));
+  EXPECT_EQ(edit.Text(), "ab");
 }
 
 TEST(ListViewTest, TheRowMovedToIsInView) {
@@ -295,6 +303,8 @@ TEST(DynamicLibraryTest, FindsFunctionsByNameAndVersion) {
   EXPECT_EQ(library.Error(), "");
   EXPECT_NE(library.Find("cos"), nullptr);
   EXPECT_EQ(library.Find("cos@8"), nullptr) << "no such version";
+  EXPECT_EQ(library.Find("cos@GLIBC_2.2.5"), nullptr)
+      << "a decoration names bytes of arguments, no other version";
   EXPECT_EQ(library.Find("no_such_function"), nullptr);
 }
 

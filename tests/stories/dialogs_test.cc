@@ -167,13 +167,16 @@ class ShyDialog : public Dialog {
   ShyDialog() : Dialog(nullptr, "Shy") {}
 
  private:
-  void OnInitDialog() override { EndDialog(kOk); }
+  void OnInitDialog() override {
+    EndDialog(kOk);
+    EndDialog(kCancel);
+  }
 };
 
 TEST_F(DialogsTest, ADialogMayEndWhileItOpens) {
   ShyDialog dialog;
-  EXPECT_EQ(dialog.RunModal(), kOk);
-  EXPECT_EQ(dialog.RunModal(), kOk) << "and run once more";
+  EXPECT_EQ(dialog.RunModal(), kOk) << "the first result stands";
+  EXPECT_EQ(dialog.RunModal(), kOk) << "and it may run once more";
 }
 
 TEST_F(DialogsTest, TheForegroundIsTheInnermostWindow) {

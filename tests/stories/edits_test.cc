@@ -121,6 +121,10 @@ TEST_F(EditsTest, TheProgramMayExceedTheLimitAndAPersonMayThenOnlyErase) {
     p.Press(Key::kEnd);
     p.TypeHere("s");
     EXPECT_EQ(p.Text("&Code:"), "longer");
+    p.SelectText("&Code:", 0, 1);
+    p.TypeHere("s");
+    EXPECT_EQ(p.Text("&Code:"), "longer") << "what does not fit does not erase the selection either";
+    p.Press(Key::kEnd);
     p.TypeHere("\b\b\bg");
     EXPECT_EQ(p.Text("&Code:"), "long");
   });
@@ -165,15 +169,31 @@ TEST_F(EditsTest, EnterStartsALineInAMultiLineField) {
 }
 
 TEST_F(EditsTest, UpAndDownKeepTheColumn) {
-  dialog_.body.SetText("first\r\n\r\nthird line");
+  dialog_.body.SetText("ooooo\r\noooooo\r\n");  // one letter, as widths count; lines begin at bytes 0, 7, 15
   Run([](Person& p) {
     p.ClickInText("&Body:", 3);
     p.Press(Key::kDown);
-    EXPECT_EQ(p.Selection("&Body:").first, 7u) << "a shorter line is left at its end";
+    EXPECT_EQ(p.Selection("&Body:"), (Range{10, 10}));
+    p.Press(Key::kDown);
+    EXPECT_EQ(p.Selection("&Body:"), (Range{15, 15})) << "a shorter line is left at its end";
     p.ClickInText("&Body:", 12);
     p.Press(Key::kUp);
-    p.Press(Key::kUp);
-    EXPECT_LE(p.Selection("&Body:").first, 5u);
+    EXPECT_EQ(p.Selection("&Body:"), (Range{5, 5}));
+    p.Press(Key::kEnd);
+    EXPECT_EQ(p.Selection("&Body:"), (Range{5, 5}));
+  });
+}
+
+TEST_F(EditsTest, ALineBreakIsNeverCutInTwo) {
+  dialog_.body.SetLimit(4);
+  Run([this](Person& p) {
+    p.Type("&Body:", "abc\n");
+    EXPECT_EQ(p.Text("&Body:"), "abc") << "one byte is left, a line break takes two";
+    p.Paste("&Body:", "\nx");
+    EXPECT_EQ(p.Text("&Body:"), "abc");
+    dialog_.body.SetText("a\r\nb");
+    dialog_.body.SetSelection(2, 2);
+    EXPECT_EQ(p.Selection("&Body:"), (Range{1, 1}));
   });
 }
 
@@ -299,6 +319,17 @@ TEST_F(EditsTest, AProgramsReplacementGoesToTheSelectionUnreported) {
     EXPECT_EQ(dialog_.changes, 0);
     p.TypeHere("!");
     EXPECT_EQ(p.Text("&Name:"), "Alert at <Time> !");
+  });
+}
+
+TEST_F(EditsTest, ASpinComesBackIntoItsRange) {
+  dialog_.day.SetText("99");
+  dialog_.level.SetText("-7");
+  Run([](Person& p) {
+    p.StepSpin("&Day:", -1);
+    EXPECT_EQ(p.Text("&Day:"), "30");
+    p.StepSpin("&Level:", +1);
+    EXPECT_EQ(p.Text("&Level:"), "1");
   });
 }
 

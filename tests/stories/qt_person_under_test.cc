@@ -1,20 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
 #include <QClipboard>
+#include <QGuiApplication>
 
 #include "desktops/qt/qt_test_desktop.h"
 #include "tests/stories/test_desktop.h"
 
 namespace stories {
 namespace {
-
-// One application serves all tests of the process; Qt cannot make a second one.
-void EnsureApplication() {
-  static int argument_count = 1;
-  static char name[] = "stories";
-  static char* arguments[] = {name, nullptr};
-  static QApplication application(argument_count, arguments);
-}
 
 class QtStoriesDesktop : public TestDesktop {
  public:
@@ -30,7 +22,7 @@ class QtStoriesDesktop : public TestDesktop {
 }  // namespace
 
 std::unique_ptr<TestDesktop> MakeTestDesktop() {
-  EnsureApplication();
+  desktops::QtTestDesktop::EnsureApplication();
   return std::make_unique<QtStoriesDesktop>();
 }
 

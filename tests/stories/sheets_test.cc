@@ -92,6 +92,7 @@ TEST_F(SheetsTest, APageComesToLifeWhenItsTabIsSelected) {
   EXPECT_EQ(result, kOk);
   EXPECT_THAT(sheet.log,
               ElementsAre("command", "General left", "General apply", "Message apply", "destroyed"));
+  EXPECT_FALSE(sheet.general.Created()) << "the windows are gone";
   EXPECT_FALSE(sheet.modems.Created());
 }
 
@@ -118,6 +119,9 @@ TEST_F(SheetsTest, ApplyIsEnabledWhileAPageIsChanged) {
     EXPECT_THAT(sheet.log, ElementsAre("command", "Message left", "General apply", "Message apply"));
     EXPECT_FALSE(p.IsEnabled("Apply"));
     p.Type("&Text:", "y");
+    p.AccessKey('A');
+    EXPECT_FALSE(p.IsEnabled("Apply"));
+    p.Type("&Text:", "z");
     sheet.message.SetModified(false);
     EXPECT_FALSE(p.IsEnabled("Apply"));
     p.Press("Cancel");

@@ -8,7 +8,6 @@ namespace {
 
 using desktops::Person;
 using platform::ui::Key;
-using testing::Contains;
 using testing::ElementsAre;
 
 using SmtpPagesTest = SmtpSheetTest;

@@ -1,0 +1,232 @@
+// SPDX-License-Identifier: MIT
+#include "tests/desktops/qt_window_test.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTest>
+#include <QTreeWidget>
+#include <new>
+
+#include "desktops/qt/canvas_adapter.h"
+#include "desktops/qt/guard.h"
+#include "platform/ui/edit.h"
+#include "platform/ui/lists.h"
+#include "platform/ui/spin.h"
+
+namespace desktops::qt {
+namespace {
+
+using namespace platform::ui;
+
+/// One control of every kind that a value can be changed in.
+class FullDialog : public ReportingDialog {
+ public:
+  FullDialog() {
+    list.SetOnDoubleClick([] { throw std::bad_alloc(); });
+    seconds.SetDigitsOnly(true);
+    SetLayout(Column({Row({Over(name), Over(note)}), Row({Field(seconds), Bare(spin)}), Field(box),
+                      Field(mode), Field(combo), Over(list), Over(report)}));
+  }
+
+  Edit name{*this, 1, "&Name:"};
+  Edit note{*this, 2, "N&ote:"};
+  Edit seconds{*this, 3, "&Seconds:"};
+  Spin spin{*this, 4, seconds, true};
+  CheckBox box{*this, 5, "&Box"};
+  RadioGroup mode{*this, 6, "Mode", {"A", "B"}};
+  ComboBox combo{*this, 7, "&Combo:", false, true};
+  ListBox list{*this, 8, "&List:", false, true};
+  ListView report{*this, 9, "&Report:"};
+
+  void Fill() {
+    name.SetText("Ann");
+    seconds.SetText("60");
+    box.SetChecked(true);
+    mode.SetIndex(1);
+    for (ItemList* items : {static_cast<ItemList*>(&combo), static_cast<ItemList*>(&list)}) {
+      for (int i = 0; i < 50; ++i) items->Add("item\t" + std::to_string(i));
+      items->Select(7);
+    }
+    report.AddColumn("Name", 20);
+    for (int i = 0; i < 50; ++i) report.AddRow({"row"});
+    report.SelectRow(3);
+    report.FocusRow(3);
+  }
+
+ private:
+  void OnInitDialog() override {
+    spin.SetRange(0, 60);
+    Fill();
+  }
+};
+
+QLabel* LabelOf(const QWidget& widget) {
+  for (auto* label : widget.window()->findChildren<QLabel*>()) {
+    if (label->buddy() == &widget) return label;
+  }
+  return nullptr;
+}
+
+TEST_F(QtWindowTest, ShowingAndFillingReportNothing) {
+  FullDialog dialog;
+  Show(dialog, [&](Person& person) {
+    dialog.Fill();
+    Settle();
+    EXPECT_EQ(person.Items("&List:").size(), 100u);
+    EXPECT_EQ(person.Rows("&Report:").size(), 100u);
+    EXPECT_EQ(person.Text("&List:"), "item\t7") << "tab stops make columns, which still read as one text";
+    EXPECT_EQ(person.SelectedRow("&Report:"), 3);
+  });
+  EXPECT_EQ(dialog.changes, 0);
+}
+
+TEST_F(QtWindowTest, ALabelIsHiddenAndDisabledWithItsControl) {
+  FullDialog dialog;
+  Show(dialog, [&](Person&) {
+    QLabel* label = LabelOf(Widget<QLineEdit>());
+    ASSERT_NE(label, nullptr);
+    dialog.name.Enable(false);
+    EXPECT_FALSE(label->isEnabled());
+    dialog.name.Show(false);
+    EXPECT_FALSE(label->isVisible());
+    dialog.name.Show(true);
+    EXPECT_TRUE(label->isVisible());
+  });
+}
+
+TEST_F(QtWindowTest, AHiddenControlLeavesItsRoomToItsNeighbour) {
+  FullDialog dialog;
+  Show(dialog, [&](Person&) {
+    const int shared = Widget<QLineEdit>().width();
+    dialog.note.Show(false);
+    Settle();
+    EXPECT_GT(Widget<QLineEdit>().width(), shared * 3 / 2);
+  });
+}
+
+TEST_F(QtWindowTest, AHandlerThatFailsEndsItsActionOnly) {
+  FullDialog dialog;
+  std::vector<std::string> reports;
+  SetFailedHandlerReport([&](const char* what) { reports.emplace_back(what); });
+  Show(dialog, [&](Person& person) {
+    person.DoubleClickItem("&List:", "item\t1");
+    EXPECT_EQ(person.Text("&List:"), "item\t1") << "the window is still there";
+  });
+  EXPECT_THAT(reports, testing::ElementsAre(std::bad_alloc().what()));
+}
+
+TEST_F(QtWindowTest, ArrowKeysInTheFieldStepItsSpin) {
+  FullDialog dialog;
+  Show(dialog, [&](Person& person) {
+    person.Focus("&Seconds:");
+    person.Press(Key::kUp);
+    EXPECT_EQ(dialog.seconds.Text(), "0") << "it wraps";
+    person.Press(Key::kDown);
+    person.Press(Key::kDown);
+    EXPECT_EQ(person.Text("&Seconds:"), "59");
+  });
+  EXPECT_EQ(dialog.changes, 3);
+}
+
+TEST_F(QtWindowTest, HelpIsAskedByKeyAndByClick) {
+  FullDialog dialog;
+  Show(dialog, [&](Person& person) {
+    person.Focus("&Name:");
+    person.Press(Key::kF1);
+    QWidget& field = Widget<QLineEdit>();
+    QHelpEvent click(QEvent::WhatsThis, QPoint(2, 2), field.mapToGlobal(QPoint(2, 2)));
+    QApplication::sendEvent(&field, &click);
+  });
+  ASSERT_EQ(dialog.help.size(), 2u);
+  EXPECT_EQ(dialog.help[0].kind, HelpEvent::Kind::kHelpKey);
+  EXPECT_EQ(dialog.help[1].kind, HelpEvent::Kind::kContextMenu);
+  for (const HelpEvent& event : dialog.help) EXPECT_EQ(event.control, &dialog.name);
+}
+
+/// Scrolls by whole steps, whatever the bar does.
+class StepCanvas : public Canvas {
+ public:
+  using Canvas::Canvas;
+  void OnPaint(Painter& painter) override {
+    ++paints;
+    painter.Fill({0, 0, 10, 10}, SystemColor::kHighlight);
+  }
+  void OnScroll(Scroll what, int) override {
+    scrolls.push_back(what);
+    SetScroll(ScrollPosition() + 2, 9, 4);
+  }
+  int paints = 0;
+  std::vector<Scroll> scrolls;
+};
+
+TEST_F(QtWindowTest, ACanvasPaintsAndDecidesItsScrolling) {
+  ReportingDialog dialog;
+  StepCanvas canvas(dialog, 1, "Strip");
+  canvas.SetScroll(0, 9, 4);
+  Show(dialog, [&](Person&) {
+    auto& widget = Widget<CanvasWidget>();
+    const QImage picture = widget.viewport()->grab().toImage();
+    EXPECT_EQ(picture.pixelColor(5, 5), widget.palette().color(QPalette::Highlight));
+    EXPECT_EQ(picture.pixelColor(20, 5), widget.palette().color(QPalette::Base));
+    EXPECT_EQ(canvas.Width(), widget.viewport()->width());
+    QScrollBar* bar = widget.horizontalScrollBar();
+    EXPECT_EQ(bar->maximum(), 6) << "ten steps, four of them in view";
+    bar->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(bar->value(), 2) << "where the canvas said, not one step on";
+    bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(bar->value(), 4);
+  });
+  EXPECT_THAT(canvas.scrolls, testing::ElementsAre(Canvas::Scroll::kLineRight, Canvas::Scroll::kPageRight));
+}
+
+bool ShowsWaitCursor() {
+  const QCursor* cursor = QGuiApplication::overrideCursor();
+  return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+}
+
+TEST_F(QtWindowTest, AWindowTakesTheWaitCursorAwayUntilRestored) {
+  const WaitCursor outer;
+  {
+    WaitCursor inner;
+    EXPECT_TRUE(ShowsWaitCursor());
+    ReportingDialog dialog;
+    Show(dialog, [](Person&) { EXPECT_FALSE(ShowsWaitCursor()); });
+    inner.Restore();
+    EXPECT_TRUE(ShowsWaitCursor());
+  }
+  EXPECT_TRUE(ShowsWaitCursor()) << "the outer one still waits";
+}
+
+TEST_F(QtWindowTest, SleepingRunsWhatWasPosted) {
+  QtDesktop awake;
+  bool ran = false;
+  awake.Post([&] { ran = true; });
+  QElapsedTimer clock;
+  clock.start();
+  awake.Sleep(30);
+  EXPECT_TRUE(ran);
+  EXPECT_GE(clock.elapsed(), 30);
+}
+
+TEST_F(QtWindowTest, SmallPicturesAreIconsAndLargeOnesAreNot) {
+  const QString path =
+      QDir::temp().filePath(QString("picture-%1.png").arg(QCoreApplication::applicationPid()));
+  for (const auto& [size, count] : {std::pair{256, 1u}, std::pair{257, 0u}}) {
+    QImage image(size, 32, QImage::Format_ARGB32);
+    image.fill(0x80FF0000u);
+    ASSERT_TRUE(image.save(path));
+    const std::vector<Bitmap> icons = Desk().ExtractIcons(path.toStdString(), 10);
+    ASSERT_EQ(icons.size(), count) << size;
+    for (const Bitmap& icon : icons) EXPECT_EQ(icon.Pixel(255, 31), 0x80FF0000u);
+  }
+  EXPECT_TRUE(Desk().ExtractIcons(path.toStdString() + ".missing", 10).empty());
+  QFile::remove(path);
+}
+
+}  // namespace
+}  // namespace desktops::qt
