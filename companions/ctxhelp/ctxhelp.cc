@@ -28,7 +28,6 @@ std::string TopicText(int topic) {
   std::string bytes;
   if (!platform::ReadWholeFile(ResourceDirectory() + "/help/topics.json", bytes)) return kNoHelp;
   const nlohmann::json topics = nlohmann::json::parse(bytes, nullptr, false);
-  if (!topics.is_object()) return kNoHelp;
   const auto text = topics.find(std::to_string(topic));
   return text != topics.end() && text->is_string() ? text->get<std::string>() : kNoHelp;
 }

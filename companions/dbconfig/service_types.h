@@ -28,7 +28,6 @@ using MakeStoreReader = std::unique_ptr<StoreReader> (*)(Records& out);
 struct ServiceType {
   std::uint32_t record_type;                ///< service type code plus 1, as records hold it
   const char* key;                          ///< the type's name in the file
-  const char* name = "";                      ///< the type's name for people
   MakeStoreReader read_specific = nullptr;  ///< null for a type without service-specific records
   Fields settings;
   MessageFields message;

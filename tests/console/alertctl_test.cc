@@ -160,7 +160,7 @@ TEST_F(AlertctlTest, DefaultMessagesAreStoredWithTheirKeywords) {
   EXPECT_EQ(record.subjectKeywords[1].id, 4u);
   EXPECT_EQ(record.subjectKeywords[1].format.View(), "%s");
   EXPECT_EQ(record.subjectKeywords[2].id, 0u);
-  EXPECT_THAT(std::string(record.defaultBody.View()), HasSubstr("Event number: %ld\n"));
+  EXPECT_THAT(std::string(record.defaultBody.View()), HasSubstr("Event number: %ld\r\n"));
   EXPECT_EQ(record.defaultPriority, 1u);
 
   CAlertRespDB responses;
