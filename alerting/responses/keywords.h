@@ -11,8 +11,8 @@
 #include "platform/ui/lists.h"
 
 /// Message keywords: bracketed names that stand for a field of the alert, such as "<User Name>". Messages are
-/// shown with the names and stored with short placeholders ("%s", "%ld") plus a list of the keywords' identifiers
-/// in order of appearance.
+/// shown with the names and stored with short placeholders ("%s", "%ld") plus a list of the keywords'
+/// identifiers in order of appearance.
 namespace alerting {
 
 constexpr std::size_t kMaxKeywords = 20;
@@ -41,13 +41,14 @@ const Keyword& KeywordAt(int index);
 /// True when the text at `pos` begins with the placeholder of `id`; false for an unknown identifier.
 bool FormatMatchesAt(std::string_view text, std::size_t pos, std::uint32_t id);
 
-/// From the shown to the stored form: the first 20 keywords become placeholders, `ids` takes their identifiers.
+/// From the shown to the stored form: the first 20 keywords become placeholders, `ids` takes their
+/// identifiers.
 std::string CollapseKeywords(std::string_view shown, KeywordIds& ids);
 /// From the stored to the shown form. A "%" that begins no placeholder of the next identifier stays as it is.
 std::string ExpandKeywords(std::string_view stored, const KeywordIds& ids);
 
-/// Cuts a stored form to at most `limit` bytes so that text and identifiers stay in step: no placeholder is cut in
-/// two, and the identifiers of placeholders that fell away are zeroed.
+/// Cuts a stored form to at most `limit` bytes so that text and identifiers stay in step: no placeholder is
+/// cut in two, and the identifiers of placeholders that fell away are zeroed.
 std::string FitStoredForm(std::string_view stored, KeywordIds& ids, std::size_t limit);
 
 /// Adds every keyword name in table order; each item's data is its table row's address.

@@ -3,21 +3,21 @@
 
 namespace alerting {
 
-KeywordIds ReadKeywordSlots(const KeywordSlot (&slots)[kKeywordSlots]) {
+KeywordIds ReadKeywordSlots(const KeywordSlot (&keyword_slots)[kKeywordSlots]) {
   KeywordIds ids{};
-  for (std::size_t i = 0; i < kMaxKeywords; ++i) ids[i] = slots[i].id;
+  for (std::size_t i = 0; i < kMaxKeywords; ++i) ids[i] = keyword_slots[i].id;
   return ids;
 }
 
-void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&slots)[kKeywordSlots]) {
+void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&keyword_slots)[kKeywordSlots]) {
   for (std::size_t i = 0; i < kMaxKeywords; ++i) {
-    slots[i] = KeywordSlot{};
+    keyword_slots[i] = KeywordSlot{};
     if (ids[i] == 0) continue;
     const char* name = KeywordName(ids[i]);
     const char* format = KeywordFormat(ids[i]);
-    slots[i].id = ids[i];
-    slots[i].text.Assign(name != nullptr ? name : "");
-    slots[i].format.Assign(format != nullptr ? format : "");
+    keyword_slots[i].id = ids[i];
+    keyword_slots[i].text.Assign(name != nullptr ? name : "");
+    keyword_slots[i].format.Assign(format != nullptr ? format : "");
   }
 }
 

@@ -6,10 +6,10 @@
 namespace alerting {
 
 /// Identifiers out of a record's keyword slots.
-KeywordIds ReadKeywordSlots(const KeywordSlot (&slots)[kKeywordSlots]);
+KeywordIds ReadKeywordSlots(const KeywordSlot (&keyword_slots)[kKeywordSlots]);
 /// Clears each slot, then fills those with an identifier: display text and placeholder come from the keyword
 /// table.
-void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&slots)[kKeywordSlots]);
+void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&keyword_slots)[kKeywordSlots]);
 /// Identifiers as a response stores them, the low byte of each.
 void WriteResponseKeywords(const KeywordIds& ids, std::uint8_t (&bytes)[kMaxKeywords]);
 
@@ -25,13 +25,13 @@ void ReadDefaultMessage(const Record& record, DefaultMessage& message) {
   }
 }
 
-/// Puts a stored text and its identifiers into a field and its slots, cut together where the field is too
-/// short.
+/// Puts a stored text and its identifiers into a field and its slots, cut together where the field is
+/// too short.
 template <class Text>
 void WriteStoredText(const std::string& text, KeywordIds ids, Text& field,
-                     KeywordSlot (&slots)[kKeywordSlots]) {
+                     KeywordSlot (&keyword_slots)[kKeywordSlots]) {
   field.Assign(FitStoredForm(text, ids, Text::kMaxLength));
-  WriteKeywordSlots(ids, slots);
+  WriteKeywordSlots(ids, keyword_slots);
 }
 
 template <class Record>

@@ -65,7 +65,7 @@ CheckBoxAdapter::CheckBoxAdapter(platform::ui::CheckBox& model, QWidget* parent)
   WatchKeys(box_);
   connect(box_, &QCheckBox::clicked, this, [this] {
     Guarded([this] { model_.OnClick(); });
-    Refresh(Change::kCurrent);  // the box toggled itself; what the model made of it stands
+  // the box toggled itself; what the model made of it stands
   });
 }
 

@@ -109,6 +109,14 @@ TEST_F(FilteredEditTest, PastedTextLosesWhatTheSetRefuses) {
   EXPECT_EQ(TakeBeeps(), 0);
 }
 
+TEST_F(FilteredEditTest, ABackspaceIsTheOneControlCharacterThatIsPasted) {
+  Put("|");
+  field.OnPaste(
+      "1\b2\x1B"
+      "3\x7F");
+  EXPECT_EQ(field.Text(), "1\b23");
+}
+
 TEST_F(FilteredEditTest, PastingWithoutTextBeepsAndKeepsTheSelection) {
   Put("1[2]3");
   desktop.clipboard.reset();
@@ -152,6 +160,8 @@ TEST_F(KeywordEditTest, WhatTouchesAKeywordIsRecognised) {
       {"[<Time>]", false, false, "[<Time>]"},
       {"[<Time>]", true, false, "[<Time>]"},
       {"[<Time> to <Date>]", true, false, "[<Time> to <Date>]"},
+      {"<Date>[<Time>]", true, false, "<Date>[<Time>]"},
+      {"<Date>[ at]", true, true, "[<Date> at]"},
       {"<uSER nAME|> ", false, true, "[<uSER nAME>] "},
       {"a < b| c", true, false, "a < b| c"},
       {"a < b <Ti|me>", false, true, "a < b [<Time>]"},

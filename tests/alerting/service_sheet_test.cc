@@ -123,12 +123,5 @@ TEST_F(ServiceSheetTest, ATestWaitsForChangesThatArePutRight) {
   });
 }
 
-TEST_F(ServiceSheetTest, TheTitleBarOffersHelp) {
-  Run([this](Person& p) {
-    EXPECT_TRUE(sheet.HelpButton());
-    p.Press("Cancel");
-  });
-}
-
 }  // namespace
 }  // namespace alerting

@@ -25,6 +25,7 @@ TEST(WrapMessageTest, BreaksAfterTheLastBlankOrInsideALongWord) {
        Letters(7) + "\r\n" + Letters(8) + "\r\n" + Letters(5)},
       {"after the last blank", "one two three", 10, "one two \r\nthree"},
       {"the blank that reaches the width is not looked at", "one two x", 8, "one \r\ntwo x"},
+      {"a blank that begins a line is out of reach at its end", "aaa bbbb", 4, "aaa\r\n bbb\r\nb"},
       {"a tab is a blank", "one\ttwo", 6, "one\t\r\ntwo"},
       {"own line breaks count anew", "one two\r\nthree", 8, "one two\r\nthree"},
       {"a line feed alone too", "1234567\n1234567\n1", 8, "1234567\n1234567\n1"},

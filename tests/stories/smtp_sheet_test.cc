@@ -20,6 +20,9 @@ constexpr char kUpdateFailed[] = "Unable to update the notification service data
 constexpr char kSpecificUpdateFailed[] =
     "Unable to update the notification service-specific database record.";
 constexpr char kReadFailed[] = "Unable to read the record from the notification service database.";
+constexpr char kCompuServeNote[] =
+    "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
+    "truncated.";
 constexpr char kApplyFirst[] =
     "Do you want to apply changes to this service before running the test?  If yes, the changes will be "
     "saved.  If no, the test will be run using the old values.";
@@ -167,6 +170,7 @@ TEST_F(SmtpSheetTest, TheSheetShowsWhatIsStoredWhenItOpens) {
     EXPECT_EQ(p.Text(kSubject), "Alert");
     EXPECT_EQ(p.Text(kBody), "Alert for <User Name> at <Time>");
     EXPECT_EQ(p.Text("P&riority:"), "Normal");
+    EXPECT_FALSE(p.IsVisible(kCompuServeNote));
     EXPECT_FALSE(p.IsEnabled("Apply")) << "looking changes nothing";
     p.Press("Cancel");
   });
