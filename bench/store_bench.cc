@@ -3,14 +3,9 @@
 //
 //   store_bench [records] [repetitions] [directory]
 
-#include <sqlite3.h>
 #include <stdlib.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <functional>
 #include <string>
@@ -18,9 +13,11 @@
 #include <utility>
 #include <vector>
 
+#include "bench/measure.h"
 #include "companions/alertstore/stores.h"
 
 using namespace alertstore;
+using namespace bench;
 using platform::GUID;
 
 namespace {
@@ -32,12 +29,6 @@ struct GuidHash {
     return hash;
   }
 };
-
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fprintf(stderr, "store_bench: %s\n", what);
-  std::exit(1);
-}
 
 // What the console does with a record is the same in all three; it keeps the compiler from leaving the reads
 // out.
@@ -118,23 +109,12 @@ class Stores {
 // The same reads, by hand, on a connection of the same settings.
 class RawSqlite {
  public:
-  explicit RawSqlite(const std::string& directory) {
-    Require(sqlite3_open_v2((directory + "/alerting.db").c_str(), &connection_,
-                            SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK,
-            "cannot open the database");
-    sqlite3_exec(connection_, "PRAGMA synchronous=FULL; PRAGMA mmap_size=1073741824", nullptr, nullptr,
-                 nullptr);
-    services_ = Prepare("SELECT record FROM \"NtfyServDB.dat\" ORDER BY id");
-    specific_ = Prepare("SELECT record FROM \"MhsNtfyServDB.dat\" WHERE substr(record,1,16)=?1");
-    users_ = Prepare("SELECT record FROM \"UsrMhsDB.dat\" ORDER BY id");
-    link_ = Prepare("SELECT record FROM \"UsrInstServDB.dat\" WHERE substr(record,33,16)=?1");
+  explicit RawSqlite(const std::string& directory) : connection_(directory) {
+    services_ = connection_.Prepare("SELECT record FROM \"NtfyServDB.dat\" ORDER BY id");
+    specific_ = connection_.Prepare("SELECT record FROM \"MhsNtfyServDB.dat\" WHERE substr(record,1,16)=?1");
+    users_ = connection_.Prepare("SELECT record FROM \"UsrMhsDB.dat\" ORDER BY id");
+    link_ = connection_.Prepare("SELECT record FROM \"UsrInstServDB.dat\" WHERE substr(record,33,16)=?1");
   }
-  ~RawSqlite() {
-    for (sqlite3_stmt* statement : {services_, specific_, users_, link_}) sqlite3_finalize(statement);
-    sqlite3_close(connection_);
-  }
-  RawSqlite(const RawSqlite&) = delete;
-  RawSqlite& operator=(const RawSqlite&) = delete;
 
   Sum LoadServices() {
     return ScanAndFind<ALRTNTFYSERV, ALRTMHSSERVICEREC>(
@@ -146,44 +126,21 @@ class RawSqlite {
   }
 
  private:
-  sqlite3_stmt* Prepare(const char* sql) {
-    sqlite3_stmt* statement = nullptr;
-    Require(
-        sqlite3_prepare_v3(connection_, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) == SQLITE_OK,
-        sqlite3_errmsg(connection_));
-    return statement;
-  }
-
-  template <class Record>
-  static bool Read(sqlite3_stmt* statement, Record& record) {
-    if (sqlite3_step(statement) != SQLITE_ROW) return false;
-    const void* bytes = sqlite3_column_blob(statement, 0);
-    if (sqlite3_column_bytes(statement, 0) != sizeof record) return false;
-    std::memcpy(&record, bytes, sizeof record);
-    return true;
-  }
-
   template <class Scanned, class Found, class Key>
   static Sum ScanAndFind(sqlite3_stmt* scan, sqlite3_stmt* find, Key key) {
     Sum sum;
     Scanned scanned;
     Found found;
-    while (Read(scan, scanned)) {
+    while (RawConnection::Read(scan, scanned)) {
       sum.Take(scanned);
-      const GUID id = key(scanned);
-      sqlite3_bind_blob(find, 1, &id, sizeof id, SQLITE_STATIC);
-      if (Read(find, found)) sum.Take(found);
-      sqlite3_reset(find);
+      if (RawConnection::Find(find, key(scanned), found)) sum.Take(found);
     }
     sqlite3_reset(scan);
     return sum;
   }
 
-  sqlite3* connection_ = nullptr;
-  sqlite3_stmt* services_ = nullptr;
-  sqlite3_stmt* specific_ = nullptr;
-  sqlite3_stmt* users_ = nullptr;
-  sqlite3_stmt* link_ = nullptr;
+  RawConnection connection_;
+  sqlite3_stmt *services_, *specific_, *users_, *link_;
 };
 
 // The same records in arrays, found through a hash table; read by copying, as a store hands them out.
@@ -244,22 +201,6 @@ class Memory {
   std::unordered_map<GUID, const ALRTMHSSERVICEREC*, GuidHash> specific_by_id_;
   std::unordered_map<GUID, const ALRTUSRINSTSERV*, GuidHash> link_by_user_record_;
 };
-
-double Milliseconds(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
-
-struct Timing {
-  double minimum;
-  double median;
-};
-
-Timing Summarise(std::vector<double> times) {
-  std::sort(times.begin(), times.end());
-  return {times.front(), times[times.size() / 2]};
-}
 
 // Runs the three in turn, so that whatever else the machine does meets all of them alike.
 void Compare(const char* title, int repetitions, const std::function<Sum()>& store,

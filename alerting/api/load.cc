@@ -14,7 +14,7 @@ namespace alerting {
 bool Load() {
   // The process-wide objects first, so that they outlive whoever calls Unload at the end of the process.
   TheStores();
-  TheServices();
+  TheServices() = CNtfyServiceList();
   TheEnabledServices();
   BuildServiceTypeNames();
   BuildKeywordTable(TheModule());

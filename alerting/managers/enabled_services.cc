@@ -98,7 +98,7 @@ void FillAlertManagerCombo(platform::ui::ComboBox& combo, const GUID& selected) 
 bool FindAlertManagerByName(const char* name, GUID& id) {
   EnsureStoresOpen();
   platform::FixedText<64> key{};
-  key.Assign(name);
+  key.Assign(name != nullptr ? name : "");
   ALRT_SRV_CFGREC manager{};
   if (ManagerStore().DBAlertRecFindFirst(kManagerByName, sizeof(key), key.Data(), manager) != kOk)
     return Fail(kIdsNoAlertManagers);

@@ -117,6 +117,7 @@ std::string ExpandKeywords(std::string_view stored, const KeywordIds& ids) {
 }
 
 std::string FitStoredForm(std::string_view stored, KeywordIds& ids, std::size_t limit) {
+  if (stored.size() <= limit) return std::string(stored);  // what fits is kept as it was given
   std::size_t length = platform::Utf8Prefix(stored, limit);
   std::size_t pos = 0, kept = 0;
   Placeholder next{};

@@ -27,8 +27,8 @@ struct DefaultMessage {
 };
 
 /// Root of every site notification service: the service's identity, its common record, and the operations
-/// through which exports, sheets, panels and tests treat all types alike. An operation that fails has shown
-/// its message and answers false; it leaves the records as they were.
+/// through which exports, sheets, panels and tests treat all types alike. Operations on records answer false
+/// after they have shown why, unless they say otherwise; a record that could not be read stays as it was.
 class CNtfyService {
  public:
   CNtfyService(const GUID& id, TypeCode type);

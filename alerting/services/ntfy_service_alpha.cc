@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/services/ntfy_service_alpha.h"
 
+#include <algorithm>
+#include <limits>
+
 #include "alerting/services/service_ui.h"
 #include "platform/ui/modal.h"
 
@@ -19,7 +22,10 @@ void CNtfyServiceAlpha::SetProviderFields(const ProviderFields& fields) {
   Primary().maxTextLength = fields.textLength;
 }
 
-int CNtfyServiceAlpha::GetMaxMessageLength() const { return static_cast<int>(Primary().maxTextLength); }
+int CNtfyServiceAlpha::GetMaxMessageLength() const {
+  constexpr std::uint32_t kMost = std::numeric_limits<int>::max();  // a foreign record may hold anything
+  return static_cast<int>(std::min<std::uint32_t>(Primary().maxTextLength, kMost));
+}
 
 int CNtfyServiceAlpha::GetIncompleteConfigMessageId() const { return kIdsIncompleteService; }
 

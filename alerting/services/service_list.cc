@@ -6,13 +6,6 @@
 #include "platform/ui/desktop.h"
 
 namespace alerting {
-namespace {
-
-/// Set by the first read that succeeds, never cleared.
-bool list_read_result = false;
-
-}  // namespace
-
 CNtfyServiceList& TheServices() {
   static CNtfyServiceList list;
   return list;
@@ -29,12 +22,17 @@ std::unique_ptr<CNtfyService> CNtfyServiceList::MakeObject(const ALRTNTFYSERV& r
 
 bool CNtfyServiceList::Read() {
   EnsureStoresOpen();
-  if (!stale_) return list_read_result;
+  if (!stale_) return has_been_read_;
   stale_ = false;
   const ui::WaitCursor wait;
   EnsureStoresOpen();
-  if (!ReadAll()) return Fail(kIdsListReadFailed);
-  list_read_result = true;
+  try {
+    if (!ReadAll()) return Fail(kIdsListReadFailed);
+  } catch (...) {
+    RemoveAll();  // half a list must not pass for the whole
+    throw;
+  }
+  has_been_read_ = true;
   return true;
 }
 

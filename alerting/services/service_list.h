@@ -43,6 +43,7 @@ class CNtfyServiceList {
 
   std::vector<std::unique_ptr<CNtfyService>> services_;
   bool stale_ = true;
+  bool has_been_read_ = false;  ///< set by the first read that succeeds, never cleared
   // Look-ups in lists of many thousands: the first index of each identity and of each type code.
   std::unordered_map<GUID, int, GuidHash> by_id_;
   std::unordered_map<std::uint32_t, int> first_of_type_;

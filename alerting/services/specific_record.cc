@@ -8,8 +8,7 @@ bool SaveCommonRecord(ALRTNTFYSERV& common, ALRTNTFYSERV& saved) {
   StoreLock lock(store);
   if (lock.Result() != kOk) return Fail(kIdsCommonUpdateFailed);
   ALRTNTFYSERV stored = common;
-  store.DBAlertRecRetrieve(stored.serviceId,
-                           stored);  // as every update does; what it answers changes nothing
+  store.DBAlertRecRetrieve(stored.serviceId, stored);  // its answer changes nothing
   common.virgin = 0;
   saved = common;
   const Status status = store.DBAlertRecUpdate(common);

@@ -13,8 +13,7 @@ namespace {
 constexpr std::size_t kNone = std::string_view::npos;
 
 /// The keyword that [from, to) of the text enters and does not leave: where it begins, or kNone. Only the
-/// last
-/// "<" matters, for names have none inside; an earlier one is closed, or is no keyword.
+/// last "<" matters, for names have none inside; an earlier one is closed, or is no keyword.
 std::size_t OpenKeyword(std::string_view text, std::size_t from, std::size_t to) {
   const std::string_view part = text.substr(from, to - from);
   const std::size_t open = part.rfind('<');

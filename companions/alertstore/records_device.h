@@ -99,16 +99,15 @@ struct ALRTGENPORTSERVICEREC {
   platform::GUID guid;                      ///< identity, assigned by the store
   platform::FixedText<1025> defaultBody;    ///< default message in stored form, at most 1024 bytes
   KeywordSlot bodyKeywords[kKeywordSlots];  ///< the keyword behind each placeholder of the body, in order
-  platform::FixedText<261> scriptFile;      ///< dialing script, at most 260 bytes
-  std::uint8_t unused2322[4];
-  platform::LittleU32 baudRate;         ///< bits per second
-  platform::LittleU32 dataBits;         ///< 6, 7 or 8
-  platform::LittleU32 stopBitsCode;     ///< 0 one, 1 one and a half, 2 two
-  platform::LittleU32 parityCode;       ///< 0 none, 1 odd, 2 even
-  platform::FixedText<256> initString;  ///< copy of the modem's initialization string
-  platform::FixedText<36> dialSuffix;   ///< copy of the modem's dialing suffix
-  platform::LittleU32 capabilities;     ///< copy of the modem's capability bits
-  platform::FixedText<36> dialPrefix;   ///< copy of the modem's dialing prefix
+  platform::FixedText<265> scriptFile;      ///< dialing script, at most 264 bytes
+  platform::LittleU32 baudRate;             ///< bits per second
+  platform::LittleU32 dataBits;             ///< 6, 7 or 8
+  platform::LittleU32 stopBitsCode;         ///< 0 one, 1 one and a half, 2 two
+  platform::LittleU32 parityCode;           ///< 0 none, 1 odd, 2 even
+  platform::FixedText<256> initString;      ///< copy of the modem's initialization string
+  platform::FixedText<36> dialSuffix;       ///< copy of the modem's dialing suffix
+  platform::LittleU32 capabilities;         ///< copy of the modem's capability bits
+  platform::FixedText<36> dialPrefix;       ///< copy of the modem's dialing prefix
   std::uint8_t unused2674[4];
   platform::FixedText<65> modemName;  ///< name of the chosen modem, at most 64 bytes
   platform::GUID modemId;             ///< identity of the chosen modem; null when none is chosen
@@ -119,7 +118,6 @@ static_assert(offsetof(ALRTGENPORTSERVICEREC, guid) == 0);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, defaultBody) == 16);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, bodyKeywords) == 1041);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, scriptFile) == 2061);
-static_assert(offsetof(ALRTGENPORTSERVICEREC, unused2322) == 2322);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, baudRate) == 2326);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, dataBits) == 2330);
 static_assert(offsetof(ALRTGENPORTSERVICEREC, stopBitsCode) == 2334);
@@ -143,16 +141,15 @@ struct ALRTAPAGESERVICEREC {
   platform::FixedText<65> modemName;           ///< name of the chosen modem, at most 64 bytes
   platform::GUID modemId;                      ///< identity of the chosen modem; null when none is chosen
   KeywordSlot bodyKeywords[kKeywordSlots];     ///< the keyword behind each placeholder of the body, in order
-  platform::FixedText<261> scriptFile;         ///< dialing script, at most 260 bytes
-  std::uint8_t unused3779[4];
-  platform::LittleU32 baudRate;             ///< bits per second
-  platform::LittleU32 dataBits;             ///< 6, 7 or 8
-  platform::LittleU32 stopBitsCode;         ///< 0 one, 1 one and a half, 2 two
-  platform::LittleU32 parityCode;           ///< 0 none, 1 odd, 2 even
-  platform::FixedText<256> initString;      ///< copy of the modem's initialization string
-  platform::FixedText<36> dialSuffix;       ///< copy of the modem's dialing suffix
-  platform::LittleU32 capabilities;         ///< copy of the modem's capability bits
-  platform::FixedText<36> alphaInitString;  ///< copy of the modem's alpha pager initialization string
+  platform::FixedText<265> scriptFile;         ///< dialing script, at most 264 bytes
+  platform::LittleU32 baudRate;                ///< bits per second
+  platform::LittleU32 dataBits;                ///< 6, 7 or 8
+  platform::LittleU32 stopBitsCode;            ///< 0 one, 1 one and a half, 2 two
+  platform::LittleU32 parityCode;              ///< 0 none, 1 odd, 2 even
+  platform::FixedText<256> initString;         ///< copy of the modem's initialization string
+  platform::FixedText<36> dialSuffix;          ///< copy of the modem's dialing suffix
+  platform::LittleU32 capabilities;            ///< copy of the modem's capability bits
+  platform::FixedText<36> alphaInitString;     ///< copy of the modem's alpha pager initialization string
 };
 
 static_assert(IsRecord<ALRTAPAGESERVICEREC, 4131>);
@@ -166,7 +163,6 @@ static_assert(offsetof(ALRTAPAGESERVICEREC, modemName) == 2417);
 static_assert(offsetof(ALRTAPAGESERVICEREC, modemId) == 2482);
 static_assert(offsetof(ALRTAPAGESERVICEREC, bodyKeywords) == 2498);
 static_assert(offsetof(ALRTAPAGESERVICEREC, scriptFile) == 3518);
-static_assert(offsetof(ALRTAPAGESERVICEREC, unused3779) == 3779);
 static_assert(offsetof(ALRTAPAGESERVICEREC, baudRate) == 3783);
 static_assert(offsetof(ALRTAPAGESERVICEREC, dataBits) == 3787);
 static_assert(offsetof(ALRTAPAGESERVICEREC, stopBitsCode) == 3791);

@@ -63,10 +63,7 @@ CheckBoxAdapter::CheckBoxAdapter(platform::ui::CheckBox& model, QWidget* parent)
       model_(model),
       box_(static_cast<QCheckBox*>(OwnedWidget())) {
   WatchKeys(box_);
-  connect(box_, &QCheckBox::clicked, this, [this] {
-    Guarded([this] { model_.OnClick(); });
-  // the box toggled itself; what the model made of it stands
-  });
+  connect(box_, &QCheckBox::clicked, this, [this] { Guarded([this] { model_.OnClick(); }); });
 }
 
 void CheckBoxAdapter::Refresh(Change change) {
@@ -82,10 +79,8 @@ RadioGroupAdapter::RadioGroupAdapter(platform::ui::RadioGroup& model, QWidget* p
     buttons_->addButton(button, id++);
     WatchKeys(button);
   }
-  connect(buttons_, &QButtonGroup::idClicked, this, [this](int index) {
-    Guarded([this, index] { model_.OnChoose(index); });
-    ShowChoice();
-  });
+  connect(buttons_, &QButtonGroup::idClicked, this,
+          [this](int index) { Guarded([this, index] { model_.OnChoose(index); }); });
 }
 
 QWidget* RadioGroupAdapter::FirstFocus() const {

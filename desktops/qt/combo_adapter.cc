@@ -39,17 +39,13 @@ ComboAdapter::ComboAdapter(platform::ui::ComboBox& model, QWidget* parent)
   combo_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
   combo_->setEditable(model.Editable());
   WatchKeys(combo_);
-  connect(combo_, &QComboBox::activated, this, [this](int index) {
-    Guarded([this, index] { model_.OnChoose(index); });
-    ShowCurrent();
-  });
+  connect(combo_, &QComboBox::activated, this,
+          [this](int index) { Guarded([this, index] { model_.OnChoose(index); }); });
   if (!model.Editable()) return;
   combo_->setInsertPolicy(QComboBox::NoInsert);
   combo_->setCompleter(nullptr);
-  connect(combo_->lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    Guarded([&] { model_.OnTextEdited(FromQt(text)); });
-    ShowEditedText();
-  });
+  connect(combo_->lineEdit(), &QLineEdit::textEdited, this,
+          [this](const QString& text) { Guarded([&] { model_.OnTextEdited(FromQt(text)); }); });
 }
 
 void ComboAdapter::Refresh(Change change) {

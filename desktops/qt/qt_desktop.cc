@@ -84,7 +84,6 @@ QtDesktop::QtDesktop() : before_(SetCurrent(this)) {}
 QtDesktop::~QtDesktop() { SetCurrent(before_); }
 
 int QtDesktop::Exec(QDialog& window) {
-  wait_cursor_.Suspend();
   return window.exec();
 }
 

@@ -8,17 +8,15 @@
 
 /// The functions that libalerting.so exports. What holds for all of them:
 ///
-/// 1. A service is named by its index in the library's list (from 0, the store's order, types without a class
-/// left
-///    out) or by its identity. Indices shift when a service is deleted and when CloseDBs was called.
-/// 2. Results are 1 for success and 0 for failure unless a function says otherwise. An invalid index, an
-/// unknown
+/// 1. A service is named by its index in the library's list (from 0, in the store's order, types without a
+///    class left out) or by its identity. Indices shift when a service is deleted and when CloseDBs was called.
+/// 2. Results are 1 for success and 0 for failure unless a function says otherwise. An invalid index, an unknown
 ///    identity and a list that cannot be read are failures.
 /// 3. Failures of the stores are shown to the person at once, in a message box with the title "Alerting".
-/// 4. All calls come from the user-interface thread. No exception leaves a function.
+/// 4. All calls come from the user-interface thread. CloseDBs and deletions are not called while a window of the
+///    library is open: it works on the service. No exception leaves a function.
 /// 5. Records passed in belong to the caller; records handed out belong to the library.
-/// 6. The symbol of a function is its name with a leading underscore, versioned "ARGS_n" by the n bytes of
-/// its
+/// 6. The symbol of a function is its name with a leading underscore, versioned "ARGS_n" by the n bytes of its
 ///    arguments: platform::DynamicLibrary::Find("_DomainServiceType@16") finds it. OpenDBs and CloseDBs are
 ///    plain.
 namespace platform::ui {

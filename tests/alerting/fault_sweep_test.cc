@@ -346,6 +346,32 @@ TEST_F(FaultSweep, MailUsers) {
                   "goes well: yes; Lock users, FindFirst users, Update users, Unlock users"}));
 }
 
+TEST_F(FaultSweep, AddingToTheListAndExtraAddresses) {
+  const std::string list_read = " [Unable to read records from the notification service database.]";
+  const auto add_from_store = [&] {
+    Fresh(kTypeSmtp);
+    TheServices().RemoveAll();
+    const GUID id = SeedService(kTypeSmtp, "Other");
+    return [id] { return TheServices().AddFromStore(id); };
+  };
+  EXPECT_THAT(Sweep(add_from_store),
+              ElementsAreArray({"FindFirst services fails: no" + list_read,
+                                std::string("Retrieve services fails: yes") + kCommonRead,
+                                std::string("Retrieve specific fails: yes") + kSpecificRead,
+                                std::string("goes well: yes; FindFirst services, Retrieve services, "
+                                            "Retrieve specific")}));
+  EXPECT_THAT(Sweep([&] {
+                auto& service = FreshAs<CNtfyServiceMCI>(kTypeMci);
+                const GUID user = Known(service, GUID::Generate());
+                return [&service, user] {
+                  std::uint32_t enabled = 0;
+                  std::string address;
+                  return service.GetUserExtra(enabled, address, user);
+                };
+              }),
+              ElementsAreArray({"FindFirst users fails: no", "goes well: yes; FindFirst users"}));
+}
+
 TEST_F(FaultSweep, EnablingAndDisabling) {
   const auto enable = [](CNtfyService& service, const GUID& manager, bool on) {
     return [&service, manager, on] {

@@ -40,7 +40,8 @@ void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
 std::string WithModem(const Block& block, const GUID& modem, std::string bytes) {
   PutText(bytes, block.name, 65, "Modem A");
   std::memcpy(bytes.data() + block.id, &modem, sizeof(modem));
-  PutText(bytes, block.script, 261, "dial.scr");
+  PutText(bytes, block.script, block.code >= kTypeAlpha && block.code != kTypeNumeric ? 265 : 261,
+          "dial.scr");
   PutU32(bytes, block.baud, 9600);
   PutU32(bytes, block.data, 7);
   PutU32(bytes, block.stop, 2);
@@ -95,15 +96,12 @@ TEST_F(ModemRecordsTest, SettingsReachTheChosenRecordAtTheirOffsetsOnSave) {
     for (const bool backup : {false, true}) {
       SCOPED_TRACE(::testing::Message() << block.code << (backup ? " backup" : " primary"));
       TheServices().RemoveAll();
-      const GUID id = SeedService(block.code, "Service", 0);
+      const GUID id = SeedService(block.code, "Service", kPattern);
       CNtfyService& service = *Find(id);
       const ALRTNTFYSERV common = StoredCommon(id);
       const std::string primary = StoredSpecific(block.code, common.specificRecordId);
       const std::string spare = StoredSpecific(block.code, common.backupSpecificRecordId);
-      EXPECT_FALSE(service.HasModem() || service.HasBackupModem());
       ASSERT_TRUE(Users(service).SetModemSettings(Settings(modem), "Modem A", backup));
-      EXPECT_EQ(service.HasModem(), !backup);
-      EXPECT_EQ(service.HasBackupModem(), backup);
       ASSERT_TRUE(service.SaveRecords());
       EXPECT_EQ(StoredSpecific(block.code, common.specificRecordId),
                 backup ? primary : WithModem(block, modem, primary));
@@ -117,6 +115,31 @@ TEST_F(ModemRecordsTest, SettingsReachTheChosenRecordAtTheirOffsetsOnSave) {
       EXPECT_EQ(read.scriptFile, "dial.scr");
     }
   }
+}
+
+TEST_F(ModemRecordsTest, AModemIsThereOnceItWasChosen) {
+  const GUID modem = AddModem();
+  for (const bool backup : {false, true}) {
+    TheServices().RemoveAll();
+    CNtfyService& service = *Find(SeedService(kTypeNumeric, "Pager"));
+    EXPECT_FALSE(service.HasModem() || service.HasBackupModem());
+    ASSERT_TRUE(Users(service).SetModemSettings(Settings(modem), "Modem A", backup));
+    EXPECT_EQ(service.HasModem(), !backup);
+    EXPECT_EQ(service.HasBackupModem(), backup);
+  }
+}
+
+TEST_F(ModemRecordsTest, ABackupThatCouldNotBeLinkedIsLinkedByTheNextSave) {
+  const GUID id = SeedService(kTypeNumeric, "Pager");
+  library.engine->FailAll(ServiceStore().Schema().file, StoreOp::kUpdate);
+  CNtfyService& service = *Find(id);
+  library.engine->FailNone();
+  EXPECT_THAT(desktop.TakeMessages(),
+              ElementsAre("Unable to update the notification service database record."));
+  EXPECT_TRUE(StoredCommon(id).backupSpecificRecordId.IsNull());
+  ASSERT_TRUE(service.SaveRecords());
+  EXPECT_EQ(StoredCommon(id).backupSpecificRecordId, service.GetModemId());
+  EXPECT_FALSE(service.GetModemId().IsNull());
 }
 
 TEST_F(ModemRecordsTest, AnUnknownModemIsRefusedAndChangesNothing) {

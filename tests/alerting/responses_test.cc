@@ -82,7 +82,10 @@ TEST_F(ResponsesTest, AnEmptyDefaultMessageClearsAndWideIdentifiersKeepTheirLowB
   EXPECT_EQ(response.priority, 0);
   EXPECT_EQ(Ids(response.messageKeywords), Only({}));
 
-  static_cast<ALRTSMTPSERVICEREC*>(service.GetSpecificRecord())->bodyKeywords[0].id = 0x10C;
+  DefaultMessage wide;
+  wide.body = "%s";
+  wide.bodyKeywords = {0x10C};
+  ASSERT_TRUE(service.SetDefaultMessage(wide));
   ASSERT_TRUE(service.InitWithDefaultMessage(response));
   EXPECT_EQ(Ids(response.messageKeywords), Only({0x0C}));
 }

@@ -61,7 +61,7 @@ class TypeSweep : public ServiceTest {
   CNtfyService& Make(std::uint32_t code) {
     const GUID id = SeedService(code, "Service");
     CNtfyService& service = *Find(id);
-    if (auto* alpha = dynamic_cast<alerting::CNtfyServiceUserBase*>(&service); alpha && code == kTypeAlpha)
+    if (code == kTypeAlpha)
       static_cast<ALRTAPAGESERVICEREC*>(service.GetSpecificRecord())->maxTextLength = 77;
     return service;
   }
@@ -133,6 +133,7 @@ TEST_F(TypeSweep, WindowsThatATypeDoesNotHaveAreNullZeroOrCancelled) {
     EXPECT_EQ(service.CreateAddUserPanel(0, user, 0), nullptr);
     EXPECT_FALSE(service.SelectUser(nullptr, name, user));
     EXPECT_FALSE(service.TestDialog(user, nullptr));
+    EXPECT_FALSE(service.SendTestAlert(user, "test", nullptr, 0, nullptr));
   }
 }
 

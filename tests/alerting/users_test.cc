@@ -92,6 +92,47 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
   }
 }
 
+TEST_F(UsersTest, AnUpdateCarriesTheBytesThroughThatAreNotItsOwn) {
+  for (const UserLayout& layout : kUserLayouts) {
+    SCOPED_TRACE(layout.code);
+    TheServices().RemoveAll();
+    const GUID user = MakeUser("Operator");
+    CNtfyService& service = *Find(SeedService(layout.code, "A service"));
+    ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-1", 1}));
+    std::string expected = AsItsClass(service, [](auto& typed) -> std::string {
+      if constexpr (requires { typed.CurrentUser(); }) {
+        auto record = typed.CurrentUser();
+        const GUID id = record.guid, user_id = record.userId;
+        std::memset(&record, 0x5A, sizeof(record));
+        record.guid = id;
+        record.userId = user_id;
+        using Store = typename std::remove_reference_t<decltype(typed)>::UserStoreClass;
+        EXPECT_EQ(UserStore<Store>().DBAlertRecUpdate(record), kOk);
+        return {reinterpret_cast<const char*>(&record), sizeof(record)};
+      } else {
+        return {};
+      }
+    });
+    ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-2", 1}));
+    const auto put = [&](std::size_t offset, std::size_t width, const std::string& text) {
+      expected.replace(offset, width, text + std::string(width - text.size(), '\0'));
+    };
+    put(layout.address, layout.width, "555-2");
+    put(layout.name, 65, "Op");
+    put(layout.enabled, 4, "\1");
+    EXPECT_EQ(CurrentUser(service), expected);
+  }
+}
+
+TEST_F(UsersTest, AListHoldsTenThousandUsers) {
+  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  for (int i = 0; i < 10'005; ++i)
+    ASSERT_TRUE(service.AddUserWithLink("User " + std::to_string(i), "a", GUID::Generate()));
+  ListDialog dialog;
+  EXPECT_TRUE(service.FillUserList(dialog.list));
+  EXPECT_EQ(dialog.list.Count(), 10'000);
+}
+
 TEST_F(UsersTest, AUserWithoutAnEntryHasTheConsolesNameAndIsEnabled) {
   const GUID user = MakeUser("Operator One");
   auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));

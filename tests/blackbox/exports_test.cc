@@ -82,6 +82,49 @@ class ExportsTest : public ::testing::Test {
     return id;
   }
 
+  enum List { kReadList, kUnreadList };
+
+  /// Every function that names a service answers its failure value.
+  void ExpectFailures(int index, List list) {
+    SCOPED_TRACE(index);
+    ALERTRESPREC response{};
+    EXPECT_EQ(api_->DomainServiceGetInfo(index), nullptr);
+    EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, index), list == kReadList ? 2 : 0);
+    EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, index), 0);
+    EXPECT_EQ(api_->DomainServiceTypeFromID(index), 3U);
+    EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
+    EXPECT_EQ(api_->DomainServiceGetIconOffset(index), list == kReadList ? -1 : 0);
+    EXPECT_EQ(api_->DomainServiceGetIcon(index), nullptr);
+    EXPECT_EQ(api_->DomainServiceGetResponseType(index), 0);
+    const std::uint32_t zeros[] = {api_->DomainServiceIsUser(index),
+                                   api_->DomainServiceIsFirstOfType(index),
+                                   api_->DomainServiceDeleteService(index, manager_),
+                                   api_->DomainServiceCopyService(index, "x"),
+                                   api_->DomainServiceCopyServiceX(index, "x", manager_),
+                                   api_->DomainServiceIsServer(index, manager_),
+                                   api_->DomainServiceServerEnable(index, manager_, 1),
+                                   api_->DomainServiceCachedIsServer(index, manager_),
+                                   api_->DomainServiceIsVirgin(index),
+                                   api_->DomainServiceUsesExtensionAgent(index),
+                                   api_->DomainServiceIsModemService(index),
+                                   api_->DomainServiceHasModem(index),
+                                   api_->DomainServiceHasBackupModem(index),
+                                   api_->DomainServiceShowBackup(index),
+                                   api_->DomainServiceInitWithDefMsg(index, &response),
+                                   api_->DomainServiceInitWithDefMsgX(manager_, &response),
+                                   api_->DomainServiceReinitializeResponse(index, &response),
+                                   api_->DomainServiceValidateResponse(&response),
+                                   api_->UserUpdatePanelData(nullptr),
+                                   api_->ResponseUpdatePanelData(nullptr),
+                                   api_->ResponseUpdatePropertyPanelData(nullptr),
+                                   api_->UserServiceUserIsConfigured(index, manager_),
+                                   api_->UserServiceUserDelete(index, manager_),
+                                   static_cast<std::uint32_t>(api_->UserGetAddServicePanelCount(index)),
+                                   static_cast<std::uint32_t>(api_->ResponseGetAddServicePanelCount(index)),
+                                   static_cast<std::uint32_t>(api_->ResponseGetPropertyPanelCount(index))};
+    EXPECT_THAT(zeros, ::testing::Each(0U));
+  }
+
   QuietDesktop desktop_;
   std::string directory_;
   std::unique_ptr<platform::DynamicLibrary> library_;
@@ -128,59 +171,18 @@ TEST_F(ExportsTest, AnEmptyStoreAnswersTheFailureValuesOfEachFunction) {
   EXPECT_EQ(api_->DomainServiceGetCount(), 0);
   EXPECT_EQ(desktop_.messages, 1);
   EXPECT_THAT(desktop_.titles, ::testing::ElementsAre("Alerting"));
-  EXPECT_EQ(api_->DomainServiceGetCount(), 0);
+  for (const int index : {-1, 0}) ExpectFailures(index, kUnreadList);
+  EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 0U);
   EXPECT_EQ(desktop_.messages, 1) << "told once";
-  EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, 0), 0) << "unread list";
-  EXPECT_EQ(api_->DomainServiceTypeFromID(0), 3U);
-  EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
-  EXPECT_EQ(api_->DomainServiceGetIconOffset(0), 0) << "unread list";
-  EXPECT_EQ(api_->UserUpdatePanelData(nullptr), 0U);
-  EXPECT_EQ(api_->DomainServiceSetBackupServer(kNullGuid), 1U);
 }
 
 TEST_F(ExportsTest, IndicesOutOfRangeAndUnknownIdentitiesAreFailures) {
   Add<ALRTSMTPSERVICEREC>(4, "Mail");
-  ALERTRESPREC response{};
-  for (const int index : {-1, 1, 0x7FFFFFFF, static_cast<int>(0x80000000)}) {
-    SCOPED_TRACE(index);
-    EXPECT_EQ(api_->DomainServiceGetInfo(index), nullptr);
-    EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, index), 2);
-    EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, index), 0);
-    EXPECT_EQ(api_->DomainServiceTypeFromID(index), 3U);
-    EXPECT_EQ(api_->DomainServiceGetIconOffset(index), -1);
-    EXPECT_EQ(api_->DomainServiceGetIcon(index), nullptr);
-    EXPECT_EQ(api_->DomainServiceGetResponseType(index), 0);
-    const std::uint32_t zeros[] = {api_->DomainServiceIsUser(index),
-                                   api_->DomainServiceIsFirstOfType(index),
-                                   api_->DomainServiceDeleteService(index, manager_),
-                                   api_->DomainServiceCopyService(index, "x"),
-                                   api_->DomainServiceCopyServiceX(index, "x", manager_),
-                                   api_->DomainServiceIsServer(index, manager_),
-                                   api_->DomainServiceServerEnable(index, manager_, 1),
-                                   api_->DomainServiceCachedIsServer(index, manager_),
-                                   api_->DomainServiceIsVirgin(index),
-                                   api_->DomainServiceUsesExtensionAgent(index),
-                                   api_->DomainServiceIsModemService(index),
-                                   api_->DomainServiceHasModem(index),
-                                   api_->DomainServiceHasBackupModem(index),
-                                   api_->DomainServiceShowBackup(index),
-                                   api_->DomainServiceInitWithDefMsg(index, &response),
-                                   api_->DomainServiceReinitializeResponse(index, &response),
-                                   api_->UserServiceUserIsConfigured(index, manager_),
-                                   api_->UserServiceUserDelete(index, manager_),
-                                   static_cast<std::uint32_t>(api_->UserGetAddServicePanelCount(index)),
-                                   static_cast<std::uint32_t>(api_->ResponseGetAddServicePanelCount(index)),
-                                   static_cast<std::uint32_t>(api_->ResponseGetPropertyPanelCount(index))};
-    EXPECT_THAT(zeros, ::testing::Each(0U));
-  }
-  EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
-  EXPECT_EQ(api_->DomainServiceInitWithDefMsgX(manager_, &response), 0U);
-  EXPECT_EQ(api_->DomainServiceValidateResponse(&response), 0U) << "its service is gone: no message";
+  ASSERT_EQ(api_->DomainServiceGetCount(), 1);
+  for (const int index : {-1, 1, 0x7FFFFFFF, static_cast<int>(0x80000000)}) ExpectFailures(index, kReadList);
   EXPECT_EQ(api_->DomainServiceValidateResponse(nullptr), 0U);
   EXPECT_EQ(api_->DomainServiceInitWithDefMsg(0, nullptr), 0U);
-  EXPECT_EQ(api_->UserUpdatePanelData(nullptr), 0U);
-  EXPECT_EQ(api_->ResponseUpdatePanelData(nullptr), 0U);
-  EXPECT_EQ(api_->ResponseUpdatePropertyPanelData(nullptr), 0U);
+  EXPECT_EQ(api_->DomainServiceReinitializeResponse(0, nullptr), 0U);
   EXPECT_EQ(desktop_.messages, 0);
 }
 
@@ -226,10 +228,9 @@ TEST_F(ExportsTest, ClosedStoresFailWithoutCrashing) {
   EXPECT_EQ(api_->OpenDBs(), 1U);
   EXPECT_EQ(api_->CloseDBs(), 1U);
   EXPECT_EQ(api_->DomainServiceGetCount(), 0);
-  EXPECT_EQ(api_->DomainServiceGetInfo(0), nullptr);
+  EXPECT_EQ(desktop_.messages, 1);
+  ExpectFailures(0, kReadList);  // a list that was read before counts as read
   EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 1U) << "a read has succeeded before";
-  EXPECT_EQ(api_->DomainServiceCopyService(0, "x"), 0U);
-  EXPECT_EQ(api_->UserServiceUserDelete(0, manager_), 0U);
   EXPECT_EQ(api_->OpenDBs(), 0U);
   api_->CloseDBs();
   EXPECT_EQ(api_->OpenDBs(), 0U);
@@ -245,10 +246,42 @@ TEST_F(ExportsTest, ResponsesAndUsersGoThroughTheServiceOfTheirIndex) {
   EXPECT_EQ(api_->DomainServiceInitWithDefMsgX(mail, &response), 1U);
   EXPECT_EQ(api_->DomainServiceValidateResponse(&response), 0U);
   EXPECT_EQ(desktop_.messages, 1) << "no message in the response";
+  EXPECT_EQ(api_->DomainServiceInitWithDefMsg(0, &response), 1U);
   EXPECT_EQ(api_->UserGetAddServicePanelCount(0), 1);
   EXPECT_EQ(api_->ResponseGetAddServicePanelCount(0), 1);
+  EXPECT_EQ(api_->ResponseGetPropertyPanelCount(0), 1);
   EXPECT_EQ(api_->UserServiceUserIsConfigured(0, manager_), 0U);
   EXPECT_EQ(api_->UserServiceUserDelete(0, manager_), 0U);
+}
+
+TEST_F(ExportsTest, EachServiceAnswersForItsType) {
+  Add<ALRTMAPISERVICEREC>(5, "Mail");
+  Add<ALRTNPAGESERVICEREC>(11, "Pager");
+  Add<ALRTGENPORTSERVICEREC>(12, "Port");
+  ASSERT_EQ(api_->DomainServiceGetCount(), 3);
+  EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, 1), 2) << "no sheet of that type yet: as cancelled";
+  EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 0), 0) << "does not dial out";
+  EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 1), 2) << "not there yet: as cancelled";
+  EXPECT_EQ(api_->DomainServiceGetResponseType(0), 1);
+  EXPECT_EQ(api_->DomainServiceGetResponseType(2), 16);
+  EXPECT_EQ(api_->DomainServiceUsesExtensionAgent(0), 1U);
+  EXPECT_EQ(api_->DomainServiceUsesExtensionAgent(1), 0U);
+  EXPECT_EQ(api_->DomainServiceIsUser(1), 1U);
+  EXPECT_EQ(api_->DomainServiceIsUser(2), 0U);
+  EXPECT_EQ(api_->DomainServiceTypeFromID(2), 2U);
+  EXPECT_EQ(api_->DomainServiceHasModem(1), 0U);
+  EXPECT_EQ(api_->DomainServiceShowBackup(1), 0U);
+  EXPECT_EQ(api_->DomainServiceHasBackupModem(1), 0U);
+}
+
+TEST_F(ExportsTest, ABackupManagerGetsAnEntryOfItsOwn) {
+  Add<ALRTNPAGESERVICEREC>(11, "Pager");
+  const GUID backup = GUID::Generate();
+  EXPECT_EQ(api_->DomainServiceSetBackupServer(backup), 1U);
+  EXPECT_EQ(api_->DomainServiceServerEnable(0, manager_, 1), 1U);
+  EXPECT_EQ(api_->DomainServiceIsServer(0, manager_), 1U);
+  EXPECT_EQ(api_->DomainServiceIsServer(0, backup), 1U);
+  EXPECT_EQ(api_->DomainServiceSetBackupServer(kNullGuid), 1U);
 }
 
 TEST_F(ExportsTest, TheIconStripHoldsNineteenDistinctPictures) {

@@ -7,7 +7,10 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QScrollBar>
+#include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
 #include <new>
@@ -15,7 +18,9 @@
 #include "desktops/qt/canvas_adapter.h"
 #include "desktops/qt/guard.h"
 #include "platform/ui/edit.h"
+#include "platform/ui/file_dialog.h"
 #include "platform/ui/lists.h"
+#include "platform/ui/property_sheet.h"
 #include "platform/ui/spin.h"
 
 namespace desktops::qt {
@@ -152,15 +157,12 @@ TEST_F(QtWindowTest, HelpIsAskedByKeyAndByClick) {
 class StepCanvas : public Canvas {
  public:
   using Canvas::Canvas;
-  void OnPaint(Painter& painter) override {
-    ++paints;
-    painter.Fill({0, 0, 10, 10}, SystemColor::kHighlight);
-  }
+  void OnPaint(Painter& painter) override { painter.Fill({0, 0, 10, 10}, SystemColor::kHighlight); }
   void OnScroll(Scroll what, int) override {
     scrolls.push_back(what);
-    SetScroll(ScrollPosition() + 2, 9, 4);
+    if (!stays) SetScroll(ScrollPosition() + 2, 9, 4);
   }
-  int paints = 0;
+  bool stays = false;
   std::vector<Scroll> scrolls;
 };
 
@@ -180,8 +182,94 @@ TEST_F(QtWindowTest, ACanvasPaintsAndDecidesItsScrolling) {
     EXPECT_EQ(bar->value(), 2) << "where the canvas said, not one step on";
     bar->triggerAction(QAbstractSlider::SliderPageStepAdd);
     EXPECT_EQ(bar->value(), 4);
+    canvas.stays = true;
+    bar->triggerAction(QAbstractSlider::SliderPageStepSub);
+    EXPECT_EQ(bar->value(), 4);
   });
-  EXPECT_THAT(canvas.scrolls, testing::ElementsAre(Canvas::Scroll::kLineRight, Canvas::Scroll::kPageRight));
+  EXPECT_THAT(canvas.scrolls, testing::ElementsAre(Canvas::Scroll::kLineRight, Canvas::Scroll::kPageRight,
+                                                   Canvas::Scroll::kPageLeft));
+}
+
+TEST_F(QtWindowTest, AReportKnowsWhichRowsAreInView) {
+  ReportingDialog dialog;
+  ListView report(dialog, 1, "&Report:");
+  report.AddColumn("Name", 20);
+  Show(dialog, [&](Person&) {
+    for (int i = 0; i < 50; ++i) report.AddRow({"row"});
+    Settle();
+    EXPECT_GT(report.RowsPerPage(), 2);
+    EXPECT_LT(report.RowsPerPage(), 50);
+    report.FocusRow(49);
+    EXPECT_EQ(report.FirstVisibleRow(), 50 - report.RowsPerPage());
+  });
+}
+
+/// Sees which tab is in front while it is asked to let go.
+class HoldingPage : public PropertyPage {
+ public:
+  HoldingPage() : PropertyPage("Held") {}
+  bool OnKillActive() override {
+    in_front = QApplication::activeModalWidget()->findChild<QTabWidget*>()->currentIndex();
+    return false;
+  }
+  Edit field{*this, 1, "&Field:"};
+  int in_front = -1;
+};
+
+TEST_F(QtWindowTest, ATabStaysInFrontWhileItsPageDecides) {
+  HoldingPage held;
+  PropertyPage other("Other");
+  PropertySheet sheet("Sheet", nullptr);
+  sheet.AddPage(held);
+  sheet.AddPage(other);
+  Desk().script.ExpectWindow("Sheet", [&](Person& person) {
+    person.SelectTab("Other");
+    EXPECT_EQ(Widget<QTabWidget>().currentIndex(), 0);
+    person.Press("Cancel");
+  });
+  sheet.RunModal();
+  EXPECT_EQ(held.in_front, 0);
+}
+
+/// Does not want to be left by Escape.
+class StubbornDialog : public ReportingDialog {
+ public:
+  void OnEscape() override { ++escapes; }
+  Edit field{*this, 1, "&Field:"};
+  int escapes = 0;
+};
+
+TEST_F(QtWindowTest, EscapeIsTheFormsToDecide) {
+  StubbornDialog dialog;
+  Show(dialog, [&](Person& person) {
+    person.Press(Key::kEscape);
+    EXPECT_FALSE(dialog.Ended());
+  });
+  EXPECT_EQ(dialog.escapes, 1);
+}
+
+/// Keeps the names it hears of.
+class ListeningFileDialog : public FileDialog {
+ public:
+  ListeningFileDialog() : FileDialog(nullptr) { title = "Open"; }
+  void OnFileHighlighted(const std::string& path) override { heard.push_back(path); }
+  std::vector<std::string> heard;
+};
+
+TEST_F(QtWindowTest, AFileThatIsClickedIsHighlighted) {
+  QTemporaryDir folder;
+  const QString path = folder.filePath("sound.wav");
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  ListeningFileDialog dialog;
+  dialog.initial_directory = folder.path().toStdString();
+  Desk().script.ExpectFileDialog("Open", "", [&](Person&) {
+    auto& list = *QApplication::activeModalWidget()->findChild<QListView*>("listView");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
+    list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+  });
+  EXPECT_EQ(dialog.RunModal(), kCancel);
+  EXPECT_THAT(dialog.heard, testing::ElementsAre(path.toStdString()));
 }
 
 bool ShowsWaitCursor() {

@@ -29,8 +29,11 @@ void FakeAgentUi::DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buf
 
 namespace {
 
+/// In memory where the machine has such a place: what survives a power cut is not the matter here.
 std::string MakeDirectory() {
-  std::string path = (std::filesystem::temp_directory_path() / "alerting-test-XXXXXX").string();
+  const bool in_memory = std::filesystem::is_directory("/dev/shm");
+  const std::filesystem::path parent = in_memory ? "/dev/shm" : std::filesystem::temp_directory_path();
+  std::string path = (parent / "alerting-test-XXXXXX").string();
   if (mkdtemp(path.data()) == nullptr) std::abort();
   return path;
 }
