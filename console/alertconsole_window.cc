@@ -44,6 +44,7 @@ MainWindow::MainWindow(AlertingLibrary& library)
   pages_->addWidget(MakeEmptyNote());
   setCentralWidget(pages_);
   MakeActions();
+  statusBar();
   resize(760, 480);
   EnableActions();
 }

@@ -84,6 +84,7 @@ QtDesktop::QtDesktop() : before_(SetCurrent(this)) {}
 QtDesktop::~QtDesktop() { SetCurrent(before_); }
 
 int QtDesktop::Exec(QDialog& window) {
+  wait_cursor_.Suspend();
   return window.exec();
 }
 
@@ -147,7 +148,11 @@ Window* QtDesktop::ForegroundWindow() {
   return owner != nullptr ? &owner->ShownWindow() : nullptr;
 }
 
-std::unique_ptr<Sound> QtDesktop::OpenSound(const std::string& path) { return qt::OpenSoundFile(path); }
+// A file that cannot be opened is a sound that does not play.
+std::unique_ptr<Sound> QtDesktop::OpenSound(const std::string& path) {
+  std::unique_ptr<Sound> sound = qt::OpenSoundFile(path);
+  return sound != nullptr ? std::move(sound) : Desktop::OpenSound(path);
+}
 
 std::vector<Bitmap> QtDesktop::ExtractIcons(const std::string& path, std::size_t limit) {
   return qt::IconsOfFile(path, limit);
@@ -164,9 +169,14 @@ int QtDesktop::IconSpacing() {
 
 void QtDesktop::ShowHelpText(Window* beside, const std::string& text) {
   QWidget* widget = qt::WidgetOwner::WidgetOf(beside);
-  if (widget == nullptr) widget = ActiveParent();
-  const QPoint place = widget != nullptr ? widget->mapToGlobal(widget->rect().bottomLeft()) : QCursor::pos();
-  QWhatsThis::showText(place, Qt::convertFromPlainText(qt::ToQt(text)), widget);
+  QWidget* window = ActiveParent();
+  QPoint place = QCursor::pos();
+  if (widget != nullptr) {
+    place = widget->mapToGlobal(widget->rect().bottomLeft());
+  } else if (window != nullptr) {
+    place = window->mapToGlobal(window->rect().center());
+  }
+  QWhatsThis::showText(place, Qt::convertFromPlainText(qt::ToQt(text)), widget != nullptr ? widget : window);
 }
 
 void QtDesktop::Post(std::function<void()> task) {

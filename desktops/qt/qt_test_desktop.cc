@@ -45,6 +45,8 @@ void QtTestDesktop::EnsureApplication() {
   static int argument_count = 1;
   static char name[] = "tests";
   static char* arguments[] = {name, nullptr};
+  // Tests put no windows on a developer's screen unless asked to.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   // Never destroyed: at the end of the process its windows would outlive what they are drawn with.
   static auto* application = new QApplication(argument_count, arguments);
   static_cast<void>(application);

@@ -3,9 +3,12 @@
 
 #ifdef ALERTING_HAS_QT_MULTIMEDIA
 
-#include <QAudioOutput>
+#include <QAudioDevice>
+#include <QEventLoop>
 #include <QFileInfo>
-#include <QMediaPlayer>
+#include <QMediaDevices>
+#include <QSoundEffect>
+#include <QTimer>
 #include <QUrl>
 
 #include "desktops/qt/guard.h"
@@ -14,29 +17,41 @@
 namespace desktops::qt {
 namespace {
 
-class PlayedSound : public platform::ui::Sound {
+constexpr int kLongestLoadMs = 3000;
+
+/// A wave file, which Qt reads itself: other players need decoders that a system may lack, and tell so too late.
+class WaveSound : public platform::ui::Sound {
  public:
-  explicit PlayedSound(const QString& path) {
-    player_.setAudioOutput(&output_);
-    player_.setSource(QUrl::fromLocalFile(path));
-  }
-  ~PlayedSound() override { player_.disconnect(); }
+  explicit WaveSound(const QString& path) { effect_.setSource(QUrl::fromLocalFile(path)); }
+  ~WaveSound() override { Stop(); }
 
   bool Play(std::function<void()> finished) override {
-    if (player_.error() != QMediaPlayer::NoError) return false;
-    player_.disconnect();
-    QObject::connect(&player_, &QMediaPlayer::mediaStatusChanged, &player_,
-                     [finished = std::move(finished)](QMediaPlayer::MediaStatus status) {
-                       if (status == QMediaPlayer::EndOfMedia && finished) Guarded(finished);
-                     });
-    player_.play();
-    return player_.error() == QMediaPlayer::NoError;
+    WaitUntilLoaded();
+    if (effect_.status() != QSoundEffect::Ready || QMediaDevices::defaultAudioOutput().isNull()) return false;
+    const auto tell = [this, finished = std::move(finished)] {
+      if (!effect_.isPlaying() && finished) Guarded(finished);
+    };
+    // Queued, because whoever hears of the end destroys the sound.
+    QObject::connect(&effect_, &QSoundEffect::playingChanged, &effect_, tell, Qt::QueuedConnection);
+    effect_.play();
+    return true;
   }
-  void Stop() override { player_.stop(); }
+
+  void Stop() override {
+    effect_.disconnect();  // a sound that is stopped has not finished
+    effect_.stop();
+  }
 
  private:
-  QAudioOutput output_;
-  QMediaPlayer player_;
+  void WaitUntilLoaded() {
+    if (effect_.status() != QSoundEffect::Loading) return;
+    QEventLoop loop;
+    QObject::connect(&effect_, &QSoundEffect::statusChanged, &loop, &QEventLoop::quit);
+    QTimer::singleShot(kLongestLoadMs, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+
+  QSoundEffect effect_;
 };
 
 }  // namespace
@@ -44,7 +59,7 @@ class PlayedSound : public platform::ui::Sound {
 std::unique_ptr<platform::ui::Sound> OpenSoundFile(const std::string& path) {
   const QFileInfo file(ToQt(path));
   if (!file.isFile() || !file.isReadable()) return nullptr;
-  return std::make_unique<PlayedSound>(file.absoluteFilePath());
+  return std::make_unique<WaveSound>(file.absoluteFilePath());
 }
 
 }  // namespace desktops::qt
