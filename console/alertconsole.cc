@@ -13,6 +13,8 @@
 
 namespace {
 
+constexpr int kWrongUsage = 2;  // as alertctl answers it
+
 struct Options {
   std::string data, library_path, screenshots;
 };
@@ -41,7 +43,11 @@ int main(int argc, char** argv) {
                      "The alerting library (else ALERTING_LIBRARY, else beside the console)");
   command.add_option("--screenshot-dir", options.screenshots,
                      "Write pictures of the windows there, and exit");
-  CLI11_PARSE(command, argc, argv);
+  try {
+    command.parse(argc, argv);
+  } catch (const CLI::ParseError& wrong) {
+    return command.exit(wrong) == 0 ? 0 : kWrongUsage;
+  }
   if (!options.data.empty()) setenv("ALERTING_DATA", options.data.c_str(), 1);
   if (!options.screenshots.empty() && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
 

@@ -49,20 +49,14 @@ AlertingLibrary::AlertingLibrary(const std::string& path)
       DeleteService(Find<decltype(::DomainServiceDeleteService)>("_DomainServiceDeleteService@20")),
       NewIconStrip(Find<decltype(::GetIconBitmapObject)>("_GetIconBitmapObject@0")),
       DeleteIconStrip(Find<decltype(::DeleteIconBitmapObject)>("_DeleteIconBitmapObject@4")) {
-  const std::uint32_t opened = OpenDBs();
-  if (opened > kWereOpen) {
-    throw StartFailure(
-        "The record stores cannot be opened. See that the data directory exists and can be written, or name "
-        "another "
-        "one with --data.");
-  }
+  if (OpenDBs() > kWereOpen) throw StartFailure(kStoresCannotBeOpened);
 }
 
 AlertingLibrary::~AlertingLibrary() { CloseDBs(); }
 
-void AlertingLibrary::Reopen() {
+bool AlertingLibrary::Reopen() {
   CloseDBs();
-  OpenDBs();
+  return OpenDBs() <= kWereOpen;
 }
 
 }  // namespace alertconsole

@@ -9,6 +9,10 @@
 
 namespace alertconsole {
 
+inline constexpr char kStoresCannotBeOpened[] =
+    "The record stores cannot be opened. See that the data directory exists and can be written and that its "
+    "alerting.db is not damaged, or name another directory with --data.";
+
 /// What keeps the console from starting, in words for the person in front of it.
 class StartFailure : public std::runtime_error {
  public:
@@ -27,7 +31,7 @@ class AlertingLibrary {
   static std::string PathOf(const std::string& given);
 
   /// Drops what the library has read, so that it sees what others have changed.
-  void Reopen();
+  bool Reopen();
 
  private:
   template <typename Function>

@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QTabWidget>
 #include <QTimer>
@@ -13,7 +14,14 @@
 namespace alertconsole {
 namespace {
 
-constexpr std::uint32_t kInternetMail = 5;  // as records hold the type
+constexpr std::uint32_t kInternetMail = 5;   // as records hold the type
+constexpr qint64 kSettleMilliseconds = 150;  // until a new window has laid itself out
+
+QElapsedTimer Started() {
+  QElapsedTimer timer;
+  timer.start();
+  return timer;
+}
 
 /// Takes the pictures while the sheet's own event loop runs: it looks at whatever window is in front.
 class Photographer : public QObject {
@@ -28,7 +36,8 @@ class Photographer : public QObject {
   int Pages() const { return pages_; }
 
   void Take(QWidget& window, const QString& name) {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    for (QElapsedTimer shown = Started(); shown.elapsed() < kSettleMilliseconds;)
+      QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 10);
     const QString path = folder_.filePath(name);
     if (window.grab().save(path)) {
       std::printf("%s\n", qPrintable(path));

@@ -30,6 +30,9 @@ constexpr int kIconSize = 18;
 // The strip has no transparency; magenta stands for what is not painted.
 constexpr QRgb kBackground = qRgb(255, 0, 255);
 constexpr int kLongestName = 32;
+constexpr char kNoServices[] =
+    "There are no notification services here yet.\n\n"
+    "Run \"alertctl init\" to set up one service of each type, then choose Refresh (F5).";
 
 }  // namespace
 
@@ -75,13 +78,11 @@ void MainWindow::MakeTable() {
 }
 
 QWidget* MainWindow::MakeEmptyNote() {
-  auto* note =
-      new QLabel(tr("There are no notification services here yet.\n\n"
-                    "Run \"alertctl init\" to set up one service of each type, then choose Refresh (F5)."),
-                 pages_);
-  note->setAlignment(Qt::AlignCenter);
-  note->setWordWrap(true);
-  return note;
+  note_ = new QLabel(tr(kNoServices), pages_);
+  note_->setAlignment(Qt::AlignCenter);
+  note_->setWordWrap(true);
+  note_->setMargin(40);
+  return note_;
 }
 
 void MainWindow::MakeActions() {
@@ -159,7 +160,8 @@ void MainWindow::OpenSheet(int index) {
 }
 
 void MainWindow::Refresh() {
-  library_.Reopen();
+  const bool opened = library_.Reopen();
+  note_->setText(opened ? tr(kNoServices) : tr(kStoresCannotBeOpened));
   ShowServices();
 }
 
@@ -169,11 +171,15 @@ void MainWindow::Copy() {
   bool accepted = false;
   const QString name =
       QInputDialog::getText(this, tr("Copy Service"), tr("&Name of the copy:"), QLineEdit::Normal,
-                            table_->topLevelItem(index)->text(kName), &accepted);
+                            tr("Copy of %1").arg(table_->topLevelItem(index)->text(kName)), &accepted);
   const std::string text = desktops::qt::FromQt(name.trimmed());
   if (!accepted || text.empty()) return;
   if (text.size() > kLongestName) {
     QMessageBox::warning(this, windowTitle(), tr("A service's name has at most %1 bytes.").arg(kLongestName));
+    return;
+  }
+  if (!table_->findItems(ToQt(text), Qt::MatchFixedString, kName).isEmpty()) {
+    QMessageBox::warning(this, windowTitle(), tr("There is a service named \"%1\" already.").arg(ToQt(text)));
     return;
   }
   // On failure the library has said why.

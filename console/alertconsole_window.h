@@ -9,6 +9,7 @@
 
 class QAction;
 class QStackedWidget;
+class QLabel;
 class QTreeWidget;
 class QTreeWidgetItem;
 
@@ -49,6 +50,7 @@ class MainWindow : public QMainWindow, public platform::ui::WindowObserver, publ
   QPixmap icons_;
   QStackedWidget* pages_;
   QTreeWidget* table_;
+  QLabel* note_ = nullptr;  ///< in place of the table while there is nothing to show
   QAction *properties_, *copy_, *delete_;
 };
 
