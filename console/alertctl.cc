@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 // alertctl: the command line of the alerting configuration.
 #include <iostream>
+#include <sstream>
 
+#include "console/alertctl_output.h"
 #include "console/alertctl_verbs.h"
 
 namespace {
@@ -16,13 +18,20 @@ int OnParseError(const CLI::App& app, const CLI::ParseError& error) {
   const std::vector<std::string> unknown = app.remaining(true);
   const bool is_error = error.get_exit_code() != 0;
   if (is_error && !unknown.empty())
-    std::cerr << "alertctl: nothing is called \"" << unknown.front() << "\" here\n";
-  return app.exit(error, std::cout, std::cerr) == 0 ? alertctl::kDone : alertctl::kUsage;
+    alertctl::PrintError("nothing is called \"" + unknown.front() + "\" here");
+  std::ostringstream help, problem;
+  app.exit(error, help, problem);
+  std::cerr << alertctl::Printable(problem.str(), true);
+  if (is_error) return alertctl::kUsage;
+  if (alertctl::PrintOut(help.str())) return alertctl::kDone;
+  alertctl::PrintError("cannot write the output: " + alertctl::LastOutputError());
+  return alertctl::kStoreFailure;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  alertctl::ReserveStandardStreams();
   CLI::App app("Sets up and shows how alerts reach people.", "alertctl");
   app.require_subcommand(1);
   app.footer(kFooter);

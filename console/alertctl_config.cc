@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
+
 #include "companions/dbconfig/dbconfig.h"
 #include "console/alertctl_site.h"
 #include "console/alertctl_text.h"
@@ -15,13 +17,21 @@ constexpr char kShowExamples[] =
 
 std::string FilePath() { return platform::DataDirectory() + "/" + dbconfig::kConfigFileName; }
 
+bool IsThere(const std::string& path) {
+  std::error_code ignored;
+  return std::filesystem::exists(std::filesystem::symlink_status(path, ignored));
+}
+
 Result Write() {
+  const bool had_one = IsThere(FilePath());
   const std::uint32_t status = dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0);
-  if (status == dbconfig::kFileUnwritable)
+  if (status == dbconfig::kFileLocked)
     throw Failure(kStoreFailure,
-                  "cannot write " + FilePath() +
-                      ": check the permissions of the directory and the room on the disk; the file of "
-                      "before is still there");
+                  "cannot write " + FilePath() + ": another console is writing the file; try again");
+  if (status == dbconfig::kFileUnwritable)
+    throw Failure(kStoreFailure, "cannot write " + FilePath() +
+                                     ": check the permissions of the directory and the room on the disk" +
+                                     (had_one ? "; what was there before is still there" : ""));
   if (status != 0) LoadSite();  // says which failure it is
   if (status != 0) throw Failure(kStoreFailure, "cannot read the stores for " + FilePath() + ": try again");
   return {{{"path", FilePath()}, {"written", true}}, "Wrote " + FilePath() + ".\n"};
@@ -34,14 +44,24 @@ std::string Overview(const Json& document) {
   return text;
 }
 
-Result Show() {
+/// The bytes of the file. One that is there and cannot be read is another failure than none.
+std::string FileBytes() {
   std::string bytes;
-  if (!platform::ReadWholeFile(FilePath(), bytes))
-    throw Failure(kNothingMatched,
-                  "there is no readable " + FilePath() + ": \"alertctl config write\" writes it");
-  Json document = Json::parse(bytes, nullptr, false);
+  if (platform::ReadWholeFile(FilePath(), bytes)) return bytes;
+  if (IsThere(FilePath()))
+    throw Failure(kStoreFailure, "cannot read " + FilePath() +
+                                     ": it is a directory, or its permissions keep this account out");
+  throw Failure(kNothingMatched, "there is no " + FilePath() + ": \"alertctl config write\" writes it");
+}
+
+Result Show() {
+  Json document = Json::parse(FileBytes(), nullptr, false);
   if (!document.is_object())
     throw Failure(kInvalid, FilePath() + " is damaged: \"alertctl config write\" writes it anew");
+  if (document.value("format", Json()) != "alerting-configuration" || document.value("version", Json()) != 1)
+    throw Failure(kInvalid, FilePath() +
+                                " is no configuration file of this version: move it away if it is needed "
+                                "elsewhere, \"alertctl config write\" replaces it");
   MaskPasswords(document);
   return {document, Overview(document)};
 }
@@ -50,8 +70,9 @@ Result Show() {
 
 void AddConfigVerbs(Verbs& verbs) {
   CLI::App& config = verbs.AddNoun("config", "Writes and shows the alert managers' configuration file.");
-  verbs.AddVerb(config, "write", "Writes the file anew from the stores.", kWriteExamples, Write);
-  verbs.AddVerb(config, "show",
+  verbs.AddVerb(config, "write", Access::kExport, "Writes the file anew from the stores.", kWriteExamples,
+                Write);
+  verbs.AddVerb(config, "show", Access::kFile,
                 "Shows how much the file says; with --json the file itself, with passwords masked.",
                 kShowExamples, Show);
 }

@@ -10,6 +10,8 @@
 namespace alertctl {
 namespace {
 
+using platform::GUID;
+
 constexpr char kListExamples[] =
     "  alertctl entry list\n"
     "  alertctl entry list --user Ann";
@@ -34,7 +36,7 @@ Json EntryJson(const Json& service, const Json& user) {
 
 /// The identity of a user who may be unknown here when named by identity: entries can outlive their user.
 std::string UserId(const std::string& name) {
-  const auto id = platform::GUID::Parse(name);
+  const auto id = GUID::Parse(name);
   return (id ? *id : FindUser(name).id).ToString();
 }
 
@@ -63,10 +65,17 @@ void CheckAddress(const Json& service, std::uint32_t record_type, const std::str
   if (!HasUsers(record_type))
     throw Failure(kInvalid, "users have no entries on " + TypeName(service) + " services such as \"" +
                                 service["name"].get<std::string>() + "\": choose a mail or pager service");
-  const std::size_t limit = AddressLimit(record_type);
-  if (address.empty() || address.size() > limit)
-    throw Failure(kInvalid, "an address on " + TypeName(service) + " has 1 to " + std::to_string(limit) +
-                                " bytes: correct \"" + address + "\"");
+  CheckTyped("an address on " + TypeName(service), address, AddressLimit(record_type));
+}
+
+/// The entry as it is stored: other parts of the console may have given it more than what is set here.
+Json StoredEntry(const GUID& service, const GUID& user) {
+  const Json site = LoadSite();
+  Json entries = Json::array();
+  Collect(FindService(site, service.ToString()), user.ToString(), entries);
+  if (entries.empty())
+    throw Failure(kStoreFailure, "the entry is gone again: another console has removed it");
+  return entries[0];
 }
 
 Result Set(const Arguments& arguments) {
@@ -80,13 +89,7 @@ Result Set(const Arguments& arguments) {
   const std::string what = "the entry of \"" + user.name + "\" on \"" + entry.service_name + "\"";
   const alertstore::Status status = SaveEntry(entry);
   if (status != alertstore::kOk) throw StoreFailure("write " + what, status);
-  return {{{"service", entry.service_name},
-           {"serviceId", service["id"]},
-           {"user", user.name},
-           {"userId", user.id.ToString()},
-           {"address", entry.address},
-           {"enabled", entry.enabled}},
-          "Wrote " + what + ".\n"};
+  return {StoredEntry(entry.service, entry.user), "Wrote " + what + ".\n"};
 }
 
 Result Remove(const Arguments& arguments) {
@@ -99,9 +102,9 @@ Result Remove(const Arguments& arguments) {
   Collect(service, user_id, entries);
   if (entries.empty())
     throw Failure(kNothingMatched, "there is no " + what + ": see \"alertctl entry list\"");
-  const Library library;
-  if (!library.DeleteUserEntry(library.IndexOf(service), platform::GUID::Parse(user_id).value()))
-    throw Failure(kStoreFailure, "cannot remove the " + what + ": the store refused");
+  Library library;
+  if (!library.DeleteUserEntry(library.IndexOf(service), GUID::Parse(user_id).value()))
+    throw library.Refusal("remove the " + what);
   return {entries[0], "Removed the " + what + ".\n"};
 }
 
@@ -115,14 +118,15 @@ void AddUserAndService(CLI::App& verb, const std::shared_ptr<Arguments>& argumen
 void AddEntryVerbs(Verbs& verbs) {
   CLI::App& entry = verbs.AddNoun("entry", "Shows and changes how users are reached through services.");
   const auto arguments = std::make_shared<Arguments>();
-  CLI::App& list =
-      verbs.AddVerb(entry, "list", "Lists the entries, of one user or service where one is named.",
-                    kListExamples, [arguments] { return List(*arguments); });
-  list.add_option("--user", arguments->user, "Name or identity of a user");
-  list.add_option("--service", arguments->service, "Name or identity of a service");
+  CLI::App& list = verbs.AddVerb(entry, "list", Access::kRead,
+                                 "Lists the entries, of one user or service where one is named.",
+                                 kListExamples, [arguments] { return List(*arguments); });
+  list.add_option("--user", arguments->user, "Name or identity of a user")->check(kNotEmpty);
+  list.add_option("--service", arguments->service, "Name or identity of a service")->check(kNotEmpty);
 
-  CLI::App& set = verbs.AddVerb(entry, "set", "Writes a user's entry on a service, new or changed.",
-                                kSetExamples, [arguments] { return Set(*arguments); });
+  CLI::App& set =
+      verbs.AddVerb(entry, "set", Access::kChange, "Writes a user's entry on a service, new or changed.",
+                    kSetExamples, [arguments] { return Set(*arguments); });
   AddUserAndService(set, arguments);
   set.add_option("address", arguments->address,
                  "Address on the service: mail address, number or pager identification")
@@ -130,8 +134,8 @@ void AddEntryVerbs(Verbs& verbs) {
   set.add_flag("--disabled", arguments->disabled,
                "The user is not to be alerted through the service for now");
 
-  AddUserAndService(verbs.AddVerb(entry, "remove", "Removes a user's entry from a service.", kRemoveExamples,
-                                  [arguments] { return Remove(*arguments); }),
+  AddUserAndService(verbs.AddVerb(entry, "remove", Access::kChange, "Removes a user's entry from a service.",
+                                  kRemoveExamples, [arguments] { return Remove(*arguments); }),
                     arguments);
 }
 

@@ -53,11 +53,12 @@ class UserStore {
     Store users;
     if (const Status status = links.DBOpen()) return status;
     if (const Status status = users.DBOpen()) return status;
+    // A console adds an entry under the same lock: what it added is found here, not added again.
+    const FileLock lock(users.File());
+    if (lock.Result() != kOk) return lock.Result();
     ALRTUSRINSTSERV link{};
     const Status found = FindLink(links, entry, link);
     if (found != kOk && found != kNotFound) return found;
-    const FileLock lock(users.File());
-    if (lock.Result() != kOk) return lock.Result();
     return found == kOk ? Change(entry, links, link, users) : AddBoth(entry, links);
   }
 

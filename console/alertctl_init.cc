@@ -9,7 +9,7 @@ namespace {
 
 constexpr char kExamples[] =
     "  alertctl init\n"
-    "  alertctl init --data /srv/alerting --json";
+    "  alertctl init --data alerting-data --json";
 
 Result Init() {
   const Added added = AddStarterData();
@@ -31,7 +31,7 @@ Result Init() {
 }  // namespace
 
 void AddInitVerb(Verbs& verbs) {
-  verbs.AddVerb(verbs.Root(), "init",
+  verbs.AddVerb(verbs.Root(), "init", Access::kSetUp,
                 "Adds what a first start needs: this machine as alert manager, one service of every type "
                 "with a default "
                 "message and a test response, modem types and a location. Run again it changes nothing.",

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "companions/alertstore/engine.h"
 #include "companions/alertstore/records.h"
 
 namespace alertctl {
@@ -27,33 +28,52 @@ template <class Function>
 Function* Find(const platform::DynamicLibrary& library, const char* decorated_name) {
   void* function = library.Find(decorated_name);
   if (function == nullptr)
-    throw Failure(kInvalid, std::string("libalerting.so has no function ") + decorated_name +
-                                ": install the library that belongs to this program");
+    throw Failure(kInvalid, LibraryPath() + " has no function " + decorated_name +
+                                ": install the library that belongs to this program, or correct "
+                                "ALERTING_LIBRARY");
   return reinterpret_cast<Function*>(function);
 }
 
 }  // namespace
 
-Library::Library() {
+platform::ui::Answer Messages::ShowMessage(const platform::ui::Message& message) {
+  text_ += (text_.empty() ? "" : " ") + message.text;
+  return platform::ui::Answer::kOk;
+}
+
+Library::Library() : stores_(std::make_shared<StoreWatch>()) {
+  alertstore::SetEngine(WatchEngine(alertstore::CurrentEngine(), stores_));
   if (!library_.Load(LibraryPath()))
     throw Failure(kInvalid, "cannot load the alerting library: " + library_.Error() +
-                                "; install it beside this program");
+                                "; install it beside this program, or correct ALERTING_LIBRARY");
   const std::uint32_t opened = Find<std::uint32_t()>(library_, "OpenDBs")();
   if (opened > 1) throw StoreFailure("open the stores", opened);
 }
 
 Library::~Library() {
   if (void* close = library_.Find("CloseDBs")) reinterpret_cast<std::uint32_t (*)()>(close)();
+  alertstore::SetEngine(nullptr);
 }
 
-int Library::IndexOf(const Json& service) const {
+int Library::IndexOf(const Json& service) {
   const GUID id = IdOf(service);
   const int count = Find<std::int32_t()>(library_, "_DomainServiceGetCount@0")();
+  if (count == 0) throw Refusal("load the services");
+  messages_.Forget();
+  stores_->Forget();
   const auto info = Find<const alertstore::ALRTNTFYSERV*(std::int32_t)>(library_, "_DomainServiceGetInfo@4");
   for (int index = 0; index < count; ++index)
     if (info(index)->serviceId == id) return index;
   throw Failure(kNothingMatched,
                 "the service " + service["name"].dump() + " cannot be loaded by the alerting library");
+}
+
+Failure Library::Refusal(const std::string& what) const {
+  const std::string said = messages_.Text().empty() ? "" : " The alerting library says: " + messages_.Text();
+  if (stores_->FirstFailure() == alertstore::kOk)
+    return Failure(kStoreFailure,
+                   "cannot " + what + ": no store failed, but the alerting library did." + said);
+  return Failure(kStoreFailure, StoreFailure(what, stores_->FirstFailure()).what() + ("." + said));
 }
 
 bool Library::IsFirstOfType(int index) const {

@@ -41,8 +41,8 @@ Result List() {
 
 void AddManagerVerbs(Verbs& verbs) {
   CLI::App& manager = verbs.AddNoun("manager", "Shows the alert managers.");
-  verbs.AddVerb(manager, "list", "Lists the alert managers and how many services each has enabled.",
-                kExamples, List);
+  verbs.AddVerb(manager, "list", Access::kRead,
+                "Lists the alert managers and how many services each has enabled.", kExamples, List);
 }
 
 }  // namespace alertctl

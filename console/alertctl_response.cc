@@ -35,10 +35,12 @@ Result Show(const std::string& name) {
 
 void AddResponseVerbs(Verbs& verbs) {
   CLI::App& response = verbs.AddNoun("response", "Shows what is sent when alerts occur.");
-  verbs.AddVerb(response, "list", "Lists the responses, those of the test buttons included.", kListExamples,
-                List);
+  verbs.AddVerb(response, "list", Access::kRead, "Lists the responses, those of the test buttons included.",
+                kListExamples, List);
   const auto id = std::make_shared<std::string>();
-  verbs.AddVerb(response, "show", "Shows one response whole.", kShowExamples, [id] { return Show(*id); })
+  verbs
+      .AddVerb(response, "show", Access::kRead, "Shows one response whole.", kShowExamples,
+               [id] { return Show(*id); })
       .add_option("response", *id, "Identity of the response")
       ->required();
 }

@@ -61,11 +61,11 @@ Result Show(const std::string& name) {
 
 void AddServiceVerbs(Verbs& verbs) {
   CLI::App& service = verbs.AddNoun("service", "Shows and changes the site's notification services.");
-  verbs.AddVerb(service, "list", "Lists the services.", kListExamples, List);
+  verbs.AddVerb(service, "list", Access::kRead, "Lists the services.", kListExamples, List);
   const auto name = std::make_shared<std::string>();
   verbs
-      .AddVerb(service, "show", "Shows one service whole; passwords are masked.", kShowExamples,
-               [name] { return Show(*name); })
+      .AddVerb(service, "show", Access::kRead, "Shows one service whole; passwords are masked.",
+               kShowExamples, [name] { return Show(*name); })
       .add_option("service", *name, "Name or identity of the service")
       ->required();
   AddServiceChangeVerbs(verbs, service);

@@ -15,12 +15,12 @@ void AddServiceChangeVerbs(Verbs& verbs, CLI::App& service);
 namespace {
 
 constexpr char kCopyExamples[] =
-    "  alertctl service copy \"Internet Mail\" \"Internet Mail for the night shift\"\n"
-    "  alertctl service copy \"Numeric Pager\" \"Pager 2\" --manager server-2";
+    "  alertctl service copy \"Internet Mail\" \"Night shift mail\"\n"
+    "  alertctl service copy \"Numeric Pager\" \"Pager 2\" --manager \"$(uname -n)\"";
 constexpr char kDeleteExamples[] = "  alertctl service delete \"Pager 2\"";
 constexpr char kEnableExamples[] =
     "  alertctl service enable \"Internet Mail\"\n"
-    "  alertctl service enable \"Internet Mail\" --manager server-2";
+    "  alertctl service enable \"Internet Mail\" --manager \"$(uname -n)\"";
 constexpr char kDisableExamples[] = "  alertctl service disable \"Internet Mail\"";
 
 constexpr char kTellManagers[] = "Tell the alert managers with \"alertctl config write\".\n";
@@ -34,13 +34,19 @@ struct Arguments {
 std::string Quoted(const Json& object) { return "\"" + object["name"].get<std::string>() + "\""; }
 
 void CheckNewName(const Json& site, const std::string& name) {
-  constexpr std::size_t limit = decltype(alertstore::ALRTNTFYSERV::name)::kMaxLength;
-  if (name.empty() || name.size() > limit)
-    throw Failure(kInvalid, "a service's name has 1 to " + std::to_string(limit) +
-                                " bytes: choose another than \"" + name + "\"");
+  CheckTyped("a service's name", name, decltype(alertstore::ALRTNTFYSERV::name)::kMaxLength);
   for (const Json& service : site["services"])
     if (platform::EqualIgnoringCase(service["name"].get<std::string>(), name))
       throw Failure(kInvalid, "there is a service named \"" + name + "\" already: choose another name");
+}
+
+/// The library would make a copy all the same, with what it has in place of the missing settings.
+void CheckIsWhole(const Json& service) {
+  if (LacksOwnRecord(IdOf(service)))
+    throw Failure(kInvalid,
+                  "cannot copy the service " + Quoted(service) +
+                      ": the record with its settings is missing from the store, so there is nothing "
+                      "to copy");
 }
 
 Result Copy(const Arguments& arguments) {
@@ -48,11 +54,14 @@ Result Copy(const Arguments& arguments) {
   const Json& source = FindService(site, arguments.service);
   const Json& manager = FindManager(site, arguments.manager);
   CheckNewName(site, arguments.new_name);
-  const Library library;
+  CheckIsWhole(source);
+  Library library;
   if (!library.Copy(library.IndexOf(source), arguments.new_name, IdOf(manager)))
-    throw Failure(kStoreFailure,
-                  "cannot copy the service " + Quoted(source) + ": the store refused the copy");
+    throw library.Refusal("copy the service " + Quoted(source));
   const std::string id = library.LastService().ToString();
+  const Json after = LoadSite();
+  if (ManagersOf(after, FindService(after, id)).empty())
+    throw library.Refusal("enable the copy \"" + arguments.new_name + "\", which was made,");
   return {
       {{"id", id}, {"name", arguments.new_name}, {"copyOf", source["id"]}, {"alertManager", manager["name"]}},
       "Copied " + Quoted(source) + " to \"" + arguments.new_name + "\" " + id + ", enabled on " +
@@ -62,7 +71,7 @@ Result Copy(const Arguments& arguments) {
 Result Delete(const Arguments& arguments) {
   const Json site = LoadSite();
   const Json& service = FindService(site, arguments.service);
-  const Library library;
+  Library library;
   const int index = library.IndexOf(service);
   if (library.IsFirstOfType(index))
     throw Failure(kInvalid,
@@ -71,7 +80,7 @@ Result Delete(const Arguments& arguments) {
                       "disable\" takes it out of use");
   // The library asks for a manager, but takes the service off whichever has it.
   if (!library.Delete(index, platform::kNullGuid))
-    throw Failure(kStoreFailure, "cannot delete the service " + Quoted(service) + ": the store refused");
+    throw library.Refusal("delete the service " + Quoted(service));
   return {{{"id", service["id"]}, {"name", service["name"]}, {"deleted", true}},
           "Deleted the service " + Quoted(service) + ".\n" + kTellManagers};
 }
@@ -88,19 +97,16 @@ Result Enable(const Arguments& arguments) {
   const Json site = LoadSite();
   const Json& service = FindService(site, arguments.service);
   const Json& manager = FindManager(site, arguments.manager);
-  const auto managers = ManagersOf(site, service);
-  if (!managers.empty() && managers.front() != manager["name"])
-    throw Failure(kInvalid, "the service " + Quoted(service) + " is enabled on \"" + managers.front() +
-                                "\": disable it there first (\"alertctl service disable\")");
-  if (!managers.empty())
+  if (IsEnabledOn(manager, service))
     return {ManagerResult(site, service, false),
             Quoted(service) + " is enabled on " + Quoted(manager) + " already.\n"};
-  const Library library;
+  if (const auto managers = ManagersOf(site, service); !managers.empty())
+    throw Failure(kInvalid, "the service " + Quoted(service) + " is enabled on \"" + managers.front() +
+                                "\": disable it there first (\"alertctl service disable\")");
+  Library library;
   library.Enable(library.IndexOf(service), IdOf(manager), true);
   const Json after = LoadSite();
-  if (ManagersOf(after, service).empty())
-    throw Failure(kStoreFailure,
-                  "cannot enable the service " + Quoted(service) + ": the store refused the entry");
+  if (ManagersOf(after, service).empty()) throw library.Refusal("enable the service " + Quoted(service));
   return {ManagerResult(after, service, true),
           "Enabled " + Quoted(service) + " on " + Quoted(manager) + ".\n" + kTellManagers};
 }
@@ -112,12 +118,11 @@ Result Disable(const Arguments& arguments) {
   const std::size_t entries = ManagersOf(site, service).size();
   if (entries == 0)
     return {ManagerResult(site, service, false), Quoted(service) + " is not enabled anywhere.\n"};
-  const Library library;
+  Library library;
   const int index = library.IndexOf(service);
   for (std::size_t i = 0; i < entries; ++i) library.Enable(index, platform::kNullGuid, false);
   const Json after = LoadSite();
-  if (!ManagersOf(after, service).empty())
-    throw Failure(kStoreFailure, "cannot disable the service " + Quoted(service) + ": the store refused");
+  if (!ManagersOf(after, service).empty()) throw library.Refusal("disable the service " + Quoted(service));
   return {ManagerResult(after, service, true), "Disabled " + Quoted(service) + ".\n" + kTellManagers};
 }
 
@@ -125,15 +130,16 @@ using Action = Result (*)(const Arguments&);
 
 CLI::App& AddChangeVerb(Verbs& verbs, CLI::App& noun, const char* name, const char* description,
                         const char* examples, Action action, const std::shared_ptr<Arguments>& arguments) {
-  CLI::App& verb =
-      verbs.AddVerb(noun, name, description, examples, [action, arguments] { return action(*arguments); });
+  CLI::App& verb = verbs.AddVerb(noun, name, Access::kChange, description, examples,
+                                 [action, arguments] { return action(*arguments); });
   verb.add_option("service", arguments->service, "Name or identity of the service")->required();
   return verb;
 }
 
 void AddManagerOption(CLI::App& verb, const std::shared_ptr<Arguments>& arguments) {
   verb.add_option("--manager", arguments->manager,
-                  "Name or identity of the alert manager; without it this machine, or the only manager");
+                  "Name or identity of the alert manager; without it this machine, or the only manager")
+      ->check(kNotEmpty);
 }
 
 }  // namespace

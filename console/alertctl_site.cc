@@ -3,10 +3,13 @@
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <optional>
 
 #include "companions/alertstore/console_users.h"
+#include "companions/alertstore/status_text.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
@@ -47,34 +50,35 @@ const dbconfig::ServiceType* TypeOf(const Json& service) {
   return nullptr;
 }
 
+/// What to do about a failure; it follows the words for the status.
 const char* Advice(alertstore::Status status) {
   switch (status) {
     case alertstore::kIoError:
-      return "the data directory cannot be made, read or written; check its permissions or choose another "
-             "with "
-             "--data";
+      return "; check the permissions or choose another directory with --data";
     case alertstore::kDiskFull:
-      return "the disk is full; make room and try again";
+      return "; make room and try again";
     case alertstore::kCorrupt:
-      return "alerting.db in the data directory is damaged or no database; restore it from a backup";
+      return "; restore it from a backup";
     case alertstore::kLockTimeout:
-      return "another console holds the store; try again in a moment";
+      return "; try again in a moment";
     case alertstore::kNotFound:
-      return "the record is no longer there; another console may have deleted it";
-    case alertstore::kNotUnique:
-      return "the name or identity is taken";
+      return "; another console may have deleted it";
     default:
-      return "an unexpected failure of the store";
+      return "";
   }
+}
+
+dbconfig::Site ReadSite() {
+  dbconfig::Site site;
+  const alertstore::Status status = dbconfig::ReadSite(site);
+  if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
+  return site;
 }
 
 }  // namespace
 
 Json LoadSite() {
-  dbconfig::Site site;
-  const alertstore::Status status = dbconfig::ReadSite(site);
-  if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
-  Json document = Json::parse(dbconfig::WriteDocument(site));
+  Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
   MaskPasswords(document);
   return document;
 }
@@ -96,13 +100,37 @@ const Json& FindService(const Json& site, const std::string& name) {
 const Json& FindManager(const Json& site, const std::string& name) {
   const Json& managers = site["alertManagers"];
   if (!name.empty()) return FindOne(managers, name, "alert manager", "alertctl manager list");
-  for (const Json& manager : managers)
-    if (Matches(manager, HostName())) return manager;
+  const auto is_this_machine = [](const Json& manager) { return Matches(manager, HostName()); };
+  if (std::any_of(managers.begin(), managers.end(), is_this_machine))
+    return FindOne(managers, HostName(), "alert manager", "alertctl manager list");
   if (managers.size() == 1) return managers[0];
   throw Failure(
       kInvalid,
       "this machine (" + HostName() +
           ") is no alert manager: choose one with --manager (\"alertctl manager list\" shows them)");
+}
+
+bool IsEnabledOn(const Json& manager, const Json& service) {
+  const auto is_for_service = [&](const Json& entry) {
+    return entry["serviceId"] == service["id"] && entry["backup"] == false;
+  };
+  const Json& entries = manager["services"];
+  return std::any_of(entries.begin(), entries.end(), is_for_service);
+}
+
+bool LacksOwnRecord(const platform::GUID& service) {
+  const dbconfig::Site site = ReadSite();
+  for (const auto& common : site.services) {
+    if (common.serviceId != service) continue;
+    const dbconfig::ServiceType* type = dbconfig::FindServiceType(common.recordType);
+    if (type == nullptr || type->read_specific == nullptr) return false;
+    const dbconfig::Records& records = site.specific.at(type->record_type);
+    const auto is_own = [&](const dbconfig::RecordBytes& record) {
+      return std::memcmp(record.data(), &common.specificRecordId, sizeof common.specificRecordId) == 0;
+    };
+    return std::none_of(records.begin(), records.end(), is_own);
+  }
+  return false;
 }
 
 std::vector<std::string> ManagersOf(const Json& site, const Json& service) {
@@ -146,7 +174,8 @@ Failure StoreFailure(const std::string& what, alertstore::Status status) {
   char code[16];
   std::snprintf(code, sizeof code, "0x%x", status);
   return Failure(kStoreFailure, "cannot " + what + " in " + platform::DataDirectory() + ": " +
-                                    Advice(status) + " (status " + code + ")");
+                                    alertstore::StatusText(status) + Advice(status) + " (status " + code +
+                                    ")");
 }
 
 }  // namespace alertctl

@@ -20,8 +20,13 @@ void MaskPasswords(Json& document);
 /// The service of that name (either case) or identity. Throws kNothingMatched, or kInvalid when several
 /// match.
 const Json& FindService(const Json& site, const std::string& name);
-/// The alert manager of that name or identity; for "" this machine, or the only one there is.
+/// The alert manager of that name or identity; for "" this machine, or the only one there is. Throws as
+/// FindService does.
 const Json& FindManager(const Json& site, const std::string& name);
+/// True when the manager delivers through the service, other than as its backup.
+bool IsEnabledOn(const Json& manager, const Json& service);
+/// True when the record with the settings of that service is missing. Throws a Failure with kStoreFailure.
+bool LacksOwnRecord(const platform::GUID& service);
 /// The names of the managers on which the service is enabled, in the order of the managers.
 std::vector<std::string> ManagersOf(const Json& site, const Json& service);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/alertctl_starter.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <map>
 #include <string>
 
@@ -17,6 +19,16 @@ namespace {
 
 using namespace alertstore;  // NOLINT: every kind of record is made here
 using platform::GUID;
+
+/// A directory that was named and is not there must not give way to another one in silence.
+void CheckNamedResources() {
+  const char* named = std::getenv("ALERTING_RESOURCES");
+  std::error_code ignored;
+  if (named != nullptr && *named != '\0' && !std::filesystem::is_directory(named, ignored))
+    throw Failure(kInvalid, std::string("ALERTING_RESOURCES names ") + named +
+                                ", which is no directory: correct it, or unset it to use the installed "
+                                "resource files");
+}
 
 Json ReadStarterFile(const std::string& name) {
   const std::string path = ctxhelp::ResourceDirectory() + "/starter/" + name;
@@ -220,6 +232,7 @@ Added Starter::Run() {
 }  // namespace
 
 Added AddStarterData() {
+  CheckNamedResources();
   try {
     return Starter().Run();
   } catch (const Json::exception& error) {

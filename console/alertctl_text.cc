@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "console/alertctl_output.h"
 #include "platform/base/utf8.h"
 
 namespace alertctl {
@@ -95,11 +96,15 @@ std::string Described(const Json& object, int indent) {
   return text;
 }
 
-std::string Printable(std::string_view text, bool lines) {
-  std::string result(text);
-  for (char& c : result)
-    if ((static_cast<unsigned char>(c) < 32 && !(lines && c == '\n')) || c == 127) c = ' ';
-  return result;
+void CheckTyped(const std::string& what, const std::string& text, std::size_t limit) {
+  const std::string has = what + " has 1 to " + std::to_string(limit) + " bytes";
+  if (text.empty()) throw Failure(kInvalid, has + ": \"\" has none");
+  if (text.size() > limit)
+    throw Failure(kInvalid, has + ": \"" + text + "\" has " + std::to_string(text.size()));
+  if (HasUnprintable(text))
+    throw Failure(kInvalid, what + " holds no control characters and is UTF-8: correct \"" + text + "\"");
+  if (text.find_first_not_of(' ') == std::string::npos)
+    throw Failure(kInvalid, what + " is more than blanks: nobody could tell it from another");
 }
 
 }  // namespace alertctl

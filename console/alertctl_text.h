@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "console/alertctl_verbs.h"
@@ -31,7 +30,8 @@ std::string Count(std::size_t count, const std::string& one);
 std::string ShownMessage(const Json& message);
 /// Members as "name: value" lines under a title; nested ones are indented.
 std::string Described(const Json& object, int indent);
-/// The text without what a terminal would act on; line breaks stay when `lines` says so.
-std::string Printable(std::string_view text, bool lines);
+/// A name or address that someone typed: 1 to `limit` bytes of text with something to be seen in it. `what`
+/// begins the message, as in "a user's name". Throws a Failure (kInvalid).
+void CheckTyped(const std::string& what, const std::string& text, std::size_t limit);
 
 }  // namespace alertctl

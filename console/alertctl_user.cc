@@ -14,8 +14,8 @@ using platform::GUID;
 constexpr char kListExamples[] = "  alertctl user list";
 constexpr char kAddExamples[] =
     "  alertctl user add Ann\n"
-    "  alertctl user add Ann --id 7B1C7A52-0D5C-4F4B-8B60-6F3B1C9E2A11";
-constexpr char kRemoveExamples[] = "  alertctl user remove Ann";
+    "  alertctl user add \"Night Operator\" --id 7B1C7A52-0D5C-4F4B-8B60-6F3B1C9E2A11";
+constexpr char kRemoveExamples[] = "  alertctl user remove \"Night Operator\"";
 
 Json UserJson(const GUID& id, const std::string& name) { return {{"id", id.ToString()}, {"name", name}}; }
 
@@ -37,9 +37,7 @@ Result Add(const std::string& name, const std::string& id_text) {
   const auto id = id_text.empty() ? GUID::Generate() : GUID::Parse(id_text);
   if (!id)
     throw Failure(kInvalid, "\"" + id_text + "\" is no identity: write 32 hexadecimal digits as 8-4-4-4-12");
-  if (name.empty() || name.size() > alertstore::kMaxConsoleUserName)
-    throw Failure(kInvalid, "a user's name has 1 to " + std::to_string(alertstore::kMaxConsoleUserName) +
-                                " bytes: choose another than \"" + name + "\"");
+  CheckTyped("a user's name", name, alertstore::kMaxConsoleUserName);
   const alertstore::Status status = alertstore::AddConsoleUser(*id, name);
   if (status == alertstore::kNotUnique || status == alertstore::kInvalidArgument)
     throw Failure(kInvalid, "cannot add the user \"" + name + "\": the identity " + id->ToString() +
@@ -74,15 +72,16 @@ Result Remove(const std::string& name) {
 
 void AddUserVerbs(Verbs& verbs) {
   CLI::App& user = verbs.AddNoun("user", "Lists, adds and removes the people whom alerts can reach.");
-  verbs.AddVerb(user, "list", "Lists the users.", kListExamples, List);
+  verbs.AddVerb(user, "list", Access::kRead, "Lists the users.", kListExamples, List);
   const auto name = std::make_shared<std::string>();
   const auto id = std::make_shared<std::string>();
-  CLI::App& add = verbs.AddVerb(user, "add", "Adds a user.", kAddExamples, [=] { return Add(*name, *id); });
+  CLI::App& add = verbs.AddVerb(user, "add", Access::kSetUp, "Adds a user.", kAddExamples,
+                                [=] { return Add(*name, *id); });
   add.add_option("name", *name, "Name, at most 64 bytes")->required();
-  add.add_option("--id", *id, "Identity; without it a new one is made");
+  add.add_option("--id", *id, "Identity; without it a new one is made")->check(kNotEmpty);
   verbs
-      .AddVerb(user, "remove", "Removes a user who has no entry on any service.", kRemoveExamples,
-               [name] { return Remove(*name); })
+      .AddVerb(user, "remove", Access::kChange, "Removes a user who has no entry on any service.",
+               kRemoveExamples, [name] { return Remove(*name); })
       .add_option("user", *name, "Name or identity of the user")
       ->required();
 }

@@ -3,6 +3,10 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
+
+#include "console/alertctl_data.h"
+#include "console/alertctl_output.h"
 
 namespace alertctl {
 
@@ -12,31 +16,44 @@ CLI::App& Verbs::AddNoun(const std::string& name, const std::string& description
   return *noun;
 }
 
-CLI::App& Verbs::AddVerb(CLI::App& noun, const std::string& name, const std::string& description,
-                         const std::string& examples, Action action) {
+CLI::App& Verbs::AddVerb(CLI::App& noun, const std::string& name, Access access,
+                         const std::string& description, const std::string& examples, Action action) {
   CLI::App* verb = noun.add_subcommand(name, description);
   verb->add_flag("--json", json_, "Print JSON instead of text");
   verb->add_option("--data", data_, "Data directory; without it ALERTING_DATA, else the user's data home")
+      ->check(kNotEmpty)
       ->type_name("DIR");
   verb->footer("Examples:\n" + examples);
-  verb->final_callback([this, action = std::move(action)] { action_ = action; });
+  verb->final_callback([this, access, action = std::move(action)] {
+    action_ = action;
+    access_ = access;
+  });
   return *verb;
+}
+
+Result Verbs::RunAction() const {
+  if (access_ == Access::kFile) return action_();
+  if (access_ == Access::kSetUp)
+    MakeDataDirectory();
+  else
+    RequireData();
+  std::optional<DirectoryTurn> turn;
+  if (access_ == Access::kChange || access_ == Access::kSetUp) turn.emplace();
+  return action_();
 }
 
 int Verbs::Run() {
   if (!data_.empty()) setenv("ALERTING_DATA", data_.c_str(), 1);
   try {
-    const Result result = action_();
-    if (json_)
-      std::cout << result.json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
-    else
-      std::cout << result.text;
-    return std::cout.flush() ? kDone : kStoreFailure;
+    const Result result = RunAction();
+    if (PrintOut(json_ ? JsonText(result.json) : Printable(result.text, true))) return kDone;
+    PrintError("cannot write the output: " + LastOutputError() + "; what was asked for is done");
+    return kStoreFailure;
   } catch (const Failure& failure) {
-    std::cerr << "alertctl: " << failure.what() << '\n';
+    PrintError(failure.what());
     return failure.Code();
   } catch (const std::exception& error) {
-    std::cerr << "alertctl: " << error.what() << '\n';
+    PrintError(error.what());
     return kStoreFailure;
   }
 }

@@ -30,6 +30,15 @@ struct Result {
   std::string text;
 };
 
+/// What a verb does to the data directory, which decides what is there before it begins.
+enum class Access {
+  kFile,    ///< reads one file: nothing is made or waited for
+  kRead,    ///< reads the stores: there must be some
+  kExport,  ///< writes what the stores hold to a file that has a lock of its own
+  kChange,  ///< changes the stores: there must be some, and no other alertctl changes them meanwhile
+  kSetUp,   ///< adds the first records: as kChange, and makes the directory
+};
+
 /// The command line: adds verbs, then runs the one that was asked for.
 class Verbs {
  public:
@@ -40,7 +49,7 @@ class Verbs {
   /// A group of verbs, such as "service".
   CLI::App& AddNoun(const std::string& name, const std::string& description);
   /// A verb of `noun`, with the options that every verb has. `examples` stands at the end of its help.
-  CLI::App& AddVerb(CLI::App& noun, const std::string& name, const std::string& description,
+  CLI::App& AddVerb(CLI::App& noun, const std::string& name, Access access, const std::string& description,
                     const std::string& examples, Action action);
   CLI::App& Root() { return app_; }
 
@@ -48,11 +57,19 @@ class Verbs {
   int Run();
 
  private:
+  /// Runs the verb in the data directory that it needs.
+  Result RunAction() const;
+
   CLI::App& app_;
   Action action_;
+  Access access_ = Access::kFile;
   bool json_ = false;
   std::string data_;
 };
+
+/// For options whose value cannot be "".
+inline const CLI::Validator kNotEmpty([](std::string& value) { return value.empty() ? "is empty" : ""; }, "",
+                                      "not empty");
 
 void AddInitVerb(Verbs& verbs);
 void AddServiceVerbs(Verbs& verbs);

@@ -2,14 +2,15 @@
 #include "companions/dbconfig/dbconfig.h"
 
 #include <atomic>
+#include <chrono>
 #include <cstring>
 #include <exception>
 #include <string>
 
-#include "companions/dbconfig/config_lock.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/site.h"
 #include "platform/base/paths.h"
+#include "platform/base/process_lock.h"
 #include "platform/base/utf8.h"
 
 namespace dbconfig {
@@ -26,12 +27,14 @@ class Conversion {
   Conversion& operator=(const Conversion&) = delete;
 };
 
-/// The lock is taken before the stores are read: the last console to write has then read last, too.
+/// Consoles take turns, so that none puts an older reading of the stores over a newer one: the lock is taken
+/// before the stores are read, and the last console to write has then read last, too.
 std::uint32_t WriteConfigFile() {
   const std::string path = platform::DataDirectory() + "/" + kConfigFileName;
   if (!platform::MakeDirectories(platform::DataDirectory())) return kFileUnwritable;
-  const ConfigLock lock(path + ".lock");
-  if (!lock.Held()) return kFileUnwritable;
+  const platform::ProcessLock lock(path + ".lock", std::chrono::seconds(5));
+  if (lock.Outcome() == platform::LockOutcome::kTimeout) return kFileLocked;
+  if (lock.Outcome() != platform::LockOutcome::kHeld) return kFileUnwritable;
   Site site;
   if (ReadSite(site) != alertstore::kOk) return kStoresUnreadable;
   // Only its owner may read it, because it holds the passwords of the services.

@@ -18,8 +18,7 @@ class DbConfig {
   virtual void GetQEVDataDirectory(char* buffer, std::size_t size) = 0;
 
   /// Rewrites the alert managers' configuration file from the current stores. `zero` is reserved. 0 when the
-  /// file was written; any other value when the stores cannot be read or the file cannot be written, and then
-  /// the file of before is still in place.
+  /// file was written; else one of the failures below, and then a file of before is still in place.
   virtual std::uint32_t CreateAlertServerConfigFile(std::uint32_t zero) = 0;
 
   /// Non-zero while no conversion is under way in this process.
@@ -32,8 +31,13 @@ std::unique_ptr<DbConfig> MakeDbConfig();
 /// The name of the configuration file within the data directory.
 inline constexpr char kConfigFileName[] = "alert-managers.json";
 
-/// What CreateAlertServerConfigFile answers when it fails.
+// What CreateAlertServerConfigFile answers when it fails.
+
+/// A store cannot be opened or read, or there is not enough memory.
 inline constexpr std::uint32_t kStoresUnreadable = 1;
+/// The directory, the lock file or the file itself cannot be made or replaced.
 inline constexpr std::uint32_t kFileUnwritable = 2;
+/// Another console was writing the file for longer than a caller may wait (five seconds).
+inline constexpr std::uint32_t kFileLocked = 3;
 
 }  // namespace dbconfig

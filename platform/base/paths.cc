@@ -6,14 +6,20 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <string_view>
 #include <utility>
 
+#include "platform/base/process_lock.h"
+
 namespace platform {
 namespace {
+
+// How long a writer waits for another one of the same file.
+constexpr std::chrono::seconds kWriterLimit(5);
 
 std::string EnvironmentValue(const char* name) {
   const char* value = std::getenv(name);
@@ -24,18 +30,16 @@ std::string EnvironmentValue(const char* name) {
 class Descriptor {
  public:
   explicit Descriptor(int fd) : fd_(fd) {}
-  ~Descriptor() { Close(); }
+  ~Descriptor() {
+    if (fd_ >= 0) close(fd_);
+  }
   Descriptor(const Descriptor&) = delete;
   Descriptor& operator=(const Descriptor&) = delete;
 
   int Get() const { return fd_; }
-  bool Close() {
-    const int fd = std::exchange(fd_, -1);
-    return fd < 0 || close(fd) == 0;
-  }
 
  private:
-  int fd_;
+  const int fd_;
 };
 
 bool WriteAll(int fd, std::string_view bytes) {
@@ -60,9 +64,36 @@ bool FlushDirectory(const std::string& path) {
   return directory.Get() >= 0 && (fsync(directory.Get()) == 0 || errno == EINVAL);
 }
 
+// The mode comes first: what a killed writer left may have another one. The lock that the descriptor holds
+// stays until it is closed, after the rename.
 bool WriteAndFlush(int fd, const std::string& bytes, unsigned mode) {
-  Descriptor file(fd);
-  return fchmod(fd, mode) == 0 && WriteAll(fd, bytes) && fsync(fd) == 0 && file.Close();
+  return fchmod(fd, mode) == 0 && ftruncate(fd, 0) == 0 && WriteAll(fd, bytes) && fsync(fd) == 0;
+}
+
+bool IsRegularFile(int fd) {
+  struct stat opened {};
+  return fstat(fd, &opened) == 0 && S_ISREG(opened.st_mode);
+}
+
+bool IsFileAt(const std::string& path, int fd) {
+  struct stat named {};
+  struct stat opened {};
+  return lstat(path.c_str(), &named) == 0 && fstat(fd, &opened) == 0 && named.st_dev == opened.st_dev &&
+         named.st_ino == opened.st_ino;
+}
+
+// The file of that name, locked, or -1. Whoever waited for another writer holds the file which that one has
+// renamed meanwhile, and begins again with a file of its own.
+int OpenLocked(const std::string& path) {
+  const auto deadline = std::chrono::steady_clock::now() + kWriterLimit;
+  for (;;) {
+    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    if (fd < 0) return -1;
+    const bool locked = IsRegularFile(fd) && LockOpenFile(fd, kWriterLimit) == LockOutcome::kHeld;
+    if (locked && IsFileAt(path, fd)) return fd;
+    close(fd);
+    if (!locked || std::chrono::steady_clock::now() >= deadline) return -1;
+  }
 }
 
 }  // namespace
@@ -76,10 +107,10 @@ std::string DataDirectory() {
 }
 
 bool WriteFileAtomically(const std::string& path, const std::string& bytes, unsigned mode) {
-  std::string temporary = path + ".XXXXXX";
-  const int fd = mkostemp(temporary.data(), O_CLOEXEC);
-  if (fd < 0) return false;
-  if (!WriteAndFlush(fd, bytes, mode) || std::rename(temporary.c_str(), path.c_str()) != 0) {
+  const std::string temporary = path + ".tmp";
+  Descriptor file(OpenLocked(temporary));
+  if (file.Get() < 0) return false;
+  if (!WriteAndFlush(file.Get(), bytes, mode) || std::rename(temporary.c_str(), path.c_str()) != 0) {
     unlink(temporary.c_str());
     return false;
   }

@@ -10,9 +10,11 @@ namespace platform {
 /// else "./alerting-data". Read anew on each call; the directory itself may not exist.
 std::string DataDirectory();
 
-/// Writes `bytes` to a temporary file beside `path`, flushes it to the disk and renames it into place, so
-/// that a reader sees either the old file or the whole new one. The file gets `mode`. False when any step
-/// fails; the old file is then untouched, unless the last step, flushing the directory, failed.
+/// Writes `bytes` to the file "`path`.tmp", flushes it to the disk and renames it into place, so that a
+/// reader sees either the old file or the whole new one. The file gets `mode` before it gets the bytes.
+/// Writers of the same file take turns. What a killed writer left behind bears the one temporary name and is
+/// replaced by the next writer, so that files with secrets do not pile up. False when any step fails; the old
+/// file is then untouched, unless the last step, flushing the directory, failed.
 bool WriteFileAtomically(const std::string& path, const std::string& bytes, unsigned mode);
 
 /// The whole file, or false when it cannot be read.

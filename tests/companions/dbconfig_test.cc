@@ -323,6 +323,15 @@ TEST_F(DbConfigTest, WithoutTheLockNothingIsWritten) {
   EXPECT_FALSE(std::filesystem::exists(Path()));
 }
 
+TEST_F(DbConfigTest, AConsoleThatWritesForTooLongIsAFailureOfItsOwn) {
+  const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+  ASSERT_EQ(flock(other_console, LOCK_EX), 0);
+  EXPECT_EQ(Write(), dbconfig::kFileLocked);
+  EXPECT_FALSE(std::filesystem::exists(Path()));
+  close(other_console);
+  EXPECT_EQ(Write(), 0u);
+}
+
 TEST_F(DbConfigTest, AWriteWaitsForAnotherConsoleAndIsUnderWayMeanwhile) {
   const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
   ASSERT_EQ(flock(other_console, LOCK_EX), 0);

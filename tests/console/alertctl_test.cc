@@ -1,15 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Runs the real program in data directories of its own.
-#include <gmock/gmock.h>
-#include <sys/wait.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <nlohmann/json.hpp>
-#include <vector>
-
-#include "companions/alertstore/stores.h"
-#include "platform/base/paths.h"
+// What the verbs do, on the real program.
+#include "tests/console/alertctl_fixture.h"
 
 using namespace alertstore;
 using nlohmann::json;
@@ -19,74 +10,6 @@ using testing::IsEmpty;
 using testing::Not;
 
 namespace {
-
-struct Ran {
-  int code;
-  std::string out;
-  std::string err;
-};
-
-std::string Quoted(const std::string& argument) { return "'" + argument + "'"; }
-
-class AlertctlTest : public testing::Test {
- protected:
-  AlertctlTest() {
-    std::string name = testing::TempDir() + "alertctl-XXXXXX";
-    root_ = mkdtemp(name.data());
-    data_ = root_ + "/data";
-    setenv("ALERTING_DATA", data_.c_str(), 1);
-  }
-  ~AlertctlTest() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(root_, ignored);
-  }
-
-  Ran Run(const std::vector<std::string>& arguments) {
-    std::string command = Quoted(ALERTCTL);
-    for (const std::string& argument : arguments) command += " " + Quoted(argument);
-    command += " >" + Quoted(root_ + "/out") + " 2>" + Quoted(root_ + "/err");
-    const int status = std::system(command.c_str());
-    Ran ran{WIFEXITED(status) ? WEXITSTATUS(status) : -1, {}, {}};
-    platform::ReadWholeFile(root_ + "/out", ran.out);
-    platform::ReadWholeFile(root_ + "/err", ran.err);
-    return ran;
-  }
-
-  /// What a verb prints with --json; it must succeed.
-  json RunJson(std::vector<std::string> arguments) {
-    arguments.push_back("--json");
-    const Ran ran = Run(arguments);
-    EXPECT_EQ(ran.code, 0) << ran.err;
-    return json::parse(ran.out, nullptr, false);
-  }
-
-  std::string ConfigFile() {
-    EXPECT_EQ(Run({"config", "write"}).code, 0);
-    std::string bytes;
-    EXPECT_TRUE(platform::ReadWholeFile(data_ + "/alert-managers.json", bytes));
-    return bytes;
-  }
-
-  std::string root_, data_;
-};
-
-/// The first record of the store for which `wanted` holds; a missing one fails the test.
-template <class Store, class Wanted>
-typename Store::RecordType Find(Store& store, Wanted wanted) {
-  typename Store::RecordType record{};
-  EXPECT_EQ(store.DBOpen(), kOk);
-  const std::uint32_t selector = store.Schema().selectors.front().number;
-  Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
-  while (status == kOk && !wanted(record)) status = store.DBAlertRecFindNext(record);
-  EXPECT_EQ(status, kOk) << "no such record in " << store.Schema().file;
-  return record;
-}
-
-template <class Store>
-Store& Opened(Store& store) {
-  EXPECT_EQ(store.DBOpen(), kOk);
-  return store;
-}
 
 ALRTNTFYSERV ServiceOfType(std::uint32_t type) {
   CAlertNtfyServDB services;
@@ -170,7 +93,6 @@ TEST_F(AlertctlTest, DefaultMessagesAreStoredWithTheirKeywords) {
 }
 
 TEST_F(AlertctlTest, ListsAndShowsAsTextAndAsJson) {
-  EXPECT_THAT(Run({"service", "list"}).out, HasSubstr("alertctl init"));
   RunJson({"init"});
   EXPECT_THAT(Run({"service", "list"}).out, HasSubstr("cc:Mail"));
   const json list = RunJson({"service", "list"});
@@ -330,36 +252,6 @@ TEST_F(AlertctlTest, AnEntryWhoseRecordIsGoneIsRepaired) {
   EXPECT_EQ(RunJson({"entry", "list"}), json::array());
   RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
   EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);
-}
-
-TEST_F(AlertctlTest, EveryVerbHelpsWithExamples) {
-  for (const auto& verb : {std::vector<std::string>{"init"},
-                           {"service", "list"},
-                           {"service", "show"},
-                           {"service", "copy"},
-                           {"service", "delete"},
-                           {"service", "enable"},
-                           {"service", "disable"},
-                           {"user", "list"},
-                           {"user", "add"},
-                           {"user", "remove"},
-                           {"entry", "list"},
-                           {"entry", "set"},
-                           {"entry", "remove"},
-                           {"manager", "list"},
-                           {"response", "list"},
-                           {"response", "show"},
-                           {"config", "write"},
-                           {"config", "show"}}) {
-    auto arguments = verb;
-    arguments.push_back("--help");
-    const Ran ran = Run(arguments);
-    EXPECT_EQ(ran.code, 0);
-    std::string words = "alertctl";
-    for (const std::string& word : verb) words += " " + word;
-    EXPECT_THAT(ran.out,
-                testing::AllOf(HasSubstr("Examples:\n  " + words), HasSubstr("--json"), HasSubstr("--data")));
-  }
 }
 
 }  // namespace

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "companions/alertstore/stores.h"
+#include "platform/base/paths.h"
+
+struct Ran {
+  int code;
+  std::string out;
+  std::string err;
+};
+
+/// Runs the real program in a data directory of the test's own.
+class AlertctlTest : public testing::Test {
+ protected:
+  using Arguments = std::vector<std::string>;
+  using json = nlohmann::json;
+
+  AlertctlTest() {
+    std::string name = testing::TempDir() + "alertctl-XXXXXX";
+    root_ = mkdtemp(name.data());
+    data_ = root_ + "/data";
+    setenv("ALERTING_DATA", data_.c_str(), 1);
+  }
+  ~AlertctlTest() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(root_, ignored);
+  }
+
+  static std::string Quoted(const std::string& argument) { return "'" + argument + "'"; }
+
+  static std::string CommandOf(const Arguments& arguments) {
+    std::string command = Quoted(ALERTCTL);
+    for (const std::string& argument : arguments) command += " " + Quoted(argument);
+    return command;
+  }
+
+  /// Runs a line of the shell, with its output caught unless the line sends it elsewhere.
+  Ran RunLine(const std::string& line) {
+    const std::string files = root_ + "/" + std::to_string(++runs_);
+    const std::string command =
+        "cd " + Quoted(root_) + "; { " + line + "; } >" + files + ".out 2>" + files + ".err";
+    const int status = std::system(command.c_str());
+    Ran ran{WIFEXITED(status) ? WEXITSTATUS(status) : -1, {}, {}};
+    platform::ReadWholeFile(files + ".out", ran.out);
+    platform::ReadWholeFile(files + ".err", ran.err);
+    return ran;
+  }
+
+  Ran Run(const Arguments& arguments) { return RunLine(CommandOf(arguments)); }
+
+  /// Runs all of them at once.
+  std::vector<Ran> RunTogether(const std::vector<Arguments>& commands) {
+    std::vector<Ran> ran(commands.size());
+    std::vector<std::thread> threads;
+    for (std::size_t i = 0; i < commands.size(); ++i)
+      threads.emplace_back([&, i] { ran[i] = Run(commands[i]); });
+    for (std::thread& thread : threads) thread.join();
+    return ran;
+  }
+
+  /// What a verb prints with --json; it must succeed.
+  json RunJson(Arguments arguments) {
+    arguments.push_back("--json");
+    const Ran ran = Run(arguments);
+    EXPECT_EQ(ran.code, 0) << ran.err;
+    return json::parse(ran.out, nullptr, false);
+  }
+
+  std::string ConfigFile() {
+    EXPECT_EQ(Run({"config", "write"}).code, 0);
+    std::string bytes;
+    EXPECT_TRUE(platform::ReadWholeFile(data_ + "/alert-managers.json", bytes));
+    return bytes;
+  }
+
+  std::string root_, data_;
+
+ private:
+  std::atomic<int> runs_{0};
+};
+
+/// The first record of the store for which `wanted` holds; a missing one fails the test.
+template <class Store, class Wanted>
+typename Store::RecordType Find(Store& store, Wanted wanted) {
+  typename Store::RecordType record{};
+  EXPECT_EQ(store.DBOpen(), alertstore::kOk);
+  const std::uint32_t selector = store.Schema().selectors.front().number;
+  alertstore::Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
+  while (status == alertstore::kOk && !wanted(record)) status = store.DBAlertRecFindNext(record);
+  EXPECT_EQ(status, alertstore::kOk) << "no such record in " << store.Schema().file;
+  return record;
+}
+
+template <class Store>
+Store& Opened(Store& store) {
+  EXPECT_EQ(store.DBOpen(), alertstore::kOk);
+  return store;
+}

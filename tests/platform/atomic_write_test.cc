@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <thread>
+
+#include "platform/base/paths.h"
+
+using platform::ReadWholeFile;
+using platform::WriteFileAtomically;
+using testing::UnorderedElementsAre;
+
+namespace {
+
+class AtomicWriteTest : public testing::Test {
+ protected:
+  AtomicWriteTest() {
+    std::string name = testing::TempDir() + "write-XXXXXX";
+    directory_ = mkdtemp(name.data());
+    path_ = directory_ + "/file";
+  }
+  ~AtomicWriteTest() override { std::filesystem::remove_all(directory_); }
+
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(directory_))
+      names.push_back(entry.path().filename());
+    return names;
+  }
+  std::string Bytes() const {
+    std::string bytes;
+    EXPECT_TRUE(ReadWholeFile(path_, bytes));
+    return bytes;
+  }
+
+  std::string directory_, path_;
+};
+
+TEST_F(AtomicWriteTest, KilledWritersLeaveOneTemporaryFileThatTheNextOneReplaces) {
+  const std::string large(4 << 20, 'x');
+  for (int round = 0; round < 8; ++round) {
+    const pid_t writer = fork();
+    ASSERT_GE(writer, 0);
+    if (writer == 0)
+      for (;;) WriteFileAtomically(path_, large, 0600);
+    usleep(static_cast<useconds_t>(3000 + 2700 * round));
+    kill(writer, SIGKILL);
+    waitpid(writer, nullptr, 0);
+    for (const std::string& name : Names()) EXPECT_TRUE(name == "file" || name == "file.tmp") << name;
+  }
+  ASSERT_TRUE(WriteFileAtomically(path_, "new", 0600));
+  EXPECT_THAT(Names(), UnorderedElementsAre("file"));
+  EXPECT_EQ(Bytes(), "new");
+}
+
+TEST_F(AtomicWriteTest, AFileThatWasLeftBehindGivesNeitherItsBytesNorItsMode) {
+  ASSERT_TRUE(WriteFileAtomically(path_ + ".tmp", "longer than the new bytes", 0666));
+  ASSERT_TRUE(WriteFileAtomically(path_, "new", 0600));
+  struct stat info {};
+  ASSERT_EQ(stat(path_.c_str(), &info), 0);
+  EXPECT_EQ(info.st_mode & 0777, 0600u);
+  EXPECT_EQ(Bytes(), "new");
+  EXPECT_THAT(Names(), UnorderedElementsAre("file"));
+}
+
+TEST_F(AtomicWriteTest, WhatIsNoFileUnderTheTemporaryNameIsLeftAlone) {
+  ASSERT_TRUE(WriteFileAtomically(directory_ + "/precious", "precious", 0600));
+  std::filesystem::create_symlink("precious", path_ + ".tmp");
+  EXPECT_FALSE(WriteFileAtomically(path_, "new", 0600));
+  std::string bytes;
+  ASSERT_TRUE(ReadWholeFile(directory_ + "/precious", bytes));
+  EXPECT_EQ(bytes, "precious");
+  std::filesystem::remove(path_ + ".tmp");
+  ASSERT_EQ(mkfifo((path_ + ".tmp").c_str(), 0600), 0);
+  EXPECT_FALSE(WriteFileAtomically(path_, "new", 0600)) << "and does not wait for a reader";
+}
+
+TEST_F(AtomicWriteTest, WritersOfOneFileTakeTurns) {
+  std::vector<std::thread> writers;
+  std::atomic<int> failures{0};
+  for (char letter : {'a', 'b', 'c'}) {
+    writers.emplace_back([&, letter] {
+      for (int i = 0; i < 20; ++i)
+        if (!WriteFileAtomically(path_, std::string(50000, letter), 0600)) ++failures;
+    });
+  }
+  for (std::thread& writer : writers) writer.join();
+  EXPECT_EQ(failures, 0);
+  const std::string bytes = Bytes();
+  EXPECT_EQ(bytes, std::string(50000, bytes.front()));
+  EXPECT_THAT(Names(), UnorderedElementsAre("file"));
+}
+
+}  // namespace
