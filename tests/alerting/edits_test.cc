@@ -13,6 +13,7 @@
 #include "alerting/ui/select_row.h"
 #include "desktops/scripted/scripted_person.h"
 #include "platform/ui/form.h"
+#include "tests/support/marked_text.h"
 
 namespace alerting {
 namespace {
@@ -26,28 +27,8 @@ class FieldTest : public testing::Test {
   static void SetUpTestSuite() { BuildKeywordTable(TheModule()); }
   void SetUp() override { form.Create(); }
 
-  /// Puts a text into the field with the caret at "|", or with the selection in "[" and "]".
-  void Put(std::string marked) {
-    const std::size_t start = marked.find_first_of("|[");
-    if (start != std::string::npos) marked.erase(start, 1);
-    std::size_t end = marked.find(']');
-    if (end != std::string::npos)
-      marked.erase(end, 1);
-    else
-      end = start;
-    field.SetText(marked);
-    field.SetFocus();
-    if (start != std::string::npos) field.SetSelection(start, end);
-  }
-
-  /// What Put would have been told.
-  std::string Marked() const {
-    std::string text = field.Text();
-    const auto [start, end] = field.Selection();
-    if (start == end) return text.insert(start, "|");
-    return text.insert(end, "]").insert(start, "[");
-  }
-
+  void Put(const std::string& marked) { test_support::Put(field, marked); }
+  std::string Marked() const { return test_support::Marked(field.Text(), field.Selection()); }
   int TakeBeeps() { return std::exchange(desktop.script.beeps, 0); }
 
   desktops::ScriptedDesktop desktop;
@@ -86,14 +67,10 @@ TEST_F(FilteredEditTest, EachSetLetsItsOwnCharactersThroughAndBeepsAtTheRest) {
   }
 }
 
-TEST_F(FilteredEditTest, ANewFieldTakesNumericMessages) {
-  person.Type(kField, "*9-1 1#");
-  EXPECT_EQ(field.Text(), "*911#");
-  EXPECT_EQ(TakeBeeps(), 2);
-}
-
 TEST_F(FilteredEditTest, EditingKeysPass) {
-  Put("123|");
+  Put("12|");
+  person.TypeHere(" 3-");
+  EXPECT_EQ(TakeBeeps(), 2) << "a new field takes numeric messages";
   person.TypeHere("\b");
   EXPECT_EQ(Marked(), "12|");
   field.OnChar(ui::kCharUndo);
@@ -106,15 +83,12 @@ TEST_F(FilteredEditTest, PastedTextLosesWhatTheSetRefuses) {
   Put("9[00]9");
   person.Paste(kField, "12 34-56\t\r\n7x\xC3\xA9");
   EXPECT_EQ(Marked(), "91234-567|9");
-  EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(FilteredEditTest, ABackspaceIsTheOneControlCharacterThatIsPasted) {
   Put("|");
   field.OnPaste(
       "1\b2\x1B"
       "3\x7F");
-  EXPECT_EQ(field.Text(), "1\b23");
+  EXPECT_EQ(field.Text(), "1\b23") << "a backspace is the one control character that is pasted";
+  EXPECT_EQ(TakeBeeps(), 0);
 }
 
 TEST_F(FilteredEditTest, PastingWithoutTextBeepsAndKeepsTheSelection) {
@@ -178,43 +152,61 @@ TEST_F(KeywordEditTest, WhatTouchesAKeywordIsRecognised) {
   }
 }
 
-TEST_F(KeywordEditTest, BackspaceSelectsAKeywordFirstAndThenDeletesIt) {
-  Put("at <Time>|.");
-  person.TypeHere("\b");
-  EXPECT_EQ(Marked(), "at [<Time>].");
-  EXPECT_EQ(TakeBeeps(), 1);
-  person.TypeHere("\b");
-  EXPECT_EQ(Marked(), "at |.");
-  EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(KeywordEditTest, DeleteSelectsAKeywordFirstAndThenDeletesIt) {
-  Put("at |<Time>.");
-  person.Press(ui::Key::kDelete);
-  EXPECT_EQ(Marked(), "at [<Time>].");
-  EXPECT_EQ(TakeBeeps(), 1);
-  person.Press(ui::Key::kDelete);
-  EXPECT_EQ(Marked(), "at |.");
-  person.Press(ui::Key::kDelete);
-  EXPECT_EQ(Marked(), "at |");
-  EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(KeywordEditTest, NothingIsTypedPastedOrCutInAKeyword) {
-  const std::function<void()> edits[] = {
-      [&] { person.TypeHere("x"); },          [&] { field.OnChar(ui::kCharCut); },
-      [&] { field.OnChar(ui::kCharPaste); },  [&] { field.OnPaste("dropped"); },
-      [&] { field.OnChar(ui::kCharEnter); },  [&] { person.TypeHere("\b"); },
-      [&] { person.Press(ui::Key::kDelete); }};
+TEST_F(KeywordEditTest, AKeywordIsEnteredLeftAndDeletedAsOne) {
+  using Action = std::function<void()>;
+  const auto press = [&](ui::Key key) { return Action([this, key] { person.Press(key); }); };
+  const auto char_of = [&](char32_t c) { return Action([this, c] { field.OnChar(c); }); };
+  const auto type = [&](const char* text) { return Action([this, text] { person.TypeHere(text); }); };
+  const Action backspace = type("\b"), del = press(ui::Key::kDelete);
+  const char *const inside = "for <Us[er Na]me> at", *const whole = "for [<User Name>] at";
+  const struct {
+    std::string before;
+    Action act;
+    std::string after;
+    int beeps = 0;
+    bool at_start = false;  ///< of what is selected stands the caret
+  } rows[] = {
+      {"at <Time>|.", backspace, "at [<Time>].", 1},
+      {"at [<Time>].", backspace, "at |."},
+      {"at |<Time>.", del, "at [<Time>].", 1},
+      {"at [<Time>].", del, "at |."},
+      {"at |.", del, "at |"},
+      {inside, type("x"), whole, 1},
+      {inside, char_of(ui::kCharCut), whole, 1},
+      {inside, char_of(ui::kCharPaste), whole, 1},
+      {inside, [&] { field.OnPaste("dropped"); }, whole, 1},
+      {inside, char_of(ui::kCharEnter), whole, 1},
+      {inside, backspace, whole, 1},
+      {inside, del, whole, 1},
+      {"<T|me>", type("i"), "<Ti|me>"},
+      {"a|<Time>b", press(ui::Key::kRight), "a[<Time>]b"},
+      {"a[<Time>]b", press(ui::Key::kRight), "a<Time>|b"},
+      {"a<Time>|b", press(ui::Key::kLeft), "a[<Time>]b", 0, true},
+      {"<User Name>\r\nabc|\r\n<Date>", press(ui::Key::kUp), "[<User Name>]\r\nabc\r\n<Date>", 0, true},
+      {"<User Name>\r\nabc|\r\n<Date>", press(ui::Key::kDown), "<User Name>\r\nabc\r\n[<Date>]"},
+      {"<Ti|me>", [&] { field.OnKeyUp(ui::Key::kF1); }, "<Ti|me>"},
+      {"<Ti|me>", [&] { field.OnKeyUp(ui::Key::kHome); }, "[<Time>]"},
+  };
   field.SetMultiLine(true);
-  desktop.clipboard = "pasted";
-  for (const auto& edit : edits) {
-    Put("for <Us[er Na]me> at");
-    edit();
-    EXPECT_EQ(Marked(), "for [<User Name>] at");
-    EXPECT_EQ(TakeBeeps(), 1);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.before);
+    desktop.clipboard = "untouched";
+    Put(row.before);
+    row.act();
+    EXPECT_EQ(Marked(), row.after);
+    EXPECT_EQ(TakeBeeps(), row.beeps);
+    EXPECT_EQ(desktop.clipboard, "untouched");
+    const bool selected = row.after.find('[') != std::string::npos;
+    EXPECT_EQ(selected && row.beeps == 0 && field.CaretAtStart(), row.at_start);
   }
-  EXPECT_EQ(desktop.clipboard, "pasted");
+  Put("<T|me>");
+  person.TypeHere("i");
+  field.OnChar(ui::kCharUndo);
+  EXPECT_EQ(Marked(), "<T|me>") << "a keyword completed by typing is undone at once";
+  Put("a[<Time>]b");
+  field.SetSelection(1, 7, true);
+  person.Press(ui::Key::kLeft);
+  EXPECT_EQ(Marked(), "a|<Time>b");
 }
 
 TEST_F(KeywordEditTest, AWholeKeywordIsCopiedReplacedAndBroughtBack) {
@@ -226,60 +218,6 @@ TEST_F(KeywordEditTest, AWholeKeywordIsCopiedReplacedAndBroughtBack) {
   field.OnChar(ui::kCharUndo);
   EXPECT_EQ(Marked(), "at [<Time>].");
   EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(KeywordEditTest, AKeywordCompletedByTypingCanBeUndoneAtOnce) {
-  Put("<T|me>");
-  person.TypeHere("i");
-  EXPECT_EQ(field.Text(), "<Time>");
-  field.OnChar(ui::kCharUndo);
-  EXPECT_EQ(Marked(), "<T|me>");
-  EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(KeywordEditTest, TheMouseSelectsKeywordsWhole) {
-  Put("Alert for <User Name> at <Time>|");
-  person.ClickInText(kField, 12);
-  EXPECT_EQ(Marked(), "Alert for [<User Name>] at <Time>");
-  person.SelectText(kField, 3, 27);
-  EXPECT_EQ(Marked(), "Ale[rt for <User Name> at <Time>]");
-  person.ClickInText(kField, 3);
-  EXPECT_EQ(Marked(), "Ale|rt for <User Name> at <Time>");
-}
-
-TEST_F(KeywordEditTest, ArrowsPassAKeywordInTwoSteps) {
-  Put("a|<Time>b");
-  person.Press(ui::Key::kRight);
-  EXPECT_EQ(Marked(), "a[<Time>]b");
-  EXPECT_FALSE(field.CaretAtStart());
-  person.Press(ui::Key::kRight);
-  EXPECT_EQ(Marked(), "a<Time>|b");
-  person.Press(ui::Key::kLeft);
-  EXPECT_EQ(Marked(), "a[<Time>]b");
-  EXPECT_TRUE(field.CaretAtStart());
-  person.Press(ui::Key::kLeft);
-  EXPECT_EQ(Marked(), "a|<Time>b");
-  EXPECT_EQ(TakeBeeps(), 0);
-}
-
-TEST_F(KeywordEditTest, LinesAboveAndBelowAreEnteredAtWholeKeywords) {
-  field.SetMultiLine(true);
-  Put("<User Name>\r\nabc|\r\n<Date>");
-  person.Press(ui::Key::kUp);
-  EXPECT_EQ(Marked(), "[<User Name>]\r\nabc\r\n<Date>");
-  EXPECT_TRUE(field.CaretAtStart());
-  Put("<User Name>\r\nabc|\r\n<Date>");
-  person.Press(ui::Key::kDown);
-  EXPECT_EQ(Marked(), "<User Name>\r\nabc\r\n[<Date>]");
-  EXPECT_FALSE(field.CaretAtStart());
-}
-
-TEST_F(KeywordEditTest, OtherKeysLeaveTheCaretAlone) {
-  Put("<Ti|me>");
-  field.OnKeyUp(ui::Key::kF1);
-  EXPECT_EQ(Marked(), "<Ti|me>");
-  field.OnKeyUp(ui::Key::kHome);
-  EXPECT_EQ(Marked(), "[<Time>]");
 }
 
 TEST_F(KeywordEditTest, TheSelectionAndItsDirectionComeBackWithTheFocus) {

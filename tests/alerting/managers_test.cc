@@ -24,13 +24,7 @@ class ManagersTest : public ServiceTest {
  protected:
   ~ManagersTest() override { BackupManagerGuid() = kNullGuid; }
 
-  static std::vector<ALRTSERV_INST_NTFY_SERVREC> Entries() {
-    std::vector<ALRTSERV_INST_NTFY_SERVREC> entries;
-    ALRTSERV_INST_NTFY_SERVREC entry{};
-    Status status = EnabledServiceStore().DBAlertRecFindFirst(kEnabledServiceByService, 0, nullptr, entry);
-    for (; status == kOk; status = EnabledServiceStore().DBAlertRecFindNext(entry)) entries.push_back(entry);
-    return entries;
-  }
+  static auto Entries() { return RecordsOf(EnabledServiceStore(), kEnabledServiceByService); }
   static GUID AddManager(std::string_view name) {
     EnsureStoresOpen();
     ALRT_SRV_CFGREC manager{};

@@ -28,15 +28,6 @@ const Block kBlocks[] = {
     {10, 2417, 2482, 3518, 3783, 3787, 3791, 3795, 3799, 4055, 4091, 4095},
 };
 
-void PutText(std::string& bytes, std::size_t offset, std::size_t width, const std::string& text) {
-  bytes.replace(offset, width, width, '\0');
-  bytes.replace(offset, text.size(), text);
-}
-
-void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
-  for (std::size_t i = 0; i < 4; ++i) bytes[offset + i] = static_cast<char>(value >> (8 * i));
-}
-
 std::string WithModem(const Block& block, const GUID& modem, std::string bytes) {
   PutText(bytes, block.name, 65, "Modem A");
   std::memcpy(bytes.data() + block.id, &modem, sizeof(modem));

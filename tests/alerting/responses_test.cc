@@ -10,6 +10,7 @@ namespace {
 
 using namespace alerting;      // NOLINT
 using namespace test_support;  // NOLINT
+using ::testing::Each;
 using ::testing::ElementsAre;
 
 constexpr char kFileWarning[] =
@@ -30,12 +31,6 @@ class ResponsesTest : public ServiceTest {
     response.serviceRecordType = record_type;
     response.priority = 9;
     return response;
-  }
-  static std::vector<int> Ids(const std::uint8_t (&bytes)[20]) { return {bytes, bytes + 20}; }
-  static std::vector<int> Only(std::initializer_list<int> first) {
-    std::vector<int> ids(first);
-    ids.resize(20);
-    return ids;
   }
 };
 
@@ -80,14 +75,14 @@ TEST_F(ResponsesTest, AnEmptyDefaultMessageClearsAndWideIdentifiersKeepTheirLowB
   EXPECT_TRUE(response.message.Empty());
   EXPECT_TRUE(response.subject.Empty());
   EXPECT_EQ(response.priority, 0);
-  EXPECT_EQ(Ids(response.messageKeywords), Only({}));
+  EXPECT_THAT(response.messageKeywords, Each(0));
 
   DefaultMessage wide;
   wide.body = "%s";
   wide.bodyKeywords = {0x10C};
   ASSERT_TRUE(service.SetDefaultMessage(wide));
   ASSERT_TRUE(service.InitWithDefaultMessage(response));
-  EXPECT_EQ(Ids(response.messageKeywords), Only({0x0C}));
+  EXPECT_EQ(response.messageKeywords[0], 0x0C);
 }
 
 TEST_F(ResponsesTest, RetargetingTakesOverTheServiceOnce) {
@@ -100,8 +95,8 @@ TEST_F(ResponsesTest, RetargetingTakesOverTheServiceOnce) {
   EXPECT_EQ(response.serviceName.View(), "Service");
   EXPECT_TRUE(response.message.Empty());
   EXPECT_TRUE(response.subject.Empty());
-  EXPECT_EQ(Ids(response.messageKeywords), Only({}));
-  EXPECT_EQ(Ids(response.subjectKeywords), Only({}));
+  EXPECT_THAT(response.messageKeywords, Each(0));
+  EXPECT_THAT(response.subjectKeywords, Each(0));
   EXPECT_EQ(response.priority, 9) << "left as it was";
 
   response.message.Assign("typed since");

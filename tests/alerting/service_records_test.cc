@@ -46,14 +46,7 @@ const Layout kLayouts[] = {
 // clang-format on
 
 void PutText(std::string& bytes, Place place, const std::string& text) {
-  if (place.width == 0) return;
-  bytes.replace(place.offset, place.width, place.width, '\0');
-  bytes.replace(place.offset, text.size(), text);
-}
-
-void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
-  if (offset == 0) return;
-  for (std::size_t i = 0; i < 4; ++i) bytes[offset + i] = static_cast<char>(value >> (8 * i));
+  test_support::PutText(bytes, place.offset, place.width, text);
 }
 
 void PutKeywords(std::string& bytes, std::size_t offset,

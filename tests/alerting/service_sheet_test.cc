@@ -4,7 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "alerting/frame/strings.h"
+#include "alerting/services/default_message.h"
+#include "alerting/sheets/page_default_message.h"
 #include "desktops/scripted/scripted_desktop.h"
 #include "platform/ui/edit.h"
 #include "tests/support/service_fixture.h"
@@ -20,7 +21,7 @@ constexpr char kFirst[] = "First";
 constexpr char kSecond[] = "Second";
 constexpr ctxhelp::HelpPair kNoHelp[] = {ctxhelp::kEndOfHelpTable};
 
-/// A page with one field that refuses what it is told to refuse.
+/// A page with one field that refuses "bad".
 class FieldPage : public CServicePage {
  public:
   FieldPage(std::string caption, std::vector<std::string>& saved)
@@ -28,12 +29,10 @@ class FieldPage : public CServicePage {
     SetLayout(ui::Field(edit_));
   }
 
-  std::string refused = "bad";
-
  private:
   void Exchange(ui::DataExchange& x) override { x.Text(edit_, text_); }
   bool SaveFields() override {
-    if (text_ == refused) return false;
+    if (text_ == "bad") return false;
     saved_.push_back(Label() + " " + text_);
     return true;
   }
@@ -53,11 +52,14 @@ class TwoPageSheet : public CServiceSheet {
   FieldPage first{kFirst, saved}, second{kSecond, saved};
 };
 
-class ServiceSheetTest : public testing::Test {
+class SheetTest : public testing::Test {
  protected:
-  int Run(desktops::Script::Story story) {
+  static CNtfyService& Make(std::uint32_t code) {
+    return *test_support::Find(test_support::SeedService(code, "Mail"));
+  }
+  void Run(CServiceSheet& sheet, desktops::Script::Story story) {
     desktop.script.ExpectWindow("Sheet", std::move(story));
-    return sheet.RunModal();
+    sheet.RunModal();
   }
   void TearDown() override {
     EXPECT_THAT(desktop.script.Failures(), IsEmpty());
@@ -66,12 +68,15 @@ class ServiceSheetTest : public testing::Test {
 
   desktops::ScriptedDesktop desktop;
   test_support::LibraryUnderTest library;
-  CNtfyService& service = *test_support::Find(test_support::SeedService(kTypeSmtp, "Mail"));
-  TwoPageSheet sheet{service};
+};
+
+class ServiceSheetTest : public SheetTest {
+ protected:
+  TwoPageSheet sheet{Make(kTypeSmtp)};
 };
 
 TEST_F(ServiceSheetTest, APageThatRefusesItsValuesStopsTheSaveBeforeTheStore) {
-  Run([this](Person& p) {
+  Run(sheet, [this](Person& p) {
     library.engine->Forget();
     p.Type("&Field:", "bad");
     p.SelectTab(kSecond);
@@ -89,7 +94,7 @@ TEST_F(ServiceSheetTest, APageThatRefusesItsValuesStopsTheSaveBeforeTheStore) {
 }
 
 TEST_F(ServiceSheetTest, PagesAreSavedInTabOrderOnceForEachEdit) {
-  Run([this](Person& p) {
+  Run(sheet, [this](Person& p) {
     p.SelectTab(kSecond);
     p.Type("&Field:", "b");
     p.SelectTab(kFirst);
@@ -102,25 +107,53 @@ TEST_F(ServiceSheetTest, PagesAreSavedInTabOrderOnceForEachEdit) {
   EXPECT_THAT(sheet.saved, ElementsAre("First a", "Second b", "First c"));
 }
 
-TEST_F(ServiceSheetTest, APageThatWasNeverShownIsNotSaved) {
-  sheet.second.refused = "";
-  Run([](Person& p) { p.Press("OK"); });
-  EXPECT_EQ(sheet.Result(), ui::kOk);
-  EXPECT_FALSE(sheet.second.Created());
+constexpr char kSubject[] = "Mail Message &Subject:";
+constexpr char kBody[] = "Mail &Message Body:";
+constexpr char kNote[] =
+    "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
+    "truncated.";
+
+class MessageSheet : public CServiceSheet {
+ public:
+  explicit MessageSheet(CNtfyService& service) : CServiceSheet("Sheet", nullptr) {
+    Assemble(service, {&page_});
+  }
+
+ private:
+  CPropPgDefaultMsg page_;
+};
+
+/// What sets a type's default message page apart from the others'.
+class DefaultMessagePageTest : public SheetTest {
+ protected:
+  /// Runs the page on a new service of the type; the service's default message after it.
+  DefaultMessage MessageAfter(std::uint32_t code, desktops::Script::Story story) {
+    CNtfyService& service = Make(code);
+    MessageSheet sheet(service);
+    Run(sheet, std::move(story));
+    DefaultMessage message;
+    service.GetDefaultMessage(message);
+    return message;
+  }
+};
+
+TEST_F(DefaultMessagePageTest, CompuServeSubjectsAreShortAndANoteSaysSo) {
+  const DefaultMessage message = MessageAfter(kTypeCompuServe, [](Person& p) {
+    EXPECT_TRUE(p.IsVisible(kNote));
+    p.Type(kSubject, std::string(41, 's'));
+    EXPECT_EQ(p.Text(kSubject), std::string(40, 's'));
+    p.Press("OK");
+  });
+  EXPECT_EQ(message.subject, std::string(40, 's'));
 }
 
-TEST_F(ServiceSheetTest, ATestWaitsForChangesThatArePutRight) {
-  Run([this](Person& p) {
-    EXPECT_TRUE(sheet.ConfirmApplyBeforeTest());
-    p.Type("&Field:", "bad");
-    desktop.script.ExpectMessage(Text(kIdsApplyBeforeTest), ui::Answer::kYes);
-    EXPECT_FALSE(sheet.ConfirmApplyBeforeTest());
-    p.Type("&Field:", "good");
-    desktop.script.ExpectMessage(Text(kIdsApplyBeforeTest), ui::Answer::kYes);
-    EXPECT_TRUE(sheet.ConfirmApplyBeforeTest());
-    EXPECT_THAT(sheet.saved, ElementsAre("First good"));
-    p.Press("Cancel");
+TEST_F(DefaultMessagePageTest, MciBodiesAreBrokenIntoLines) {
+  const DefaultMessage message = MessageAfter(kTypeMci, [](Person& p) {
+    EXPECT_FALSE(p.IsVisible(kNote));
+    p.Type(kBody, std::string(100, 'b'));
+    p.Press("OK");
   });
+  EXPECT_EQ(message.body, std::string(79, 'b') + "\r\n" + std::string(21, 'b'));
 }
 
 }  // namespace

@@ -5,9 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
 #include "tests/support/service_fixture.h"
 
 namespace {
@@ -91,17 +88,6 @@ TEST_F(StoreSetTest, OnlyTheFirstEntryAfterLoadOpens) {
   EXPECT_THAT(desktop.TakeMessages(),
               ElementsAre("Unable to read records from the notification service database."));
   EXPECT_EQ(TheApp().OpenStores(), 0U);
-}
-
-TEST_F(StoreSetTest, ADataDirectoryThatCannotBeWrittenIsAStatusAndNoCrash) {
-  const std::string file = library.Directory() + "/a-file";
-  std::ofstream(file) << "not a directory";
-  setenv("ALERTING_DATA", (file + "/data").c_str(), 1);
-  EXPECT_EQ(TheApp().OpenStores(), 131274U);
-  EXPECT_FALSE(TheServices().Read());
-  EXPECT_FALSE(TheServices().AddFromStore(GUID::Generate()));
-  EXPECT_EQ(TheServices().GetAt(0), nullptr);
-  EXPECT_EQ(desktop.TakeMessages().size(), 2U);
 }
 
 }  // namespace

@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <cstdlib>
-#include <filesystem>
 #include <set>
 
 #include "alerting/alerting.h"
@@ -13,6 +11,7 @@
 #include "companions/alertstore/stores.h"
 #include "platform/base/module.h"
 #include "platform/ui/desktop.h"
+#include "tests/support/temporary.h"
 
 namespace {
 
@@ -55,9 +54,7 @@ struct Api {
 class ExportsTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    directory_ = (std::filesystem::temp_directory_path() / "alerting-exports-XXXXXX").string();
-    ASSERT_NE(mkdtemp(directory_.data()), nullptr);
-    setenv("ALERTING_DATA", directory_.c_str(), 1);
+    setenv("ALERTING_DATA", directory_.Path().c_str(), 1);
     library_ = std::make_unique<platform::DynamicLibrary>();
     ASSERT_TRUE(library_->Load(ALERTING_LIBRARY)) << library_->Error();
     api_ = std::make_unique<Api>(*library_);
@@ -65,7 +62,6 @@ class ExportsTest : public ::testing::Test {
   void TearDown() override {
     api_->CloseDBs();
     library_.reset();
-    std::filesystem::remove_all(directory_);
   }
 
   template <class Record>
@@ -126,7 +122,7 @@ class ExportsTest : public ::testing::Test {
   }
 
   QuietDesktop desktop_;
-  std::string directory_;
+  const test_support::TemporaryDirectory directory_;
   std::unique_ptr<platform::DynamicLibrary> library_;
   std::unique_ptr<Api> api_;
   const GUID manager_ = GUID::Generate();
@@ -188,7 +184,7 @@ TEST_F(ExportsTest, IndicesOutOfRangeAndUnknownIdentitiesAreFailures) {
 
 TEST_F(ExportsTest, ServicesAreCopiedEnabledAndDeleted) {
   const GUID mail = Add<ALRTSMTPSERVICEREC>(4, "Mail");
-  const GUID pager = Add<ALRTNPAGESERVICEREC>(11, "Pager");
+  Add<ALRTNPAGESERVICEREC>(11, "Pager");
   const GUID port = Add<ALRTGENPORTSERVICEREC>(12, "Port");
   ASSERT_EQ(api_->DomainServiceGetCount(), 3);
   EXPECT_EQ(api_->DomainServiceType(mail), 1U);
@@ -219,7 +215,13 @@ TEST_F(ExportsTest, ServicesAreCopiedEnabledAndDeleted) {
   EXPECT_EQ(api_->DomainServiceIsFirstOfType(1), 1U);
   EXPECT_EQ(api_->DomainServiceIsFirstOfType(3), 0U);
   EXPECT_EQ(desktop_.messages, 0);
-  EXPECT_NE(pager, port);
+}
+
+TEST_F(ExportsTest, ADataDirectoryThatCannotBeWrittenFailsTheOpenAndCrashesNothing) {
+  setenv("ALERTING_DATA", "/dev/null/data", 1);
+  EXPECT_EQ(api_->OpenDBs(), 131274U);
+  EXPECT_EQ(api_->DomainServiceGetCount(), 0);
+  for (const int index : {-1, 0}) ExpectFailures(index, kUnreadList);
 }
 
 TEST_F(ExportsTest, ClosedStoresFailWithoutCrashing) {

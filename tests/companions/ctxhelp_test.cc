@@ -14,6 +14,7 @@
 #include "desktops/scripted/scripted_desktop.h"
 #include "platform/base/paths.h"
 #include "platform/ui/dialog.h"
+#include "tests/support/temporary.h"
 
 namespace ui = platform::ui;
 using ctxhelp::HelpPair;
@@ -57,18 +58,14 @@ TEST_F(ContextHelpTest, WhatHasNoTextSaysSo) {
   EXPECT_EQ(HelpOn(&broken_), kNoHelp);
   EXPECT_EQ(HelpOn(&body_, &ctxhelp::kEndOfHelpTable), kNoHelp);
 
-  const char* before = std::getenv("ALERTING_RESOURCES");
-  const std::string restored = before ? before : "";
-  const std::string empty = testing::TempDir() + "no-topics";
+  const test_support::SavedVariable resources("ALERTING_RESOURCES");
+  const test_support::TemporaryDirectory directory;
+  const std::string& empty = directory.Path();
   std::filesystem::create_directories(empty + "/help");
   setenv("ALERTING_RESOURCES", empty.c_str(), 1);
   EXPECT_EQ(HelpOn(&body_), kNoHelp) << "without the file";
   std::ofstream(empty + "/help/topics.json") << "{\"1103\": ";
   EXPECT_EQ(HelpOn(&body_), kNoHelp) << "with a damaged file";
-  if (before)
-    setenv("ALERTING_RESOURCES", restored.c_str(), 1);
-  else
-    unsetenv("ALERTING_RESOURCES");
 }
 
 TEST(HelpTopicsTest, EveryTopicHasATextAndEveryTextATopic) {

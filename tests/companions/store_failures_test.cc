@@ -60,14 +60,12 @@ TEST_F(StoreTest, WhatStandsInThePlaceOfTheDatabaseIsAStatus) {
 
 TEST_F(StoreTest, AnUnusableLockFileIsAStatus) {
   std::filesystem::create_directory(directory_ + "/alerting.lock");
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   EXPECT_EQ(services.File().DBFileLock(), kIoError);
 }
 
 TEST_F(StoreTest, ARecordOfForeignSizeIsAStatusAndTheScanGoesOn) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   for (const char* name : {"a", "b", "c"}) AddNamed(services, name);
   Tamper(directory_, "UPDATE \"NtfyServDB.dat\" SET record=substr(record,1,100) WHERE id=2");
 
@@ -88,8 +86,7 @@ TEST_F(StoreTest, AFileNameThatCannotBeATableIsRefused) {
 
 // The second of the two records cannot be written, so the first must not be there either.
 TEST_F(StoreTest, ATwoRecordAddThatFailsHalfWayLeavesNothing) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   Tamper(directory_,
          "CREATE TRIGGER refuse BEFORE INSERT ON \"TtsNtfyServDB.dat\" BEGIN SELECT RAISE(ABORT,'no'); END");
   ALRTNTFYSERV common{};
@@ -126,8 +123,7 @@ class FileSizeLimit {
 
 // The failure shows only when the transaction is committed, and must show in the write's own status.
 TEST_F(StoreTest, AWriteThatTheDiskRefusesIsAStatusAndLeavesNothing) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   AddNamed(services, "a");
   const auto journal_size = std::filesystem::file_size(directory_ + "/alerting.db-wal");
   ALRTNTFYSERV record{};
@@ -149,58 +145,9 @@ class FailingEngineTest : public StoreTest {
   const std::shared_ptr<FailingEngine> engine_ = std::make_shared<FailingEngine>(CurrentEngine());
 };
 
-std::vector<std::string> TextsOf(const std::vector<test_support::StoreCall>& calls) {
-  std::vector<std::string> texts;
-  for (const auto& call : calls) texts.push_back(call.Text());
-  return texts;
-}
-
-TEST_F(FailingEngineTest, FailsTheNthMatchingCallAlone) {
-  CAlertRespDB responses;
-  ASSERT_EQ(responses.DBOpen(), kOk);
-  engine_->FailNth("RespDB.dat", StoreOp::kAdd, 2, kDiskFull);
-  ALERTRESPREC record{};
-  GUID id{};
-  EXPECT_EQ(responses.DBAlertRecAdd(record, id), kOk);
-  EXPECT_EQ(engine_->Failures(), 0);
-  EXPECT_EQ(responses.DBAlertRecAdd(record, id), kDiskFull);
-  EXPECT_EQ(responses.DBAlertRecAdd(record, id), kOk);
-  EXPECT_EQ(engine_->Failures(), 1);
-  EXPECT_THAT(TextsOf(engine_->Calls()),
-              ElementsAre("Open RespDB.dat", "Add RespDB.dat", "Add RespDB.dat failed", "Add RespDB.dat"));
-  EXPECT_EQ(engine_->Writes().size(), 2u);
-  EXPECT_EQ(engine_->Writes().back().As<ALERTRESPREC>().responseId, id);
-}
-
-// The way in which every sequence of the library is driven: each of its calls fails once.
-TEST_F(FailingEngineTest, ASweepReachesEveryCallOfASequence) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  const GUID id = AddNamed(services, "Mail");
-  engine_->Forget();
-  const auto save = [&] {
-    ALRTNTFYSERV record{};
-    record.serviceId = id;
-    if (services.File().DBFileLock() != kOk) return false;
-    services.DBAlertRecRetrieve(id, record);
-    const bool updated = services.DBAlertRecUpdate(record) == kOk;
-    services.File().DBFileUnlock();
-    return updated;
-  };
-  std::vector<bool> answers;
-  for (int n = 1;; ++n) {
-    engine_->FailNth(kAnyStore, StoreOp::kAny, n);
-    answers.push_back(save());
-    EXPECT_THAT(engine_->HeldLocks(), IsEmpty());
-    if (engine_->Failures() == 0) break;
-  }
-  EXPECT_THAT(answers, ElementsAre(false, true, false, true, true));  // lock, retrieve, update, unlock, none
-}
-
 TEST_F(FailingEngineTest, TellsWhichLocksAreHeld) {
   {
-    CAlertRespDB responses;
-    ASSERT_EQ(responses.DBOpen(), kOk);
+    Opened<CAlertRespDB> responses;
     ASSERT_EQ(responses.File().DBFileLock(), kOk);
     EXPECT_THAT(engine_->HeldLocks(), ElementsAre("RespDB.dat"));
   }

@@ -10,25 +10,33 @@
 
 #include "companions/alertstore/engine.h"
 #include "companions/alertstore/stores.h"
+#include "tests/support/temporary.h"
 
 /// A data directory of the test's own, with the embedded engine.
 class StoreTest : public testing::Test {
  protected:
   StoreTest() {
-    std::string name = testing::TempDir() + "store-XXXXXX";
-    directory_ = mkdtemp(name.data());
     UseDirectory(directory_);
     alertstore::SetEngine(nullptr);
   }
-  ~StoreTest() override {
-    alertstore::SetEngine(nullptr);
-    std::error_code ignored;
-    std::filesystem::remove_all(directory_, ignored);
-  }
+  ~StoreTest() override { alertstore::SetEngine(nullptr); }
 
   static void UseDirectory(const std::string& directory) { setenv("ALERTING_DATA", directory.c_str(), 1); }
 
-  std::string directory_;
+ private:
+  const test_support::TemporaryDirectory temporary_;
+
+ protected:
+  const std::string& directory_ = temporary_.Path();
+};
+
+/// A store that is open; a failure fails the test.
+template <class Store>
+struct Opened : Store {
+  template <class... Arguments>
+  explicit Opened(Arguments... arguments) : Store(arguments...) {
+    EXPECT_EQ(this->DBOpen(), alertstore::kOk);
+  }
 };
 
 /// The names of the records that a scan gives, as "a b c".

@@ -62,14 +62,19 @@ class StoreProcessesTest : public StoreTest {
 
   // One service, added by a process that has ended, so that none has the database open.
   GUID AddServiceAndClose() {
-    CAlertNtfyServDB services;
-    EXPECT_EQ(services.DBOpen(), kOk);
+    Opened<CAlertNtfyServDB> services;
     return AddNamed(services, "shared");
   }
 
  private:
   const std::chrono::milliseconds limit_before_;
 };
+
+// Tells when it has the lock, and keeps it until it is told.
+bool HoldLock(const Signal& locked, const Signal& done) {
+  CAlertNtfyServDB services;
+  return services.DBOpen() == kOk && services.File().DBFileLock() == kOk && locked.Send() && done.Wait();
+}
 
 bool CountUp(const GUID& id, int times) {
   CAlertNtfyServDB services;
@@ -93,8 +98,7 @@ TEST_F(StoreProcessesTest, TwoConsolesThatCountUnderTheLockLoseNothing) {
   EXPECT_TRUE(Succeeded(one));
   EXPECT_TRUE(Succeeded(two));
 
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ALRTNTFYSERV record{};
   record.serviceId = id;
   ASSERT_EQ(services.DBAlertRecRetrieve(id, record), kOk);
@@ -122,15 +126,10 @@ TEST_F(StoreProcessesTest, TwoConsolesThatAddWithoutALockBothSucceed) {
 TEST_F(StoreProcessesTest, ALockHeldElsewhereEndsTheWaitWithAStatus) {
   AddServiceAndClose();
   Signal locked, done;
-  const pid_t holder = StartConsole([&] {
-    CAlertNtfyServDB services;
-    return services.DBOpen() == kOk && services.File().DBFileLock() == kOk && locked.Send() && done.Wait();
-  });
+  const pid_t holder = StartConsole([&] { return HoldLock(locked, done); });
   ASSERT_TRUE(locked.Wait());
-  CAlertNtfyServDB services;
-  CAlertRespDB responses;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  ASSERT_EQ(responses.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
+  Opened<CAlertRespDB> responses;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   EXPECT_EQ(services.File().DBFileLock(), kLockTimeout);
   EXPECT_EQ(services.File().DBFileUnlock(), kNotLocked);
@@ -146,29 +145,23 @@ TEST_F(StoreProcessesTest, ALockHeldElsewhereEndsTheWaitWithAStatus) {
 TEST_F(StoreProcessesTest, AKilledHolderFreesItsLock) {
   AddServiceAndClose();
   Signal locked, never;
-  const pid_t holder = StartConsole([&] {
-    CAlertNtfyServDB services;
-    return services.DBOpen() == kOk && services.File().DBFileLock() == kOk && locked.Send() && never.Wait();
-  });
+  const pid_t holder = StartConsole([&] { return HoldLock(locked, never); });
   ASSERT_TRUE(locked.Wait());
   ASSERT_EQ(kill(holder, SIGKILL), 0);
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   EXPECT_EQ(services.File().DBFileLock(), kOk);
   waitpid(holder, nullptr, 0);
 }
 
 // A child inherits its parent's open files. Were the lock among them, it would outlive the parent's unlock.
 TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ASSERT_EQ(services.File().DBFileLock(), kOk);
   Signal done;
   const pid_t child = StartConsole([&] { return done.Wait(); });
   ASSERT_EQ(services.File().DBFileUnlock(), kOk);
 
-  CAlertNtfyServDB again;
-  ASSERT_EQ(again.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> again;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   EXPECT_EQ(again.File().DBFileLock(), kOk);
   EXPECT_TRUE(done.Send());
@@ -176,12 +169,10 @@ TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
 }
 
 TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
-  CAlertNtfyServDB one;
-  ASSERT_EQ(one.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> one;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   {
-    CAlertNtfyServDB two;
-    ASSERT_EQ(two.DBOpen(), kOk);
+    Opened<CAlertNtfyServDB> two;
     EXPECT_EQ(two.File().DBFileLock(), kOk);
     EXPECT_EQ(two.File().DBFileLock(), kAlreadyLocked);
     EXPECT_EQ(one.File().DBFileLock(), kLockTimeout);
@@ -193,8 +184,7 @@ TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
 
 // The services there are; each must have its specific record, and there must be no other specific record.
 int CountWholeServices() {
-  CAlertNtfyServDB services;
-  EXPECT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   auto* specifics = services.SpecificStore<ALRTSNMPSERVICEREC>();
   int commons = 0, others = 0;
   ALRTNTFYSERV common{};

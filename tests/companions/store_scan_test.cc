@@ -18,8 +18,7 @@ namespace {
 using StoreScanTest = StoreTest;
 
 TEST_F(StoreScanTest, AScanGivesTheRecordsInTheOrderOfAdding) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ALRTNTFYSERV record{};
   EXPECT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kNotFound);
 
@@ -35,8 +34,7 @@ TEST_F(StoreScanTest, AScanGivesTheRecordsInTheOrderOfAdding) {
 }
 
 TEST_F(StoreScanTest, FindNextAfterTheEndStaysAtTheEnd) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ALRTNTFYSERV record{};
   EXPECT_EQ(services.DBAlertRecFindNext(record), kEndOfScan) << "no scan was begun";
   AddNamed(services, "Only");
@@ -53,10 +51,8 @@ TEST_F(StoreScanTest, FindNextAfterTheEndStaysAtTheEnd) {
 }
 
 TEST_F(StoreScanTest, ARecordDeletedDuringAScanIsSkipped) {
-  CAlertNtfyServDB services;
-  CAlertNtfyServDB other;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  ASSERT_EQ(other.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
+  Opened<CAlertNtfyServDB> other;
   std::vector<GUID> ids;
   for (const char* name : {"a", "b", "c", "d", "e"}) ids.push_back(AddNamed(services, name));
 
@@ -73,8 +69,7 @@ TEST_F(StoreScanTest, ARecordDeletedDuringAScanIsSkipped) {
 }
 
 TEST_F(StoreScanTest, AScanMayChangeEveryRecordItMeets) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   for (int i = 0; i < 200; ++i) AddNamed(services, std::to_string(i));
   ALRTNTFYSERV record{};
   int met = 0;
@@ -88,9 +83,7 @@ TEST_F(StoreScanTest, AScanMayChangeEveryRecordItMeets) {
 }
 
 TEST_F(StoreScanTest, TwoScansOfOneFileDoNotDisturbEachOther) {
-  CAlertNtfyServDB outer, inner;
-  ASSERT_EQ(outer.DBOpen(), kOk);
-  ASSERT_EQ(inner.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> outer, inner;
   for (const char* name : {"a", "b", "c"}) AddNamed(outer, name);
   ALRTNTFYSERV record{};
   std::string seen;
@@ -101,8 +94,7 @@ TEST_F(StoreScanTest, TwoScansOfOneFileDoNotDisturbEachOther) {
 
 // A link is found by its user and by its user record; both keys may be shared by several links.
 TEST_F(StoreScanTest, AKeyedScanStaysWithinItsKey) {
-  CAlertUsrInstServDB links;
-  ASSERT_EQ(links.DBOpen(), kOk);
+  Opened<CAlertUsrInstServDB> links;
   const GUID ann = GUID::Generate(), bob = GUID::Generate();
   GUID id{};
   for (const auto& [user, name] : {std::pair{ann, "1"}, {bob, "2"}, {ann, "3"}, {bob, "4"}, {ann, "5"}}) {
@@ -131,8 +123,7 @@ struct NameSearch {
 };
 
 TEST_F(StoreScanTest, ANameFindsItselfAloneWhateverTheLengthOfItsKey) {
-  CAlertSERV_MODEMDB modems;
-  ASSERT_EQ(modems.DBOpen(), kOk);
+  Opened<CAlertSERV_MODEMDB> modems;
   for (const char* name : {"Modem (2)", "Modem", ""}) AddNamed(modems, name);
   const std::string longest(64, 'x');
   AddNamed(modems, longest);
@@ -163,8 +154,7 @@ TEST_F(StoreScanTest, ANameFindsItselfAloneWhateverTheLengthOfItsKey) {
 
 // A record from elsewhere may have bytes behind the terminator of its name, or no terminator at all.
 TEST_F(StoreScanTest, ANameIsComparedUpToItsTerminator) {
-  CAlertMODEM_LOCATIONDB locations;
-  ASSERT_EQ(locations.DBOpen(), kOk);
+  Opened<CAlertMODEM_LOCATIONDB> locations;
   ALRTMODEM_LOCATION office{};
   std::memcpy(office.name.Data(), "Office\0garbage", 14);
   ALRTMODEM_LOCATION full{};
@@ -186,12 +176,10 @@ TEST_F(StoreScanTest, ANameIsComparedUpToItsTerminator) {
 // A scan that stops half-way must not hold its read transaction: another console's journal could not be
 // emptied.
 TEST_F(StoreScanTest, AnAbandonedScanSoonSeesWhatAnotherConsoleWrote) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   for (const char* name : {"a", "b", "c"}) AddNamed(services, name);
   SetEngine(std::make_shared<SqliteEngine>(directory_));
-  CAlertNtfyServDB elsewhere;
-  ASSERT_EQ(elsewhere.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> elsewhere;
   ALRTNTFYSERV record{};
   ASSERT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kOk);
   ASSERT_EQ(services.DBAlertRecFindNext(record), kOk);  // stands in a running read now
@@ -212,12 +200,10 @@ TEST_F(StoreScanTest, AnAbandonedScanSoonSeesWhatAnotherConsoleWrote) {
 
 // A read transaction that began before another console's last write cannot become a write.
 TEST_F(StoreScanTest, AWriteDuringAScanSucceedsAfterAnotherConsolesWrite) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   for (const char* name : {"a", "b", "c"}) AddNamed(services, name);
   SetEngine(std::make_shared<SqliteEngine>(directory_));
-  CAlertNtfyServDB elsewhere;
-  ASSERT_EQ(elsewhere.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> elsewhere;
   ALRTNTFYSERV record{};
   ASSERT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kOk);
   ASSERT_EQ(services.DBAlertRecFindNext(record), kOk);

@@ -14,8 +14,7 @@ using platform::GUID;
 namespace {
 
 TEST_F(StoreTest, AddWritesTheFreshIdentityToBothPlaces) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ALRTNTFYSERV record{};
   record.name.Assign("Mail");
   GUID first{}, second{};
@@ -28,8 +27,7 @@ TEST_F(StoreTest, AddWritesTheFreshIdentityToBothPlaces) {
 }
 
 TEST_F(StoreTest, EveryByteOfARecordComesBack) {
-  CAlertRespDB responses;
-  ASSERT_EQ(responses.DBOpen(), kOk);
+  Opened<CAlertRespDB> responses;
   ALERTRESPREC record;
   auto* bytes = reinterpret_cast<std::uint8_t*>(&record);
   for (std::size_t i = 0; i < sizeof record; ++i) bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
@@ -44,8 +42,7 @@ TEST_F(StoreTest, EveryByteOfARecordComesBack) {
 }
 
 TEST_F(StoreTest, RetrieveGoesByTheIdentityInTheRecord) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   AddNamed(services, "First");
   const GUID second = AddNamed(services, "Second");
 
@@ -63,13 +60,13 @@ TEST_F(StoreTest, RetrieveGoesByTheIdentityInTheRecord) {
 }
 
 TEST_F(StoreTest, UpdateAndDeleteReportARecordThatIsNotThere) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   const GUID id = AddNamed(services, "Mail");
   ALRTNTFYSERV record{};
   record.serviceId = id;
   record.name.Assign("Post");
   EXPECT_EQ(services.DBAlertRecUpdate(record), kOk);
+  EXPECT_EQ(services.DBOpen(), kOk) << "opening an open store";
   EXPECT_EQ(NamesOf(services, kByIdentity), "Post");
 
   EXPECT_EQ(services.DBAlertRecDelete(id), kOk);
@@ -100,16 +97,14 @@ TEST_F(StoreTest, NamesOfModemsTypesAndLocationsAreUniqueEachInItsStore) {
   is_unique_in(types);
   is_unique_in(locations);
 
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   AddNamed(services, "Mail");
   AddNamed(services, "Mail");
   EXPECT_EQ(NamesOf(services, kByIdentity), "Mail Mail") << "services may share a name";
 }
 
 TEST_F(StoreTest, ARecordMayBringItsIdentity) {
-  CAlertRespDB responses;
-  ASSERT_EQ(responses.DBOpen(), kOk);
+  Opened<CAlertRespDB> responses;
   ALERTRESPREC record{};
   EXPECT_EQ(responses.AddWithIdentity(record), kInvalidArgument);
   record.responseId = GUID::Generate();
@@ -120,12 +115,9 @@ TEST_F(StoreTest, ARecordMayBringItsIdentity) {
 }
 
 TEST_F(StoreTest, ATwoRecordAddLinksBothUnderFreshIdentities) {
-  CAlertNtfyServDB services;
-  CAlertUsrInstServDB links;
-  CAlertUSR_MCIDB users;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  ASSERT_EQ(links.DBOpen(), kOk);
-  ASSERT_EQ(users.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
+  Opened<CAlertUsrInstServDB> links;
+  Opened<CAlertUSR_MCIDB> users;
 
   ALRTNTFYSERV common{};
   ALRTMCISERVICEREC mci{};
@@ -152,8 +144,7 @@ TEST_F(StoreTest, ATwoRecordAddLinksBothUnderFreshIdentities) {
 }
 
 TEST_F(StoreTest, MailTypesOfOneLayoutHaveStoresOfTheirOwn) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   ALRTNTFYSERV common{};
   ALRTMAPISERVICEREC mail{};
   GUID id{}, specific_id{};
@@ -194,38 +185,22 @@ TEST_F(StoreTest, AStoreThatIsNotOpenAnswersSoToEverything) {
   EXPECT_EQ(links.File().DBFileUnlock(), kStoreClosed);
 }
 
-TEST_F(StoreTest, RecordsOutliveTheirStoreObject) {
-  {
-    CAlertNtfyServDB services;
-    ASSERT_EQ(services.DBOpen(), kOk);
-    EXPECT_EQ(services.DBOpen(), kOk) << "opening an open store";
-    AddNamed(services, "kept");
-  }
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  EXPECT_EQ(NamesOf(services, kByIdentity), "kept");
-}
-
 TEST_F(StoreTest, StoresOpenedAfterTheDirectoryChangedUseTheNewOne) {
-  CAlertNtfyServDB before;
-  ASSERT_EQ(before.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> before;
   AddNamed(before, "old");
   UseDirectory(directory_ + "/a/new/one");
-  CAlertNtfyServDB after;
-  ASSERT_EQ(after.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> after;
   EXPECT_EQ(NamesOf(after, kByIdentity), "");
   AddNamed(after, "new");
   EXPECT_EQ(NamesOf(before, kByIdentity), "old");
 }
 
 TEST_F(StoreTest, AConsistentReadSeesOneMomentAndRefusesWrites) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   AddNamed(services, "a");
   // A second engine on the same directory has a connection of its own, as another console has.
   SetEngine(std::make_shared<SqliteEngine>(directory_));
-  CAlertNtfyServDB elsewhere;
-  ASSERT_EQ(elsewhere.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> elsewhere;
   SetEngine(nullptr);
   {
     const std::shared_ptr<Engine> engine = CurrentEngine();
@@ -242,13 +217,11 @@ TEST_F(StoreTest, AConsistentReadSeesOneMomentAndRefusesWrites) {
 }
 
 TEST_F(StoreTest, TakingTheLockShowsWhatItsLastHolderWrote) {
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> services;
   const GUID id = AddNamed(services, "before");
   AddNamed(services, "second");
   SetEngine(std::make_shared<SqliteEngine>(directory_));
-  CAlertNtfyServDB elsewhere;
-  ASSERT_EQ(elsewhere.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> elsewhere;
   ALRTNTFYSERV record{};
   ASSERT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kOk);
   ASSERT_EQ(services.DBAlertRecFindNext(record), kOk);  // a read transaction runs, and is not ended

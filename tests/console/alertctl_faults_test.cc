@@ -28,38 +28,24 @@ TEST_F(AlertctlTest, OnlyVerbsThatAddMakeADataDirectory) {
                                   {"manager", "list"},
                                   {"response", "list"},
                                   {"config", "write"}}) {
-      const Ran ran = Run(verb);
-      EXPECT_EQ(ran.code, 3) << testing::PrintToString(verb);
-      EXPECT_THAT(ran.err, AllOf(HasSubstr("there is no data in " + data_), HasSubstr("alertctl init")));
+      EXPECT_THAT(Run(verb),
+                  Fails(3, AllOf(HasSubstr("there is no data in " + data_), HasSubstr("alertctl init"))))
+          << testing::PrintToString(verb);
       EXPECT_EQ(std::filesystem::exists(data_), is_there);
       EXPECT_TRUE(!is_there || std::filesystem::is_empty(data_)) << testing::PrintToString(verb);
     }
   }
 }
 
-TEST_F(AlertctlTest, AnEmptyOptionIsAWrongUsage) {
-  RunJson({"init"});
-  for (const Arguments& verb : {Arguments{"service", "list", "--data", ""},
-                                {"service", "enable", "Internet Mail", "--manager", ""},
-                                {"entry", "list", "--user", ""},
-                                {"entry", "list", "--service", ""},
-                                {"user", "add", "Ann", "--id", ""}}) {
-    const Ran ran = Run(verb);
-    EXPECT_EQ(ran.code, 2) << testing::PrintToString(verb) << ran.out;
-    EXPECT_THAT(ran.err, HasSubstr("is empty"));
-  }
-}
-
-TEST_F(AlertctlTest, TextsThatNobodyCouldReadAreRefusedAndNeverEchoed) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, TextsThatNobodyCouldReadAreRefusedAndNeverEchoed) {
   RunJson({"user", "add", "Ann"});
   for (const char* text : {"\x1B[31mred", "two\nlines", "broken \xFF byte", "\x7F", "csi \xC2\x9B", "   "}) {
     for (const Arguments& verb : {Arguments{"user", "add", text},
                                   {"service", "copy", "Internet Mail", text},
                                   {"entry", "set", "Ann", "Internet Mail", text}}) {
       const Ran ran = Run(verb);
-      EXPECT_EQ(ran.code, 4) << testing::PrintToString(verb);
-      EXPECT_THAT(ran.err, testing::ContainsRegex("control characters|blanks"));
+      EXPECT_THAT(ran, Fails(4, testing::ContainsRegex("control characters|blanks")))
+          << testing::PrintToString(verb);
       EXPECT_EQ(ran.err.find_first_of("\x1B\x7F\x9B\xFF"), std::string::npos) << ran.err;
     }
   }
@@ -68,8 +54,7 @@ TEST_F(AlertctlTest, TextsThatNobodyCouldReadAreRefusedAndNeverEchoed) {
   EXPECT_THAT(Run({"service", "list", "--\x1B[31m"}).err, Not(HasSubstr("\x1B")));
 }
 
-TEST_F(AlertctlTest, StoredControlCharactersAreNotPrinted) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, StoredControlCharactersAreNotPrinted) {
   ASSERT_EQ(AddConsoleUser(GUID::Generate(), "a\x1B\x7F\xC2\x9Bz\u00E9"), kOk);
   const std::string listed = Run({"user", "list"}).out, raw = Run({"user", "list", "--json"}).out;
   EXPECT_THAT(listed, HasSubstr("a   z\u00E9"));
@@ -77,44 +62,36 @@ TEST_F(AlertctlTest, StoredControlCharactersAreNotPrinted) {
   EXPECT_EQ(json::parse(raw)[0]["name"], "a\x1B\x7F\xC2\x9Bz\u00E9") << "the name itself is told whole";
 }
 
-TEST_F(AlertctlTest, AServiceWithoutItsRecordIsNotCopiedAndDisturbsNoOther) {
-  RunJson({"init"});
-  CAlertWAVENtfyServDB waves;
-  ASSERT_EQ(Opened(waves).DBAlertRecDelete(Find(waves, [](const auto&) { return true; }).guid), kOk);
+TEST_F(AlertctlSiteTest, AServiceWithoutItsRecordIsNotCopiedAndDisturbsNoOther) {
+  DeleteFirst<CAlertWAVENtfyServDB>();
   const std::string before = ConfigFile();
-  const Ran ran = Run({"service", "copy", "Wave File", "New"});
-  EXPECT_EQ(ran.code, 4);
-  EXPECT_THAT(ran.err, AllOf(HasSubstr("\"Wave File\""), HasSubstr("missing")));
+  EXPECT_THAT(Run({"service", "copy", "Wave File", "New"}),
+              Fails(4, AllOf(HasSubstr("\"Wave File\""), HasSubstr("missing"))));
   EXPECT_EQ(ConfigFile(), before);
   EXPECT_THAT(Run({"service", "disable", "Internet Mail"}).err, IsEmpty());
   EXPECT_EQ(Run({"service", "copy", "Program Launch Service", "New"}).code, 0)
       << "this type has no such record";
 }
 
-TEST_F(AlertctlTest, ManagersOfOneNameAreToldApartByIdentity) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, ManagersOfOneNameAreToldApartByIdentity) {
   CAlert_SRV_CFGDB managers;
-  ALRT_SRV_CFGREC twin = Find(managers, [](const auto&) { return true; });
+  ALRT_SRV_CFGREC twin = Find(managers, Any);
   GUID id{};
   twin.guid = platform::kNullGuid;
   ASSERT_EQ(managers.DBAlertRecAdd(twin, id), kOk);
-  const Ran unnamed = Run({"service", "enable", "Internet Mail"});
-  EXPECT_EQ(unnamed.code, 4);
-  EXPECT_THAT(unnamed.err, HasSubstr("name it by its identity"));
-  const Ran other = Run({"service", "enable", "Internet Mail", "--manager", id.ToString()});
-  EXPECT_EQ(other.code, 4) << other.out;
-  EXPECT_THAT(other.err, HasSubstr("disable it there first"));
+  EXPECT_THAT(Run({"service", "enable", "Internet Mail"}), Fails(4, HasSubstr("name it by its identity")));
+  EXPECT_THAT(Run({"service", "enable", "Internet Mail", "--manager", id.ToString()}),
+              Fails(4, HasSubstr("disable it there first")));
   RunJson({"service", "disable", "Internet Mail"});
   EXPECT_EQ(RunJson({"service", "enable", "Internet Mail", "--manager", id.ToString()})["changed"], true);
   EXPECT_EQ(RunJson({"manager", "list"})[1]["services"], json::array({"Internet Mail"}));
 }
 
-TEST_F(AlertctlTest, SettingAnEntryPrintsWhatIsStored) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, SettingAnEntryPrintsWhatIsStored) {
   RunJson({"user", "add", "Ann"});
   RunJson({"entry", "set", "Ann", "MCI Mail", "123-4567"});
   CAlertUSR_MCIDB users;
-  ALRTUSR_MCISERVICEREC stored = Find(users, [](const auto&) { return true; });
+  ALRTUSR_MCISERVICEREC stored = Find(users, Any);
   stored.emsEnabled = 1;
   stored.emsAddress.Assign("elsewhere");
   ASSERT_EQ(users.DBAlertRecUpdate(stored), kOk);
@@ -124,53 +101,43 @@ TEST_F(AlertctlTest, SettingAnEntryPrintsWhatIsStored) {
   EXPECT_EQ(set, RunJson({"entry", "list"})[0]);
 }
 
-TEST_F(AlertctlTest, OutputThatCannotBeWrittenIsAFailure) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, OutputThatCannotBeWrittenIsAFailure) {
   for (const char* elsewhere : {" >&-", " >/dev/full"}) {
     for (const Arguments& verb : {Arguments{"service", "list"}, {"service", "list", "--help"}}) {
-      const Ran ran = RunLine(CommandOf(verb) + elsewhere);
-      EXPECT_EQ(ran.code, 5) << elsewhere;
-      EXPECT_THAT(ran.err, HasSubstr("cannot write the output"));
+      EXPECT_THAT(RunLine(CommandOf(verb) + elsewhere), Fails(5, HasSubstr("cannot write the output")))
+          << elsewhere;
     }
   }
   EXPECT_EQ(std::filesystem::file_size(data_ + "/alertctl.lock"), 0u);
   EXPECT_EQ(RunLine(CommandOf({"service", "show", "x"}) + " >&- 2>&-").code, 3);
 }
 
-TEST_F(AlertctlTest, WhatShowsNoConfigurationFileSaysWhatIsThere) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, WhatShowsNoConfigurationFileSaysWhatIsThere) {
   const std::string file = data_ + "/alert-managers.json";
   std::filesystem::create_directories(file + ".lock");
-  const Ran no_lock = Run({"config", "write"});
-  EXPECT_EQ(no_lock.code, 5);
-  EXPECT_THAT(no_lock.err, Not(HasSubstr("before"))) << "there was no file before";
+  EXPECT_THAT(Run({"config", "write"}), Fails(5, Not(HasSubstr("before")))) << "there was no file before";
   std::filesystem::remove(file + ".lock");
 
   std::filesystem::create_directories(file);
-  const Ran directory = Run({"config", "show"});
-  EXPECT_EQ(directory.code, 5);
-  EXPECT_THAT(directory.err, HasSubstr("directory"));
+  EXPECT_THAT(Run({"config", "show"}), Fails(5, HasSubstr("directory")));
   std::filesystem::remove(file);
   for (const char* bytes : {"{\"password\": \"x\"}", "[]", "{"}) {
     WriteFile(file, bytes);
-    const Ran foreign = Run({"config", "show", "--json"});
-    EXPECT_EQ(foreign.code, 4) << bytes << foreign.out;
-    EXPECT_THAT(foreign.err, AllOf(HasSubstr(file), HasSubstr("config write")));
+    EXPECT_THAT(Run({"config", "show", "--json"}),
+                Fails(4, AllOf(HasSubstr(file), HasSubstr("config write"))))
+        << bytes;
   }
 }
 
 TEST_F(AlertctlTest, AWrongPathInTheEnvironmentIsNamed) {
-  const Ran resources = RunLine("ALERTING_RESOURCES=/no/such/place " + CommandOf({"init"}));
-  EXPECT_EQ(resources.code, 4);
-  EXPECT_THAT(resources.err, AllOf(HasSubstr("ALERTING_RESOURCES"), HasSubstr("/no/such/place")));
+  EXPECT_THAT(RunLine("ALERTING_RESOURCES=/no/such/place " + CommandOf({"init"})),
+              Fails(4, AllOf(HasSubstr("ALERTING_RESOURCES"), HasSubstr("/no/such/place"))));
   RunJson({"init"});
   const std::filesystem::path program = ALERTCTL;
   const std::string other = (program.parent_path() / "../lib/libalertplatform.so").lexically_normal();
   for (const std::string& library : {other, std::string("/no/such/library.so")}) {
-    const Ran ran =
-        RunLine("ALERTING_LIBRARY=" + library + " " + CommandOf({"service", "delete", "Wave File"}));
-    EXPECT_EQ(ran.code, 4);
-    EXPECT_THAT(ran.err, HasSubstr(library));
+    EXPECT_THAT(RunLine("ALERTING_LIBRARY=" + library + " " + CommandOf({"service", "delete", "Wave File"})),
+                Fails(4, HasSubstr(library)));
   }
 }
 

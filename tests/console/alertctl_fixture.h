@@ -14,6 +14,7 @@
 
 #include "companions/alertstore/stores.h"
 #include "platform/base/paths.h"
+#include "tests/support/temporary.h"
 
 struct Ran {
   int code;
@@ -21,22 +22,24 @@ struct Ran {
   std::string err;
 };
 
+inline std::ostream& operator<<(std::ostream& out, const Ran& ran) {
+  return out << "code " << ran.code << ", said:\n" << ran.out << ran.err;
+}
+
+/// Ended with that code and said so on standard error alone.
+template <class Says>
+auto Fails(int code, const Says& says) {
+  using testing::Field;
+  return testing::AllOf(Field(&Ran::code, code), Field(&Ran::err, says), Field(&Ran::out, ""));
+}
+
 /// Runs the real program in a data directory of the test's own.
 class AlertctlTest : public testing::Test {
  protected:
   using Arguments = std::vector<std::string>;
   using json = nlohmann::json;
 
-  AlertctlTest() {
-    std::string name = testing::TempDir() + "alertctl-XXXXXX";
-    root_ = mkdtemp(name.data());
-    data_ = root_ + "/data";
-    setenv("ALERTING_DATA", data_.c_str(), 1);
-  }
-  ~AlertctlTest() override {
-    std::error_code ignored;
-    std::filesystem::remove_all(root_, ignored);
-  }
+  AlertctlTest() { setenv("ALERTING_DATA", data_.c_str(), 1); }
 
   static std::string Quoted(const std::string& argument) { return "'" + argument + "'"; }
 
@@ -85,10 +88,17 @@ class AlertctlTest : public testing::Test {
     return bytes;
   }
 
-  std::string root_, data_;
+  const test_support::TemporaryDirectory temporary_;
+  const std::string &root_ = temporary_.Path(), data_ = root_ + "/data";
 
  private:
   std::atomic<int> runs_{0};
+};
+
+/// Starts on a site that `init` has set up.
+class AlertctlSiteTest : public AlertctlTest {
+ protected:
+  void SetUp() override { RunJson({"init"}); }
 };
 
 /// The first record of the store for which `wanted` holds; a missing one fails the test.
@@ -107,4 +117,13 @@ template <class Store>
 Store& Opened(Store& store) {
   EXPECT_EQ(store.DBOpen(), alertstore::kOk);
   return store;
+}
+
+inline constexpr auto Any = [](const auto&) { return true; };
+
+/// Deletes the first record of a store.
+template <class Store, class... Arguments>
+void DeleteFirst(Arguments... arguments) {
+  Store store(arguments...);
+  EXPECT_EQ(store.DBAlertRecDelete(Find(store, Any).guid), alertstore::kOk);
 }

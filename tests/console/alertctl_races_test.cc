@@ -10,7 +10,6 @@
 using namespace alertstore;
 using nlohmann::json;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 namespace {
 
@@ -33,8 +32,7 @@ TEST_F(AlertctlTest, SeveralInitsAtOnceMakeOneSite) {
   EXPECT_EQ(managers[0]["services"].size(), 13u);
 }
 
-TEST_F(AlertctlTest, TheSameChangeMadeSeveralTimesAtOnceLeavesNoDoubles) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, TheSameChangeMadeSeveralTimesAtOnceLeavesNoDoubles) {
   RunJson({"user", "add", "Ann"});
   const auto entries =
       RunTogether(std::vector<Arguments>(5, {"entry", "set", "Ann", "Internet Mail", "ann@example.org"}));
@@ -51,8 +49,7 @@ TEST_F(AlertctlTest, TheSameChangeMadeSeveralTimesAtOnceLeavesNoDoubles) {
   EXPECT_EQ(RunJson({"service", "show", "Twin"})["alertManagers"].size(), 1u);
 }
 
-TEST_F(AlertctlTest, AUserWhoGetsAnEntryIsNotRemoved) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, AUserWhoGetsAnEntryIsNotRemoved) {
   for (int round = 0; round < 5; ++round) {
     RunJson({"user", "add", "Bob"});
     const auto ran =
@@ -66,8 +63,7 @@ TEST_F(AlertctlTest, AUserWhoGetsAnEntryIsNotRemoved) {
   }
 }
 
-TEST_F(AlertctlTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
   RunJson({"user", "add", "Ann"});
   std::vector<ConsoleUser> users;
   ASSERT_EQ(ListConsoleUsers(users), kOk);
@@ -108,8 +104,7 @@ class HeldFile {
   const int file_;
 };
 
-TEST_F(AlertctlTest, WhoeverWaitedTooLongSaysForWhomAndChangesNothing) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, WhoeverWaitedTooLongSaysForWhomAndChangesNothing) {
   RunJson({"user", "add", "Ann"});
   const std::string other_data = root_ + "/other";
   std::filesystem::copy(data_, other_data);

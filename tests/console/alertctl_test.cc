@@ -6,7 +6,6 @@ using namespace alertstore;
 using nlohmann::json;
 using platform::GUID;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 
 namespace {
@@ -29,16 +28,13 @@ TEST_F(AlertctlTest, InitSetsUpOnceAndThenChangesNothing) {
   EXPECT_EQ(ConfigFile(), before);
 }
 
-TEST_F(AlertctlTest, InitCompletesARunThatWasCutShort) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, InitCompletesARunThatWasCutShort) {
   CAlertNtfyServDB services;
   CAlertRespDB responses;
-  CAlertMODEM_LOCATIONDB locations;
   const GUID program = ServiceOfType(14).serviceId;
   ASSERT_EQ(Opened(services).DBAlertRecDelete(program), kOk);
   ASSERT_EQ(Opened(responses).DBAlertRecDelete(*GUID::Parse("3217DA57-ADD1-11CF-8137-000000000001")), kOk);
-  ASSERT_EQ(locations.DBOpen(), kOk);
-  ASSERT_EQ(locations.DBAlertRecDelete(Find(locations, [](const auto&) { return true; }).guid), kOk);
+  DeleteFirst<CAlertMODEM_LOCATIONDB>();
 
   EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "locations": 1, "modemTypes": 0,
                                                         "services": 1, "testResponses": 1})"));
@@ -46,16 +42,13 @@ TEST_F(AlertctlTest, InitCompletesARunThatWasCutShort) {
   EXPECT_EQ(RunJson({"manager", "list"})[0]["services"].size(), 13u) << "one entry a service, none twice";
 }
 
-TEST_F(AlertctlTest, InitBringsNothingBackThatWasRemovedFromAFinishedSite) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, InitBringsNothingBackThatWasRemovedFromAFinishedSite) {
   ASSERT_EQ(Run({"service", "disable", "Internet Mail"}).code, 0);
-  CAlertSERV_MODEMDB types("QModemDB.dat");
-  ASSERT_EQ(Opened(types).DBAlertRecDelete(Find(types, [](const auto&) { return true; }).guid), kOk);
+  DeleteFirst<CAlertSERV_MODEMDB>("QModemDB.dat");
   EXPECT_EQ(RunJson({"init"})["changed"], false);
 }
 
-TEST_F(AlertctlTest, EveryTypeHasItsTestResponse) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, EveryTypeHasItsTestResponse) {
   CAlertRespDB responses;
   for (std::uint32_t type : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14}) {
     const GUID id{
@@ -70,13 +63,9 @@ TEST_F(AlertctlTest, EveryTypeHasItsTestResponse) {
   }
 }
 
-TEST_F(AlertctlTest, DefaultMessagesAreStoredWithTheirKeywords) {
-  RunJson({"init"});
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  ALRTSMTPSERVICEREC record{};
-  record.guid = ServiceOfType(5).specificRecordId;
-  ASSERT_EQ(services.SpecificStore<ALRTSMTPSERVICEREC>()->DBAlertRecRetrieve(record.guid, record), kOk);
+TEST_F(AlertctlSiteTest, DefaultMessagesAreStoredWithTheirKeywords) {
+  CAlertSMTPNtfyServDB store;
+  const ALRTSMTPSERVICEREC record = Find(store, Any);
   EXPECT_EQ(record.defaultSubject.View(), "%s: %s");
   EXPECT_EQ(record.subjectKeywords[0].id, 8u);
   EXPECT_EQ(record.subjectKeywords[0].text.View(), "<Severity>");
@@ -92,8 +81,7 @@ TEST_F(AlertctlTest, DefaultMessagesAreStoredWithTheirKeywords) {
   EXPECT_EQ(response.subjectKeywords[1], 4);
 }
 
-TEST_F(AlertctlTest, ListsAndShowsAsTextAndAsJson) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, ListsAndShowsAsTextAndAsJson) {
   EXPECT_THAT(Run({"service", "list"}).out, HasSubstr("cc:Mail"));
   const json list = RunJson({"service", "list"});
   ASSERT_EQ(list.size(), 13u);
@@ -111,8 +99,7 @@ TEST_F(AlertctlTest, ListsAndShowsAsTextAndAsJson) {
             "Internet Mail");
 }
 
-TEST_F(AlertctlTest, ExitCodesAndMessagesSayWhatIsWrong) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, ExitCodesAndMessagesSayWhatIsWrong) {
   RunJson({"user", "add", "Ann"});
   std::filesystem::create_directories(data_ + "/plain");
   const struct {
@@ -125,6 +112,11 @@ TEST_F(AlertctlTest, ExitCodesAndMessagesSayWhatIsWrong) {
       {{"service", "fetch"}, 2, "fetch"},
       {{"service", "show"}, 2, "service"},
       {{"service", "list", "--colour"}, 2, "--colour"},
+      {{"service", "list", "--data", ""}, 2, "is empty"},
+      {{"service", "enable", "Internet Mail", "--manager", ""}, 2, "is empty"},
+      {{"entry", "list", "--user", ""}, 2, "is empty"},
+      {{"entry", "list", "--service", ""}, 2, "is empty"},
+      {{"user", "add", "Bob", "--id", ""}, 2, "is empty"},
       {{"service", "show", "Pigeon Post"}, 3, "no service is named \"Pigeon Post\""},
       {{"response", "show", "{00000000-0000-0000-0000-000000000001}"}, 3, "no response"},
       {{"response", "show", "first"}, 4, "\"first\" is no identity"},
@@ -144,16 +136,11 @@ TEST_F(AlertctlTest, ExitCodesAndMessagesSayWhatIsWrong) {
       {{"config", "write", "--data", "/dev/null/nowhere"}, 5, "/dev/null/nowhere"},
   };
   for (const auto& [arguments, code, says] : cases) {
-    const Ran ran = Run(arguments);
-    const std::string what = testing::PrintToString(arguments);
-    EXPECT_EQ(ran.code, code) << what << ran.err;
-    EXPECT_THAT(ran.err, HasSubstr(says)) << what;
-    EXPECT_THAT(ran.out, IsEmpty()) << what;
+    EXPECT_THAT(Run(arguments), Fails(code, HasSubstr(says))) << testing::PrintToString(arguments);
   }
 }
 
-TEST_F(AlertctlTest, ADataDirectoryThatCannotBeReadIsAStoreFailure) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, ADataDirectoryThatCannotBeReadIsAStoreFailure) {
   std::filesystem::resize_file(data_ + "/alerting.db", 100);
   std::filesystem::remove(data_ + "/alerting.db-wal");
   for (const auto& verb :
@@ -161,14 +148,9 @@ TEST_F(AlertctlTest, ADataDirectoryThatCannotBeReadIsAStoreFailure) {
     EXPECT_EQ(Run(verb).code, 5) << testing::PrintToString(verb);
 }
 
-TEST_F(AlertctlTest, NoPasswordIsEverPrinted) {
-  RunJson({"init"});
-  CAlertNtfyServDB services;
-  ASSERT_EQ(services.DBOpen(), kOk);
-  ALRTSMTPSERVICEREC record{};
-  record.guid = ServiceOfType(5).specificRecordId;
-  auto& store = *services.SpecificStore<ALRTSMTPSERVICEREC>();
-  ASSERT_EQ(store.DBAlertRecRetrieve(record.guid, record), kOk);
+TEST_F(AlertctlSiteTest, NoPasswordIsEverPrinted) {
+  CAlertSMTPNtfyServDB store;
+  ALRTSMTPSERVICEREC record = Find(store, Any);
   record.password.Assign("s3cr3t!");
   ASSERT_EQ(store.DBAlertRecUpdate(record), kOk);
   EXPECT_THAT(ConfigFile(), HasSubstr("s3cr3t!")) << "the alert managers need it";
@@ -190,8 +172,7 @@ TEST_F(AlertctlTest, NoPasswordIsEverPrinted) {
   }
 }
 
-TEST_F(AlertctlTest, AServiceIsCopiedDisabledEnabledAndDeleted) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, AServiceIsCopiedDisabledEnabledAndDeleted) {
   const json copy = RunJson({"service", "copy", "Internet Mail", "Night mail"});
   const json shown = RunJson({"service", "show", "night mail"});
   EXPECT_EQ(shown["id"], copy["id"]);
@@ -217,8 +198,7 @@ TEST_F(AlertctlTest, AServiceIsCopiedDisabledEnabledAndDeleted) {
   EXPECT_EQ(RunJson({"service", "list"}).size(), 13u);
 }
 
-TEST_F(AlertctlTest, AUserHasOneEntryOnAService) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, AUserHasOneEntryOnAService) {
   const json ann = RunJson({"user", "add", "Ann", "--id", "7b1c7a52-0d5c-4f4b-8b60-6f3b1c9e2a11"});
   EXPECT_EQ(ann["id"], "{7B1C7A52-0D5C-4F4B-8B60-6F3B1C9E2A11}");
   EXPECT_EQ(Run({"user", "add", "Other", "--id", ann["id"]}).code, 4) << "the identity is taken";
@@ -243,12 +223,10 @@ TEST_F(AlertctlTest, AUserHasOneEntryOnAService) {
   EXPECT_EQ(RunJson({"user", "list"}), json::array());
 }
 
-TEST_F(AlertctlTest, AnEntryWhoseRecordIsGoneIsRepaired) {
-  RunJson({"init"});
+TEST_F(AlertctlSiteTest, AnEntryWhoseRecordIsGoneIsRepaired) {
   RunJson({"user", "add", "Ann"});
   RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
-  CAlertUSR_SMTPDB users;
-  ASSERT_EQ(Opened(users).DBAlertRecDelete(Find(users, [](const auto&) { return true; }).guid), kOk);
+  DeleteFirst<CAlertUSR_SMTPDB>();
   EXPECT_EQ(RunJson({"entry", "list"}), json::array());
   RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
   EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);

@@ -146,18 +146,5 @@ TEST_P(QtEditTest, WhatTheWidgetDoesByItselfIsTakenBack) {
   EXPECT_EQ(dialog_.edit.Text(), "kept");
 }
 
-TEST_F(QtWindowTest, ALineBreakIsOnePlaceInTheWidget) {
-  EditDialog dialog(true);
-  dialog.edit.SetText("a\r\nb");
-  Show(dialog, [&](Person& person) {
-    person.Focus("&Text:");
-    EXPECT_EQ(Widget<TextField>().toPlainText(), QStringLiteral("a\nb"));
-    QTest::keyClick(&Widget<TextField>(), Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(dialog.edit.Caret(), 4u);
-    person.TypeHere("\n");
-    EXPECT_EQ(dialog.edit.Text(), "a\r\nb\r\n");
-  });
-}
-
 }  // namespace
 }  // namespace desktops::qt

@@ -233,23 +233,6 @@ TEST_F(QtWindowTest, ATabStaysInFrontWhileItsPageDecides) {
   EXPECT_EQ(held.in_front, 0);
 }
 
-/// Does not want to be left by Escape.
-class StubbornDialog : public ReportingDialog {
- public:
-  void OnEscape() override { ++escapes; }
-  Edit field{*this, 1, "&Field:"};
-  int escapes = 0;
-};
-
-TEST_F(QtWindowTest, EscapeIsTheFormsToDecide) {
-  StubbornDialog dialog;
-  Show(dialog, [&](Person& person) {
-    person.Press(Key::kEscape);
-    EXPECT_FALSE(dialog.Ended());
-  });
-  EXPECT_EQ(dialog.escapes, 1);
-}
-
 /// Keeps the names it hears of.
 class ListeningFileDialog : public FileDialog {
  public:

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "platform/base/paths.h"
+#include "tests/support/temporary.h"
 
 using platform::ReadWholeFile;
 using platform::WriteFileAtomically;
@@ -18,13 +19,6 @@ namespace {
 
 class AtomicWriteTest : public testing::Test {
  protected:
-  AtomicWriteTest() {
-    std::string name = testing::TempDir() + "write-XXXXXX";
-    directory_ = mkdtemp(name.data());
-    path_ = directory_ + "/file";
-  }
-  ~AtomicWriteTest() override { std::filesystem::remove_all(directory_); }
-
   std::vector<std::string> Names() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(directory_))
@@ -37,7 +31,9 @@ class AtomicWriteTest : public testing::Test {
     return bytes;
   }
 
-  std::string directory_, path_;
+  const test_support::TemporaryDirectory temporary_;
+  const std::string& directory_ = temporary_.Path();
+  const std::string path_ = directory_ + "/file";
 };
 
 TEST_F(AtomicWriteTest, KilledWritersLeaveOneTemporaryFileThatTheNextOneReplaces) {

@@ -114,14 +114,6 @@ TEST_F(ScriptTest, AFileThatDoesNotExistIsRefused) {
   EXPECT_THAT(desktop_.script.Failures(), ElementsAre(HasSubstr("refuses /nowhere/file")));
 }
 
-TEST_F(ScriptTest, TheDesktopBeforeComesBack) {
-  {
-    ScriptedDesktop inner;
-    EXPECT_EQ(&Desktop::Current(), &inner);
-  }
-  EXPECT_EQ(&Desktop::Current(), &desktop_);
-}
-
 TEST_F(ScriptTest, SleepsAreRecordedAndLetPostedTasksRun) {
   bool ran = false;
   std::thread([&] { desktop_.Post([&] { ran = true; }); }).join();
@@ -129,21 +121,6 @@ TEST_F(ScriptTest, SleepsAreRecordedAndLetPostedTasksRun) {
   desktop_.Sleep(60000);
   EXPECT_TRUE(ran);
   EXPECT_THAT(desktop_.script.sleeps, ElementsAre(60000u));
-}
-
-TEST_F(ScriptTest, ASoundPlaysUntilItIsFinishedOrStopped) {
-  int finished = 0;
-  const auto sound = desktop_.OpenSound("/proc/self/exe");
-  ASSERT_TRUE(sound->Play([&] { ++finished; }));
-  EXPECT_EQ(desktop_.playing_sound, "/proc/self/exe");
-  desktop_.FinishSound();
-  EXPECT_EQ(desktop_.playing_sound, "");
-  ASSERT_TRUE(sound->Play([&] { ++finished; }));
-  sound->Stop();
-  EXPECT_EQ(desktop_.playing_sound, "");
-  desktop_.FinishSound();
-  EXPECT_EQ(finished, 1);
-  EXPECT_FALSE(desktop_.OpenSound("/nowhere.wav")->Play({}));
 }
 
 }  // namespace

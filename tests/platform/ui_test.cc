@@ -77,8 +77,12 @@ TEST(WindowTest, LabelsAndTheirAccessKeys) {
   }
 }
 
-TEST(FormTest, AControlThatGoesLeavesItsForm) {
-  Dialog dialog(nullptr, "Form");
+class FormTest : public testing::Test {
+ protected:
+  Dialog dialog{nullptr, "Form"};
+};
+
+TEST_F(FormTest, AControlThatGoesLeavesItsForm) {
   Button stays(dialog, 1, "Stays");
   {
     Button goes(dialog, 2, "Goes");
@@ -91,17 +95,7 @@ TEST(FormTest, AControlThatGoesLeavesItsForm) {
   EXPECT_EQ(dialog.DefaultButton(), nullptr);
 }
 
-TEST(FormTest, OneButtonIsTheDefault) {
-  Dialog dialog(nullptr, "Form");
-  Button first(dialog, 1, "First"), second(dialog, 2, "Second");
-  first.SetDefault(true);
-  second.SetDefault(true);
-  EXPECT_EQ(dialog.DefaultButton(), &second);
-  EXPECT_FALSE(first.IsDefault());
-}
-
-TEST(FormTest, NothingReachesAControlThatIsHiddenOrDisabled) {
-  Dialog dialog(nullptr, "Form");
+TEST_F(FormTest, NothingReachesAControlThatIsHiddenOrDisabled) {
   int reports = 0;
   CheckBox box(dialog, 1, "Box");
   Button button(dialog, 2, "Button");
@@ -122,8 +116,7 @@ TEST(FormTest, NothingReachesAControlThatIsHiddenOrDisabled) {
   EXPECT_EQ(list.SelectedRow(), -1);
 }
 
-TEST(ItemListTest, FindsByTextBytesAndData) {
-  Dialog dialog(nullptr, "Form");
+TEST_F(FormTest, FindsByTextBytesAndData) {
   ComboBox list(dialog, 1, "List");
   list.Add("Office", 7);
   list.Add("OFFICE", 8);
@@ -139,15 +132,13 @@ TEST(ItemListTest, FindsByTextBytesAndData) {
   EXPECT_EQ(list.Data(5), 0u);
 }
 
-TEST(EditTest, APastedTextEndsAtAZeroByte) {
-  Dialog dialog(nullptr, "Form");
+TEST_F(FormTest, APastedTextEndsAtAZeroByte) {
   Edit edit(dialog, 1, "Edit");
   edit.OnPaste(std::string_view("ab\0cd", 5));
   EXPECT_EQ(edit.Text(), "ab");
 }
 
-TEST(ListViewTest, TheRowMovedToIsInView) {
-  Dialog dialog(nullptr, "Form");
+TEST_F(FormTest, TheRowMovedToIsInView) {
   ListView list(dialog, 1, "List");
   for (int i = 0; i < 30; ++i) list.AddRow({std::to_string(i)});
   list.OnScrolled(0, 8);
@@ -162,11 +153,10 @@ TEST(ListViewTest, TheRowMovedToIsInView) {
   EXPECT_EQ(list.FirstVisibleRow(), 21);
 }
 
-TEST(CanvasTest, ScrollingStopsAtTheLastPage) {
+TEST_F(FormTest, ScrollingStopsAtTheLastPage) {
   struct Row {
     int position, maximum, page, result;
   };
-  Dialog dialog(nullptr, "Form");
   Canvas strip(dialog, 1, "Strip");
   for (const Row& row :
        {Row{5, 11, 8, 4}, Row{3, 11, 8, 3}, Row{-1, 11, 8, 0}, Row{2, 3, 8, 0}, Row{9, -1, 0, 0}}) {
@@ -249,16 +239,6 @@ TEST(BaseDesktopTest, MessagesGoToStandardErrorAndQuestionsAreAnsweredNo) {
   EXPECT_EQ(testing::internal::GetCapturedStderr(), "Alerting: Told.\nAlerting: Asked?\nAlerting: Asked?\n");
 }
 
-TEST(BaseDesktopTest, NothingIsChosenHeardOrCopied) {
-  Desktop& desktop = Desktop::Current();
-  FileDialog files(nullptr);
-  EXPECT_EQ(files.RunModal(), kCancel);
-  desktop.SetClipboardText("x");
-  EXPECT_FALSE(desktop.ClipboardText());
-  EXPECT_FALSE(desktop.OpenSound("/nowhere.wav")->Play({}));
-  EXPECT_TRUE(desktop.ExtractIcons("/nowhere.ico", 10).empty());
-}
-
 TEST(BaseDesktopTest, PostedTasksRunOnTheThreadOfTheWindows) {
   std::thread::id ran_on;
   std::thread([&] { Desktop::Current().Post([&] { ran_on = std::this_thread::get_id(); }); }).join();
@@ -266,17 +246,6 @@ TEST(BaseDesktopTest, PostedTasksRunOnTheThreadOfTheWindows) {
   CountingDialog dialog;
   dialog.RunModal();
   EXPECT_EQ(ran_on, std::this_thread::get_id());
-}
-
-TEST(ModuleTest, HoldsStringsAndResources) {
-  Module module("Title");
-  const std::uint8_t bytes[] = {1, 2, 3};
-  module.AddString(100, "One hundred");
-  module.AddResource("icon", bytes);
-  EXPECT_EQ(module.String(100), "One hundred");
-  EXPECT_EQ(module.String(101), "");
-  EXPECT_EQ(module.Resource("icon").size(), 3u);
-  EXPECT_TRUE(module.Resource("none").empty());
 }
 
 TEST(ModuleTest, ScopesNestAndHoldOnTheirThreadOnly) {

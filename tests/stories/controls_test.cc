@@ -67,32 +67,30 @@ class ControlsTest : public StoryTest {
 
 TEST_F(ControlsTest, ACheckBoxReportsClicksOnly) {
   dialog_.box.SetChecked(true);
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     EXPECT_TRUE(p.IsChecked("&Box"));
     p.Check("&Box", true);
     p.Check("&Box", false);
     EXPECT_FALSE(p.IsChecked("&Box"));
     p.Press(Key::kSpace);
     EXPECT_TRUE(p.IsChecked("&Box"));
-    p.Press("OK");
   });
   EXPECT_EQ(dialog_.log, (std::vector<std::string>{"off", "changed &Box", "on", "changed &Box"}));
 }
 
 TEST_F(ControlsTest, ARadioGroupHasNoneOrOneChosen) {
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     EXPECT_EQ(p.ChosenOption("Mode"), "");
     p.ChooseOption("Mode", "&Pulse");
     EXPECT_EQ(p.ChosenOption("Mode"), "&Pulse");
     p.Press(Key::kUp);
     EXPECT_EQ(p.ChosenOption("Mode"), "&Tone");
-    p.Press("OK");
   });
   EXPECT_EQ(dialog_.log, (std::vector<std::string>{"mode 1", "changed Mode", "mode 0", "changed Mode"}));
 }
 
 TEST_F(ControlsTest, AccessKeysPressOrFocus) {
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     p.AccessKey('s');
     EXPECT_EQ(p.FocusedLabel(), "&Second:");
     p.AccessKey('b');
@@ -101,14 +99,13 @@ TEST_F(ControlsTest, AccessKeysPressOrFocus) {
     p.AccessKey('p');
     EXPECT_EQ(p.ChosenOption("Mode"), "&Pulse");
     EXPECT_THROW(p.AccessKey('q'), PersonError);
-    p.Press("OK");
   });
   EXPECT_EQ(dialog_.log, (std::vector<std::string>{"on", "changed &Box", "extra", "mode 1", "changed Mode"}));
 }
 
 TEST_F(ControlsTest, TabFollowsTheOrderOfConstruction) {
   dialog_.second.Enable(false);
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     EXPECT_EQ(p.FocusedLabel(), "&First:") << "the first that takes it has the focus at the start";
     p.Press(Key::kTab);
     EXPECT_EQ(p.FocusedLabel(), "L&ines:") << "a disabled one is passed over";
@@ -120,61 +117,44 @@ TEST_F(ControlsTest, TabFollowsTheOrderOfConstruction) {
     p.Focus("Cancel");
     p.Press(Key::kTab);
     EXPECT_EQ(p.FocusedLabel(), "&First:");
-    p.Press("OK");
   });
 }
 
 TEST_F(ControlsTest, TabIntoAFieldSelectsItsText) {
   dialog_.second.SetText("all of it");
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     p.Press(Key::kTab);
     EXPECT_EQ(p.Selection("&Second:"), (std::pair<std::size_t, std::size_t>{0, 9}));
     p.TypeHere("new");
     EXPECT_EQ(p.Text("&Second:"), "new");
-    p.Press("OK");
   });
 }
 
-TEST_F(ControlsTest, EnterPressesTheDefaultButton) {
-  EXPECT_EQ(Run([](Person& p) {
-              p.Focus("&Second:");
-              p.Press(Key::kEnter);
-            }),
-            kOk);
-}
-
-TEST_F(ControlsTest, EnterPressesTheButtonWithTheFocus) {
-  EXPECT_EQ(Run([](Person& p) {
-              p.Focus("E&xtra && more");
-              p.Press(Key::kEnter);
-              p.Focus("Cancel");
-              p.Press(Key::kEnter);
-            }),
-            kCancel);
-  EXPECT_EQ(dialog_.log, std::vector<std::string>{"extra"});
-}
-
-TEST_F(ControlsTest, EnterInAMultiLineFieldStaysThere) {
-  EXPECT_EQ(Run([](Person& p) {
-              p.Focus("L&ines:");
-              p.Press(Key::kEnter);
+TEST_F(ControlsTest, EnterEscapeAndTheCloseBoxEndTheDialog) {
+  const auto enter_on = [](const char* label) {
+    return [label](Person& p) {
+      p.Focus(label);
+      p.Press(Key::kEnter);
+    };
+  };
+  EXPECT_EQ(Run(enter_on("&Second:")), kOk) << "the default button";
+  EXPECT_EQ(Run(enter_on("Cancel")), kCancel) << "the button with the focus";
+  EXPECT_EQ(Run([&](Person& p) {
+              enter_on("E&xtra && more")(p);
+              enter_on("L&ines:")(p);
               EXPECT_EQ(p.Text("L&ines:"), "\r\n");
               p.Press(Key::kEscape);
             }),
-            kCancel)
-      << "Escape is Cancel from everywhere";
-}
-
-TEST_F(ControlsTest, TheCloseBoxCancels) {
+            kCancel);
   EXPECT_EQ(Run([](Person& p) { p.CloseWindow(); }), kCancel);
+  EXPECT_EQ(dialog_.log, (std::vector<std::string>{"extra", "changed L&ines:"}));
 }
 
 TEST_F(ControlsTest, APressBesideFindsTheButtonOfTheRow) {
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     p.PressBeside("Pat&h:", "...");
     p.PressBeside("&Address:", "...");
     EXPECT_THROW(p.PressBeside("&First:", "..."), PersonError);
-    p.Press("OK");
   });
   EXPECT_EQ(dialog_.log, (std::vector<std::string>{"path...", "address..."}));
 }
@@ -184,7 +164,7 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledCannotBeTouched) {
   dialog_.box.Enable(false);
   dialog_.extra.Enable(false);
   dialog_.mode.Show(false);
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     EXPECT_FALSE(p.IsVisible("&Second:"));
     EXPECT_FALSE(p.IsEnabled("&Box"));
     EXPECT_THROW(p.Type("&Second:", "x"), PersonError);
@@ -193,13 +173,12 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledCannotBeTouched) {
     EXPECT_THROW(p.ChooseOption("Mode", "&Tone"), PersonError);
     EXPECT_THROW(p.AccessKey('b'), PersonError);
     EXPECT_THROW(p.Press("No such button"), PersonError);
-    p.Press("OK");
   });
   EXPECT_TRUE(dialog_.log.empty());
 }
 
 TEST_F(ControlsTest, TextsAndNotesAreSeen) {
-  Run([this](Person& p) {
+  Play(dialog_, [this](Person& p) {
     EXPECT_EQ(p.Caption(), "Controls");
     EXPECT_TRUE(p.IsVisible("Mind the gap."));
     EXPECT_TRUE(p.IsVisible("A note"));
@@ -209,37 +188,33 @@ TEST_F(ControlsTest, TextsAndNotesAreSeen) {
     EXPECT_FALSE(p.IsVisible("Another note"));
     EXPECT_THAT(p.Screen(), testing::HasSubstr("&First:"));
     EXPECT_THAT(p.Screen(), testing::Not(testing::HasSubstr("Another note")));
-    p.Press("OK");
   });
 }
 
 TEST_F(ControlsTest, AControlThatGoesOutOfReachPassesTheFocusOn) {
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     p.Press("Loc&k");
     EXPECT_FALSE(p.IsEnabled("Loc&k"));
     EXPECT_EQ(p.FocusedLabel(), "OK");
-    p.Press("OK");
   });
 }
 
 TEST_F(ControlsTest, TheProgramMovesTheFocus) {
-  Run([this](Person& p) {
+  Play(dialog_, [this](Person& p) {
     dialog_.path.SetFocus();
     EXPECT_EQ(p.FocusedLabel(), "Pat&h:");
     p.TypeHere("z");
     EXPECT_EQ(p.Text("Pat&h:"), "z");
     dialog_.note.SetFocus();
     EXPECT_EQ(p.FocusedLabel(), "Pat&h:") << "a static text takes none";
-    p.Press("OK");
   });
 }
 
 TEST_F(ControlsTest, TheHelpKeyAsksAboutTheControlWithTheFocus) {
-  Run([](Person& p) {
+  Play(dialog_, [](Person& p) {
     EXPECT_EQ(p.HelpOn("&Second:"), "&Second:");
     EXPECT_EQ(p.FocusedLabel(), "&Second:");
     EXPECT_EQ(p.HelpOn("Cancel"), "Cancel");
-    p.Press("OK");
   });
   EXPECT_EQ(Desk().LastHelpText(), "Cancel");
 }

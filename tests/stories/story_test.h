@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "desktops/scripted/person.h"
+#include "platform/ui/dialog.h"
 #include "tests/stories/test_desktop.h"
 
 namespace stories {
@@ -13,6 +15,16 @@ class StoryTest : public testing::Test {
  protected:
   desktops::Script& Script() { return desktop_->Script(); }
   TestDesktop& Desk() { return *desktop_; }
+
+  /// Runs a dialog in front of a person who presses OK at the end of the story.
+  template <class Dialog>
+  void Play(Dialog& dialog, const desktops::Script::Story& story) {
+    Script().ExpectWindow(dialog.Label(), [&](desktops::Person& p) {
+      story(p);
+      p.Press("OK");
+    });
+    EXPECT_EQ(dialog.RunModal(), platform::ui::kOk);
+  }
 
   void TearDown() override {
     for (const std::string& failure : Script().Failures()) ADD_FAILURE() << failure;

@@ -29,7 +29,7 @@ std::string StoreCall::Text() const {
 
 template <class Operation>
 Status FailingEngine::Make(StoreCall call, Operation operation) {
-  call.status = MustFail(call) ? rule_.status : operation();
+  call.status = MustFail(call) ? alertstore::kIoError : operation();
   calls_.push_back(std::move(call));
   return calls_.back().status;
 }
@@ -46,14 +46,14 @@ bool FailingEngine::MustFail(const StoreCall& call) {
   return true;
 }
 
-void FailingEngine::FailNth(std::string_view store, StoreOp op, int n, Status status) {
-  rule_ = {std::string(store), op, n, status};
+void FailingEngine::FailNth(std::string_view store, StoreOp op, int n) {
+  rule_ = {std::string(store), op, n};
   rule_active_ = n > 0;
   failures_ = 0;
 }
 
-void FailingEngine::FailAll(std::string_view store, StoreOp op, Status status) {
-  rule_ = {std::string(store), op, 0, status};
+void FailingEngine::FailAll(std::string_view store, StoreOp op) {
+  rule_ = {std::string(store), op, 0};
   rule_active_ = true;
   failures_ = 0;
 }
@@ -87,9 +87,8 @@ std::vector<std::string> FailingEngine::HeldLocks() const {
 // A table of the engine below, whose calls pass through the rule of the engine.
 class FailingTable : public Table {
  public:
-  FailingTable(FailingEngine& engine, std::string store, std::uint32_t record_size,
-               std::unique_ptr<Table> base)
-      : engine_(engine), store_(std::move(store)), record_size_(record_size), base_(std::move(base)) {}
+  FailingTable(FailingEngine& engine, std::string store, std::unique_ptr<Table> base)
+      : engine_(engine), store_(std::move(store)), base_(std::move(base)) {}
   ~FailingTable() override { NoteUnlocked(); }
 
   Status FindFirst(const Selector& selector, std::string_view key, void* out) override {
@@ -102,24 +101,20 @@ class FailingTable : public Table {
     return engine_.Make(Call(StoreOp::kFindNext), [&] { return base_->FindNext(out); });
   }
   Status Retrieve(const platform::GUID& id, void* out) override {
-    return engine_.Make(Call(StoreOp::kRetrieve, Bytes(&id, sizeof id)),
-                        [&] { return base_->Retrieve(id, out); });
+    return engine_.Make(Call(StoreOp::kRetrieve), [&] { return base_->Retrieve(id, out); });
   }
   Status Add(const void* record) override {
-    return engine_.Make(Call(StoreOp::kAdd, Bytes(record, record_size_)), [&] { return base_->Add(record); });
+    return engine_.Make(Call(StoreOp::kAdd), [&] { return base_->Add(record); });
   }
   Status AddPair(const void* record, const StoreSchema& other, const void* other_record) override {
-    StoreCall call = Call(StoreOp::kAddPair, Bytes(record, record_size_));
-    call.other_store = other.file;
-    call.other_record = Bytes(other_record, other.record_size);
-    return engine_.Make(std::move(call), [&] { return base_->AddPair(record, other, other_record); });
+    return engine_.Make({store_, StoreOp::kAddPair, kOk, other.file},
+                        [&] { return base_->AddPair(record, other, other_record); });
   }
   Status Update(const void* record) override {
-    return engine_.Make(Call(StoreOp::kUpdate, Bytes(record, record_size_)),
-                        [&] { return base_->Update(record); });
+    return engine_.Make(Call(StoreOp::kUpdate), [&] { return base_->Update(record); });
   }
   Status Delete(const platform::GUID& id) override {
-    return engine_.Make(Call(StoreOp::kDelete, Bytes(&id, sizeof id)), [&] { return base_->Delete(id); });
+    return engine_.Make(Call(StoreOp::kDelete), [&] { return base_->Delete(id); });
   }
 
   Status Lock() override {
@@ -136,35 +131,28 @@ class FailingTable : public Table {
   }
 
  private:
-  static std::string Bytes(const void* record, std::size_t size) {
-    return {static_cast<const char*>(record), size};
-  }
-  StoreCall Call(StoreOp op, std::string record = {}) const {
-    return {store_, op, kOk, std::move(record), {}, {}};
-  }
+  StoreCall Call(StoreOp op) const { return {store_, op, kOk}; }
   void NoteUnlocked() {
     if (std::exchange(locked_, false)) --engine_.locks_[store_];
   }
 
   FailingEngine& engine_;  // outlives its tables, as every engine does: the store keeps it
   const std::string store_;
-  const std::uint32_t record_size_;
   const std::unique_ptr<Table> base_;
   bool locked_ = false;
 };
 
 Status FailingEngine::Open(const StoreSchema& schema, std::unique_ptr<Table>& table) {
-  return Make({schema.file, StoreOp::kOpen, kOk, {}, {}, {}}, [&] {
+  return Make({schema.file, StoreOp::kOpen, kOk}, [&] {
     std::unique_ptr<Table> opened;
     const Status status = base_->Open(schema, opened);
-    if (status == kOk)
-      table = std::make_unique<FailingTable>(*this, schema.file, schema.record_size, std::move(opened));
+    if (status == kOk) table = std::make_unique<FailingTable>(*this, schema.file, std::move(opened));
     return status;
   });
 }
 
 Status FailingEngine::BeginRead() {
-  return Make({{}, StoreOp::kBeginRead, kOk, {}, {}, {}}, [&] { return base_->BeginRead(); });
+  return Make({{}, StoreOp::kBeginRead, kOk}, [&] { return base_->BeginRead(); });
 }
 
 }  // namespace test_support

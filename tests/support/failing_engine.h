@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstring>
 #include <map>
 #include <memory>
 #include <string>
@@ -38,19 +37,10 @@ struct StoreCall {
   std::string store;  ///< empty for kBeginRead
   StoreOp op;
   alertstore::Status status;
-  std::string record;  ///< kAdd, kAddPair, kUpdate: the bytes handed in; kRetrieve, kDelete: the identity
-  std::string other_store;   ///< kAddPair
-  std::string other_record;  ///< kAddPair
+  std::string other_store = {};  ///< kAddPair
 
   /// "Update NtfyServDB.dat", with " failed" behind it when it did.
   std::string Text() const;
-  /// The bytes handed in, as the record that they are.
-  template <class Record>
-  Record As() const {
-    Record result{};
-    if (record.size() == sizeof result) std::memcpy(&result, record.data(), sizeof result);
-    return result;
-  }
 };
 
 /// Hands every call to another engine, except those that it was told to fail; these change nothing, but a
@@ -71,9 +61,9 @@ class FailingEngine : public alertstore::Engine {
   // Each rule replaces the one before it and sets Failures() to 0.
 
   /// Fails the n-th matching call from now on, counted from 1, and no other.
-  void FailNth(std::string_view store, StoreOp op, int n, alertstore::Status status = alertstore::kIoError);
+  void FailNth(std::string_view store, StoreOp op, int n);
   /// Fails every matching call from now on.
-  void FailAll(std::string_view store, StoreOp op, alertstore::Status status = alertstore::kIoError);
+  void FailAll(std::string_view store, StoreOp op);
   void FailNone();
 
   /// How many calls the present rule has failed.
@@ -101,7 +91,6 @@ class FailingEngine : public alertstore::Engine {
     std::string store;
     StoreOp op = StoreOp::kAny;
     int remaining = 0;  // matching calls until the one that fails; 0: every one fails
-    alertstore::Status status = alertstore::kOk;
   };
 
   // Makes the call, or fails it, and notes it.

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/service_fixture.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "companions/alertstore/console_users.h"
@@ -16,32 +15,14 @@ void FakeDbConfig::GetQEVDataDirectory(char* buffer, std::size_t size) {
   if (size > 0) buffer[0] = '\0';
 }
 
-std::uint32_t FakeDbConfig::CreateAlertServerConfigFile(std::uint32_t) {
-  ++files_written;
-  return result;
-}
-
-std::uint32_t FakeDbConfig::IsConversionComplete() { return polls_until_complete-- <= 0; }
-
 void FakeAgentUi::DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) {
   if (!chosen_address.empty()) std::strcpy(buffer, chosen_address.c_str());
 }
 
-namespace {
-
-/// In memory where the machine has such a place: what survives a power cut is not the matter here.
-std::string MakeDirectory() {
-  const bool in_memory = std::filesystem::is_directory("/dev/shm");
-  const std::filesystem::path parent = in_memory ? "/dev/shm" : std::filesystem::temp_directory_path();
-  std::string path = (parent / "alerting-test-XXXXXX").string();
-  if (mkdtemp(path.data()) == nullptr) std::abort();
-  return path;
-}
-
-}  // namespace
-
-LibraryUnderTest::LibraryUnderTest() : directory_(MakeDirectory()) {
-  setenv("ALERTING_DATA", directory_.c_str(), 1);
+// In memory where the machine has such a place: what survives a power cut is not the matter here.
+LibraryUnderTest::LibraryUnderTest()
+    : directory_(std::filesystem::is_directory("/dev/shm") ? "/dev/shm" : testing::TempDir()) {
+  setenv("ALERTING_DATA", Directory().c_str(), 1);
   SetEngine(nullptr);
   engine = std::make_shared<FailingEngine>(CurrentEngine());
   SetEngine(engine);
@@ -56,7 +37,6 @@ LibraryUnderTest::~LibraryUnderTest() {
   alerting::SetCompanions(before_);
   SetEngine(nullptr);
   unsetenv("ALERTING_DATA");
-  std::filesystem::remove_all(directory_);
 }
 
 platform::ui::Answer RecordingDesktop::ShowMessage(const platform::ui::Message& message) {
@@ -65,7 +45,7 @@ platform::ui::Answer RecordingDesktop::ShowMessage(const platform::ui::Message& 
                                                        : platform::ui::Answer::kNo;
 }
 
-void ServiceTest::ExpectNoMessages() {
+void ServiceTest::TearDown() {
   for (const std::string& text : desktop.messages) ADD_FAILURE() << "a message nobody expected: " << text;
   EXPECT_EQ(desktop.wait_cursors, 0);
 }
@@ -122,6 +102,14 @@ std::string StoredSpecific(std::uint32_t code, const GUID& record_id) {
     EXPECT_EQ(alerting::ServiceStore().SpecificStore<Record>()->DBAlertRecRetrieve(record_id, record), kOk);
     return std::string(reinterpret_cast<const char*>(&record), sizeof(record));
   });
+}
+
+void PutText(std::string& bytes, std::size_t offset, std::size_t width, const std::string& text) {
+  if (width > 0) bytes.replace(offset, width, width, '\0').replace(offset, text.size(), text);
+}
+
+void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value) {
+  for (std::size_t i = 0; offset > 0 && i < 4; ++i) bytes[offset + i] = static_cast<char>(value >> (8 * i));
 }
 
 alerting::CNtfyService* Find(const GUID& service) {

@@ -16,7 +16,10 @@
 #include "alerting/services/service_list.h"
 #include "alerting/services/user_base.h"
 #include "platform/ui/desktop.h"
+#include "platform/ui/dialog.h"
+#include "platform/ui/lists.h"
 #include "tests/support/failing_engine.h"
+#include "tests/support/temporary.h"
 
 namespace test_support {
 
@@ -24,8 +27,8 @@ namespace test_support {
 class FakeDbConfig : public dbconfig::DbConfig {
  public:
   void GetQEVDataDirectory(char* buffer, std::size_t size) override;
-  std::uint32_t CreateAlertServerConfigFile(std::uint32_t zero) override;
-  std::uint32_t IsConversionComplete() override;
+  std::uint32_t CreateAlertServerConfigFile(std::uint32_t) override { return ++files_written, result; }
+  std::uint32_t IsConversionComplete() override { return polls_until_complete-- <= 0; }
 
   int files_written = 0;
   std::uint32_t result = 0;
@@ -58,14 +61,14 @@ class LibraryUnderTest {
   LibraryUnderTest();
   ~LibraryUnderTest();
 
-  const std::string& Directory() const { return directory_; }
+  const std::string& Directory() const { return directory_.Path(); }
 
   FakeDbConfig dbconfig;
   FakeAgentUi agentui;
   std::shared_ptr<FailingEngine> engine;
 
  private:
-  std::string directory_;
+  const TemporaryDirectory directory_;
   alerting::Companions before_;
 };
 
@@ -96,43 +99,38 @@ class ServiceTest : public ::testing::Test {
   LibraryUnderTest library;
 
   /// A message that no test took is one that nobody expected.
-  void TearDown() override { ExpectNoMessages(); }
-
- private:
-  void ExpectNoMessages();
+  void TearDown() override;
 };
+
+/// Calls `visit.template operator()<Type>()` with the n-th of the types.
+template <class Type, class... Others, class Visit>
+auto VisitNth(std::size_t n, Visit&& visit) {
+  if constexpr (sizeof...(Others) > 0)
+    if (n > 0) return VisitNth<Others...>(n - 1, visit);
+  return visit.template operator()<Type>();
+}
+
+/// Where a type with a specific record stands in a list of them all: phone calls have none.
+constexpr std::size_t PlaceOf(std::uint32_t code) { return code > alerting::kTypePhone ? code - 1 : code; }
 
 /// Calls `visit.template operator()<Record>()` with the specific record of a type. Not for Program Launch.
 template <class Visit>
-decltype(auto) WithRecordOf(std::uint32_t code, Visit&& visit) {
+auto WithRecordOf(std::uint32_t code, Visit&& visit) {
   using namespace alertstore;  // NOLINT
-  switch (code) {
-    case alerting::kTypeMhs:
-      return visit.template operator()<ALRTMHSSERVICEREC>();
-    case alerting::kTypeSnmp:
-      return visit.template operator()<ALRTSNMPSERVICEREC>();
-    case alerting::kTypeMci:
-      return visit.template operator()<ALRTMCISERVICEREC>();
-    case alerting::kTypeCompuServe:
-      return visit.template operator()<ALRTCOMPUSSERVICEREC>();
-    case alerting::kTypeSmtp:
-      return visit.template operator()<ALRTSMTPSERVICEREC>();
-    case alerting::kTypeMapi:
-      return visit.template operator()<ALRTMAPISERVICEREC>();
-    case alerting::kTypeVim:
-      return visit.template operator()<ALRTCCMAILSERVICEREC>();
-    case alerting::kTypeWave:
-      return visit.template operator()<ALRTWAVESERVICEREC>();
-    case alerting::kTypeTts:
-      return visit.template operator()<ALRTTTSSERVICEREC>();
-    case alerting::kTypeAlpha:
-      return visit.template operator()<ALRTAPAGESERVICEREC>();
-    case alerting::kTypeNumeric:
-      return visit.template operator()<ALRTNPAGESERVICEREC>();
-    default:
-      return visit.template operator()<ALRTGENPORTSERVICEREC>();
-  }
+  return VisitNth<ALRTMHSSERVICEREC, ALRTSNMPSERVICEREC, ALRTMCISERVICEREC, ALRTCOMPUSSERVICEREC,
+                  ALRTSMTPSERVICEREC, ALRTMAPISERVICEREC, ALRTCCMAILSERVICEREC, ALRTWAVESERVICEREC,
+                  ALRTTTSSERVICEREC, ALRTAPAGESERVICEREC, ALRTNPAGESERVICEREC, ALRTGENPORTSERVICEREC>(
+      PlaceOf(code), visit);
 }
+
+/// Changes the bytes of a record: a text and the zeros behind it, or a number. Width or offset 0: none.
+void PutText(std::string& bytes, std::size_t offset, std::size_t width, const std::string& text);
+void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value);
+
+struct ListDialog : platform::ui::Dialog {
+  ListDialog() : Dialog(nullptr, "Users") {}
+  platform::ui::ListBox list{*this, 1, "&Users:", true};
+};
 
 /// The thirteen types that have a class.
 std::vector<std::uint32_t> ConfiguredTypes();
@@ -152,6 +150,16 @@ alerting::CNtfyService* Find(const platform::GUID& service);
 template <class Service>
 Service& FindAs(const platform::GUID& service) {
   return dynamic_cast<Service&>(*Find(service));
+}
+
+/// What a scan of an open store gives.
+template <class Store>
+auto RecordsOf(Store& store, std::uint32_t selector, const platform::GUID* key = nullptr) {
+  std::vector<typename Store::RecordType> records;
+  typename Store::RecordType record{};
+  auto status = store.DBAlertRecFindFirst(selector, key != nullptr ? 16 : 0, key, record);
+  for (; status == alertstore::kOk; status = store.DBAlertRecFindNext(record)) records.push_back(record);
+  return records;
 }
 
 /// Adds a console user.
