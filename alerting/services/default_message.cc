@@ -12,8 +12,7 @@ KeywordIds ReadKeywordSlots(const KeywordSlot (&keyword_slots)[kKeywordSlots]) {
 void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&keyword_slots)[kKeywordSlots]) {
   for (std::size_t i = 0; i < kMaxKeywords; ++i) {
     keyword_slots[i] = KeywordSlot{};
-    if (ids[i] == 0) continue;
-    const char* name = KeywordName(ids[i]);
+    const char* name = KeywordName(ids[i]);  // null for 0, whose slot stays all zero
     const char* format = KeywordFormat(ids[i]);
     keyword_slots[i].id = ids[i];
     keyword_slots[i].text.Assign(name != nullptr ? name : "");
