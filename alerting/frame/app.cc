@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::uint32_t kOpenPollMilliseconds = 100;
 constexpr std::uint32_t kConversionPollMilliseconds = 1000;
-constexpr char kModemTypeFile[] = "QModemDB.dat";
 
 /// Gives back what it set on every way out.
 class FlagWhile {

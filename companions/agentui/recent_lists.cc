@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <nlohmann/json.hpp>
 
+#include "platform/base/atomic_write.h"
 #include "platform/base/paths.h"
 
 namespace agentui {
@@ -42,7 +43,8 @@ void AddRecentEntry(const std::string& list, std::string_view entry) {
   entries.insert(entries.begin(), std::string(entry));
   entries.resize(std::min(entries.size(), kRecentLimit));
   file[list] = entries;
-  if (!platform::MakeDirectories(platform::DataDirectory())) return;
+  platform::FileError unfit;
+  if (!platform::PreparePrivateDirectory(platform::DataDirectory(), unfit)) return;
   platform::WriteFileAtomically(FilePath(), file.dump(2, ' ', false, Json::error_handler_t::replace) + "\n",
                                 0600);
 }

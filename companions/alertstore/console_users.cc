@@ -24,10 +24,7 @@ constexpr std::uint32_t kUserByIdentity = 1;
 
 class ConsoleUserStore : public RecordStore<ConsoleUserRecord> {
  public:
-  ConsoleUserStore()
-      : RecordStore({"ConsoleUsers.dat",
-                     sizeof(ConsoleUserRecord),
-                     {{kUserByIdentity, KeyKind::kIdentity, 0, sizeof(platform::GUID)}}}) {}
+  ConsoleUserStore() : RecordStore(ConsoleUserSchema()) {}
 };
 
 // Runs an operation on the open store.
@@ -45,6 +42,13 @@ bool IsName(std::string_view name) {
 }
 
 }  // namespace
+
+const StoreSchema& ConsoleUserSchema() {
+  static const StoreSchema schema{"ConsoleUsers.dat",
+                                  sizeof(ConsoleUserRecord),
+                                  {{kUserByIdentity, KeyKind::kIdentity, 0, sizeof(platform::GUID)}}};
+  return schema;
+}
 
 Status QevGetUserName(const platform::GUID& user, std::uint32_t size, char* buffer) {
   if (buffer == nullptr || size == 0) return kInvalidArgument;

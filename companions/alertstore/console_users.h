@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "companions/alertstore/schema.h"
 #include "companions/alertstore/status.h"
 #include "platform/base/guid.h"
 
@@ -24,6 +25,9 @@ struct ConsoleUser {
 };
 
 inline constexpr std::size_t kMaxConsoleUserName = 64;
+
+/// How the store keeps them.
+const StoreSchema& ConsoleUserSchema();
 
 /// kInvalidArgument for a null identity and for a name that is empty, longer than 64 bytes or holds a zero
 /// byte; kNotUnique for an identity that is there.

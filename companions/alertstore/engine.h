@@ -22,7 +22,8 @@ class Table {
   /// first record; kNotFound when there is none. A text key holds no zero byte; any other has the width of
   /// the field.
   virtual Status FindFirst(const Selector& selector, std::string_view key, void* out) = 0;
-  /// Begins a scan of all records in the order of adding.
+  /// Begins a scan of all records in the order of adding. Scans pass over a record that has not the size of a record
+  /// and note it (LeftOutRecords).
   virtual Status FindFirst(void* out) = 0;
   /// The next record of the scan; kEndOfScan after its last one. A record that was deleted since is skipped.
   virtual Status FindNext(void* out) = 0;
@@ -49,12 +50,12 @@ class Engine {
  public:
   virtual ~Engine() = default;
 
-  /// Opens the store's file, and makes it where it is missing. On failure `table` stays as it was.
+  /// Opens the store's file. One that is missing counts as empty and is made by the first write. On failure `table` stays
+  /// as it was.
   virtual Status Open(const StoreSchema& schema, std::unique_ptr<Table>& table) = 0;
 
   /// Until EndRead, all reads of this process see the records of one moment, and writes answer kInsideRead.
-  /// Scopes may be nested. Open the stores that will be read before the scope: a missing file cannot be made
-  /// inside it.
+  /// Scopes may be nested.
   virtual Status BeginRead() = 0;
   virtual void EndRead() = 0;
 };

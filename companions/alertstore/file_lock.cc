@@ -3,6 +3,8 @@
 
 #include <fcntl.h>
 #include <pthread.h>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -11,6 +13,10 @@
 #include <mutex>
 #include <set>
 #include <utility>
+
+#include "companions/alertstore/problem.h"
+#include "companions/alertstore/status_text.h"
+#include "platform/base/private_file.h"
 
 namespace alertstore {
 namespace {
@@ -45,23 +51,16 @@ void RegisterForkHandlers() {
   static_cast<void>(registered);
 }
 
-int OpenLockFile(const std::string& path) {
-  RegisterForkHandlers();
-  const std::lock_guard guard(Held().mutex);
-  const int fd = open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  if (fd < 0) return -1;
-  try {
-    Held().fds.insert(fd);
-  } catch (...) {
-    close(fd);
-    throw;
-  }
-  return fd;
+// Takes over an open file as one that must not be inherited; -1 for none.
+int Hold(platform::Descriptor file) {
+  if (file.IsOpen()) Held().fds.insert(file.Get());
+  return file.Release();
 }
 
-void CloseLockFile(int fd) {
+void CloseHeld(int& fd) {
   const std::lock_guard guard(Held().mutex);
-  if (Held().fds.erase(fd) == 1) close(fd);  // in a forked child it is closed already
+  const int closed = std::exchange(fd, -1);
+  if (Held().fds.erase(closed) == 1) close(closed);  // in a forked child it is closed already
 }
 
 int SetLock(int fd, long byte, short type) {
@@ -73,10 +72,23 @@ int SetLock(int fd, long byte, short type) {
   return fcntl(fd, F_OFD_SETLK, &lock);
 }
 
+Status LockTimeout() { return Fail(kLockTimeout, StatusText(kLockTimeout)); }
+
 Status WaitForByte(int fd, long byte, Clock::time_point deadline) {
   while (SetLock(fd, byte, F_WRLCK) != 0) {
-    if (errno != EAGAIN && errno != EACCES && errno != EINTR) return kIoError;
-    if (Clock::now() >= deadline) return kLockTimeout;
+    if (errno != EAGAIN && errno != EACCES && errno != EINTR)
+      return Fail(platform::SystemError("lock", "the lock file"));
+    if (Clock::now() >= deadline) return LockTimeout();
+    usleep(kPollMicroseconds);
+  }
+  return kOk;
+}
+
+// Locks a directory for shared or exclusive use. A file system that does not know this kind of lock goes without.
+Status LockDirectory(int directory, int kind, Clock::time_point deadline) {
+  while (flock(directory, kind | LOCK_NB) != 0) {
+    if (errno != EWOULDBLOCK && errno != EINTR) return kOk;
+    if (Clock::now() >= deadline) return LockTimeout();
     usleep(kPollMicroseconds);
   }
   return kOk;
@@ -99,27 +111,63 @@ long ByteOf(std::string_view name) {
   return static_cast<long>(hash >> 2 & ~std::uint64_t{1});
 }
 
+bool Exists(const std::string& path) {
+  struct stat ignored {};
+  return lstat(path.c_str(), &ignored) == 0;
+}
+
 }  // namespace
 
 FileLock::FileLock(std::string path, std::string_view name)
     : path_(std::move(path)), owner_byte_(ByteOf(name)) {}
 
 Status FileLock::Acquire() {
-  if (fd_ >= 0) return kAlreadyLocked;
-  const int fd = OpenLockFile(path_);
-  if (fd < 0) return kIoError;
-  const Status status = WaitInLine(fd, owner_byte_, Clock::now() + WaitLimit());
-  if (status != kOk) {
-    CloseLockFile(fd);
-    return status;
+  if (file_ >= 0) return Fail(kAlreadyLocked, StatusText(kAlreadyLocked));
+  const Clock::time_point deadline = Clock::now() + WaitLimit();
+  RegisterForkHandlers();
+  for (;;) {
+    Status status = Open(deadline);
+    if (status == kOk) status = WaitInLine(file_, owner_byte_, deadline);
+    const bool current = status == kOk && platform::IsFileAt(path_, file_);
+    if (current) return kOk;
+    Close();
+    if (status != kOk) return status;  // else the file was taken away while it was waited for
   }
-  fd_ = fd;
-  return kOk;
+}
+
+// Every holder has the directory for shared use; so a lock file is made, for exclusive use, while nobody holds a lock.
+Status FileLock::Open(Clock::time_point deadline) {
+  {
+    const std::lock_guard guard(Held().mutex);
+    directory_ = Hold(
+        platform::Descriptor(open(platform::ParentOf(path_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
+  }
+  if (directory_ < 0) return Fail(platform::SystemError("open", platform::ParentOf(path_)));
+  platform::FileError error{ENOENT, {}};
+  while (file_ < 0 && error.number == ENOENT) {
+    if (!Exists(path_))
+      if (const Status status = MakeFile(deadline); status != kOk) return status;
+    const std::lock_guard guard(Held().mutex);
+    file_ = Hold(platform::OpenExistingPrivateFile(path_, error));
+  }
+  if (file_ < 0) return Fail(error);
+  return LockDirectory(directory_, LOCK_SH, deadline);
+}
+
+Status FileLock::MakeFile(Clock::time_point deadline) {
+  if (const Status status = LockDirectory(directory_, LOCK_EX, deadline); status != kOk) return status;
+  platform::FileError error;
+  return platform::MakePrivateFile(path_, error) ? kOk : Fail(error);
+}
+
+void FileLock::Close() {
+  CloseHeld(file_);
+  CloseHeld(directory_);
 }
 
 Status FileLock::Release() {
-  if (fd_ < 0) return kNotLocked;
-  CloseLockFile(std::exchange(fd_, -1));
+  if (file_ < 0) return kNotLocked;
+  Close();
   return kOk;
 }
 

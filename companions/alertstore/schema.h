@@ -12,6 +12,7 @@ enum class KeyKind {
   kGuid,        ///< another identity in the record; any number of records may share it
   kText,        ///< a text field; compared up to its terminator
   kUniqueText,  ///< a text field that no two records of the store share
+  kGuidPair,    ///< two identities in the record, one behind the other in a key of 32 bytes
 };
 
 /// A way to look records up: a number that callers know, and the field that it compares.
@@ -19,7 +20,8 @@ struct Selector {
   std::uint32_t number;
   KeyKind kind;
   std::uint32_t offset;
-  std::uint32_t width;
+  std::uint32_t width;              ///< of the key
+  std::uint32_t second_offset = 0;  ///< of a kGuidPair's second identity
 };
 
 /// What an engine must know of a store.

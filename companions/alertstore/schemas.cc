@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "companions/alertstore/console_users.h"
 #include "companions/alertstore/selectors.h"
 #include "companions/alertstore/stores.h"
 
@@ -21,6 +22,13 @@ constexpr Selector Guid(std::uint32_t number, std::uint32_t offset) {
 template <class Record>
 StoreSchema Schema(std::string file, std::vector<Selector> selectors) {
   return {std::move(file), sizeof(Record), std::move(selectors)};
+}
+
+constexpr std::uint32_t kGuidPairWidth = 2 * sizeof(platform::GUID);
+
+template <class... Records>
+std::vector<StoreSchema> SchemasOf() {
+  return {SchemaOf<Records>()...};
 }
 
 template <class Record>
@@ -51,8 +59,11 @@ const StoreSchema& SchemaOf<ALERTRESPREC>() {
 template <>
 const StoreSchema& SchemaOf<ALRTUSRINSTSERV>() {
   static const StoreSchema schema = Schema<ALRTUSRINSTSERV>(
-      "UsrInstServDB.dat", {Identity(kLinkByIdentity), Guid(kLinkByUser, offsetof(ALRTUSRINSTSERV, userId)),
-                            Guid(kLinkByUserRecord, offsetof(ALRTUSRINSTSERV, userRecordId))});
+      "UsrInstServDB.dat", {Identity(kLinkByIdentity),
+                            Guid(kLinkByUser, offsetof(ALRTUSRINSTSERV, userId)),
+                            Guid(kLinkByUserRecord, offsetof(ALRTUSRINSTSERV, userRecordId)),
+                            {kLinkByServiceAndUser, KeyKind::kGuidPair, offsetof(ALRTUSRINSTSERV, serviceId),
+                             kGuidPairWidth, offsetof(ALRTUSRINSTSERV, userId)}});
   return schema;
 }
 
@@ -233,6 +244,21 @@ const StoreSchema& SchemaOf<ALRTSERV_INST_NTFY_SERVREC>() {
        Guid(kEnabledServiceByService, offsetof(ALRTSERV_INST_NTFY_SERVREC, serviceGuid)),
        Guid(kEnabledServiceByManager, offsetof(ALRTSERV_INST_NTFY_SERVREC, managerGuid))});
   return schema;
+}
+
+std::vector<StoreSchema> SiteSchemas() {
+  std::vector<StoreSchema> schemas =
+      SchemasOf<ALRTNTFYSERV, ALERTRESPREC, ALRTUSRINSTSERV, ALRTMHSSERVICEREC, ALRTSNMPSERVICEREC,
+                ALRTMCISERVICEREC, ALRTCOMPUSSERVICEREC, ALRTSMTPSERVICEREC, ALRTMAPISERVICEREC,
+                ALRTCCMAILSERVICEREC, ALRTWAVESERVICEREC, ALRTTTSSERVICEREC, ALRTAPAGESERVICEREC,
+                ALRTNPAGESERVICEREC, ALRTGENPORTSERVICEREC, ALRTUSR_MHSSERVICEREC, ALRTUSR_MCISERVICEREC,
+                ALRTUSR_COMPUSERVICEREC, ALRTUSR_SMTPSERVICEREC, ALRTUSR_MAPISERVICEREC,
+                ALRTUSR_CCMAILSERVICEREC, ALRTUSR_APAGESERVICEREC, ALRTUSR_NPAGESERVICEREC,
+                ALRTUSR_SNMPSERVICEREC, ALRTSERV_MODEM, ALRTMODEM_LOCATION, ALRTAPAGE_SERVICE_PROVIDER_REC,
+                ALRT_SRV_CFGREC, ALRTSERV_INST_NTFY_SERVREC>();
+  schemas.push_back(CAlertSERV_MODEMDB(kModemTypeFile).Schema());
+  schemas.push_back(ConsoleUserSchema());
+  return schemas;
 }
 
 }  // namespace alertstore

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
 #include "companions/alertstore/records.h"
 #include "companions/alertstore/store.h"
 
 namespace alertstore {
 
 // The schema of each record's store; defined in schemas.cc.
+
+/// The schemas of all stores of a site: those below, the modem types and the console users.
+std::vector<StoreSchema> SiteSchemas();
 
 template <>
 const StoreSchema& SchemaOf<ALRTNTFYSERV>();

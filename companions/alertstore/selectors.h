@@ -25,6 +25,8 @@ inline constexpr std::uint32_t kEnabledServiceByManager = 68;
 inline constexpr std::uint32_t kLinkByIdentity = 73;
 inline constexpr std::uint32_t kLinkByUser = 74;
 inline constexpr std::uint32_t kLinkByUserRecord = 75;
+/// The identity of the service, then that of the user: a user may have thousands of links.
+inline constexpr std::uint32_t kLinkByServiceAndUser = 76;
 
 /// The selectors of a user store.
 struct UserSelectors {

@@ -9,28 +9,18 @@
 #include <system_error>
 
 #include "companions/alertstore/guarded.h"
-#include "platform/base/paths.h"
+#include "companions/alertstore/problem.h"
+#include "companions/alertstore/sqlite_layout.h"
+#include "platform/base/private_file.h"
 
 namespace alertstore {
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr auto kBusyLimit = std::chrono::seconds(5);
 constexpr auto kScanTime = std::chrono::milliseconds(20);
-constexpr useconds_t kPollMicroseconds = 100;
-
-std::string IndexName(const StoreSchema& schema, const Selector& selector) {
-  return '"' + schema.file + '.' + std::to_string(selector.number) + '"';
-}
-
-bool IsUnique(const Selector& selector) {
-  return selector.kind == KeyKind::kIdentity || selector.kind == KeyKind::kUniqueText;
-}
-
-// An empty file that only this user can read; the database's other files get its mode. Made without opening
-// it: closing a descriptor of the database drops the locks that SQLite holds on it.
-void MakePrivateFile(const std::string& path) { static_cast<void>(mknod(path.c_str(), S_IFREG | 0600, 0)); }
+// What SQLite takes, less the longest suffix that it gives to files of its own.
+constexpr std::size_t kMaxPath = 512 - 9;
 
 // A thread of this component takes no signals: they are the business of the program that loaded it.
 class SignalsBlocked {
@@ -50,29 +40,25 @@ class SignalsBlocked {
 
 }  // namespace
 
-std::string TableName(const StoreSchema& schema) { return '"' + schema.file + '"'; }
-
-std::string KeyExpression(const Selector& selector) {
-  const std::string start = std::to_string(selector.offset + 1);
-  const std::string field = "substr(record," + start + ',' + std::to_string(selector.width) + ')';
-  if (selector.kind == KeyKind::kIdentity || selector.kind == KeyKind::kGuid) return field;
-  // The text alone, so that what stands behind its terminator makes no difference.
-  return "substr(record," + start + ",ifnull(nullif(instr(" + field + ",x'00'),0)," +
-         std::to_string(selector.width + 1) + ")-1)";
-}
-
 Status Database::Open(const std::string& directory, std::shared_ptr<Database>& database) {
-  if (!platform::MakeDirectories(directory)) return kIoError;
   std::shared_ptr<Database> opened(new Database(directory));
+  if (opened->file_.size() > kMaxPath)
+    return Fail(kPathTooLong, "the path of the data directory is too long: at most " +
+                                  std::to_string(kMaxPath - opened->file_.size() + directory.size()) +
+                                  " bytes");
+  platform::FileError error;
+  if (!platform::CouldPreparePrivateDirectory(directory, error)) return Fail(error);
   const std::lock_guard lock(opened->mutex_);
-  if (const Status status = opened->Connect(); status != kOk) return status;
-  if (const Status status = opened->Configure(); status != kOk) return status;
-  database = std::move(opened);
-  return kOk;
+  const Status status = opened->Reading();
+  if (status == kOk || status == kNotFound) database = std::move(opened);
+  return status == kNotFound ? kOk : status;
 }
 
 Database::Database(const std::string& directory)
-    : file_(directory + "/alerting.db"), lock_file_(directory + "/alerting.lock"), process_(getpid()) {}
+    : directory_(directory),
+      file_(directory + "/alerting.db"),
+      lock_file_(directory + "/alerting.lock"),
+      process_(getpid()) {}
 
 Database::~Database() {
   if (!limiter_.joinable()) return;
@@ -88,105 +74,119 @@ Database::~Database() {
   limiter_.join();
 }
 
+Status Database::PrepareDirectory() {
+  platform::FileError error;
+  return platform::PreparePrivateDirectory(directory_, error) ? kOk : Fail(error);
+}
+
+void Database::Disconnect() {
+  EndScans();
+  known_tables_.clear();
+  connection_.reset();
+  ++generation_;
+}
+
 Status Database::Connect() {
-  MakePrivateFile(file_);
-  const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
-  sqlite3* connection = nullptr;
-  const int result = sqlite3_open_v2(file_.c_str(), &connection, flags, nullptr);
-  connection_.reset(connection);  // a failed open may leave one to be closed
-  if (result != SQLITE_OK) return StatusOfResult(result);
-  return StatusOfResult(sqlite3_busy_handler(connection, WaitWhileBusy, this));
+  Disconnect();
+  return alertstore::Connection::Open(file_, connection_);
 }
 
-// SQLite's own waits grow to 100 milliseconds a step, so that one of two busy consoles hardly ever gets its
-// turn.
-int Database::WaitWhileBusy(void* database, int count) {
-  auto* self = static_cast<Database*>(database);
-  if (count == 0) self->busy_since_ = Clock::now();
-  if (Clock::now() - self->busy_since_ >= kBusyLimit) return 0;
-  usleep(kPollMicroseconds);
-  return 1;
+Status Database::Reading() {
+  if (connection_ != nullptr && !connection_->IsSnapshot()) return kOk;
+  if (read_of_nothing_) return kNotFound;
+  if (connection_ != nullptr && connection_->IsCurrent()) return kOk;
+  struct stat ignored {};
+  return lstat(file_.c_str(), &ignored) != 0 && errno == ENOENT ? kNotFound : Connect();
 }
 
-// Every change is durable when it is acknowledged. The page size, which keeps a whole record in one page,
-// counts only before there is a journal. Two processes that make the database at once get in each other's way
-// without SQLite calling the busy handler, hence the loop.
-Status Database::Configure() {
-  for (const char* pragma : {"PRAGMA page_size=8192", "PRAGMA journal_mode=WAL", "PRAGMA synchronous=FULL",
-                             "PRAGMA mmap_size=1073741824"}) {
-    Status status = Run(pragma);
-    for (int count = 0; status == kLockTimeout && WaitWhileBusy(this, count) != 0; ++count)
-      status = Run(pragma);
+Status Database::CheckFile() {
+  if (connection_ == nullptr || connection_->IsSnapshot() || connection_->IsCurrent()) return kOk;
+  return Fail(kCorrupt,
+              file_ +
+                  " was replaced or removed while it was in use: close all consoles, then put a backup in "
+                  "its place (\"alertctl restore FILE\")");
+}
+
+Status Database::PrepareToWrite(const StoreSchema& schema) {
+  if (const Status status = CheckFile(); status != kOk) return status;
+  if (connection_ == nullptr || writable_generation_ != generation_)
+    if (const Status status = ConnectForWriting(); status != kOk) return status;
+  return CreateMissing(schema);
+}
+
+Status Database::ConnectForWriting() {
+  if (const Status status = PrepareDirectory(); status != kOk) return status;
+  platform::FileError error;
+  if (!platform::MakePrivateFile(file_, error)) return Fail(error);
+  if (connection_ == nullptr || connection_->IsSnapshot())
+    if (const Status status = Connect(); status != kOk) return status;
+  return connection_->ConfigureForWriting();
+}
+
+Status Database::CreateMissing(const StoreSchema& schema) {
+  if (writable_generation_ != generation_) {
+    int version = 0;
+    if (const Status status = ReadLayoutVersion(Connection(), version); status != kOk) return status;
+    const Status status =
+        version == kLayoutVersion ? kOk : Transaction([this] { return CreateLayout(Connection()); });
     if (status != kOk) return status;
+    writable_generation_ = generation_;
   }
-  return kOk;
-}
-
-Status Database::Run(const std::string& sql) {
-  Statement statement{sql};
-  if (const Status status = statement.Start(Connection()); status != kOk) return status;
-  return statement.Execute();
-}
-
-Status Database::HasTable(const StoreSchema& schema, bool& found) {
-  Statement find{"SELECT 1 FROM sqlite_schema WHERE type='table' AND name='" + schema.file +
-                 "' COLLATE NOCASE"};
-  if (const Status status = find.Start(Connection()); status != kOk) return status;
-  const ResetAtExit reset(find);
-  const int result = find.Step();
-  found = result == SQLITE_ROW;
-  return StatusOfResult(result);
-}
-
-Status Database::EnsureTable(const StoreSchema& schema) {
+  if (known_tables_.contains(schema.file)) return kOk;
   bool found = false;
-  if (const Status status = HasTable(schema, found); status != kOk || found) return status;
-  return Write([&] { return CreateTable(schema); });
-}
-
-// Another process may have made the table since it was looked for.
-Status Database::CreateTable(const StoreSchema& schema) {
-  const std::string table = TableName(schema);
-  Status status =
-      Run("CREATE TABLE IF NOT EXISTS " + table + "(id INTEGER PRIMARY KEY, record BLOB NOT NULL)");
-  for (const Selector& selector : schema.selectors) {
-    if (status != kOk) return status;
-    status = Run((IsUnique(selector) ? "CREATE UNIQUE INDEX IF NOT EXISTS " : "CREATE INDEX IF NOT EXISTS ") +
-                 IndexName(schema, selector) + " ON " + table + '(' + KeyExpression(selector) + ')');
-  }
+  Status status = FindTable(Connection(), schema, found);
+  if (status == kOk && !found) status = Transaction([&] { return CreateTable(Connection(), schema); });
+  if (status == kOk) known_tables_.insert(schema.file);
   return status;
 }
 
-Status Database::Write(const std::function<Status()>& body) {
+Status Database::Write(const StoreSchema& schema, const std::function<Status()>& body) {
   if (inside_read_) return kInsideRead;
   // A write cannot follow on a read transaction that began before the last write of another process.
   EndScans();
+  const Status status = PrepareToWrite(schema);
+  return status == kOk ? Transaction(body) : status;
+}
+
+Status Database::Transaction(const std::function<Status()>& body) {
   if (const Status status = begin_write_.Start(Connection()); status != kOk) return status;
   if (const Status status = begin_write_.Execute(); status != kOk) return status;
   Status status = Guarded(body);
   if (status == kOk) status = commit_.Start(Connection());
   if (status == kOk) status = commit_.Execute();
   // Some failures have undone the transaction already.
-  if (status != kOk && sqlite3_get_autocommit(Connection()) == 0) Run("ROLLBACK");
+  if (status != kOk && sqlite3_get_autocommit(Connection()) == 0) {
+    const Problem cause = LastProblem();
+    RunSql(Connection(), "ROLLBACK");
+    Fail(cause.status, cause.text);
+  }
   return status;
 }
 
 Status Database::BeginRead() {
+  if (const Status status = CheckFile(); status != kOk) return status;
   EndScans();
-  if (const Status status = Run("BEGIN"); status != kOk) return status;
-  // The moment that is seen is that of the first read, so there is one now.
-  if (const Status status = Run("SELECT count(*) FROM sqlite_schema"); status != kOk) {
-    Run("ROLLBACK");
-    return status;
-  }
+  const Status reading = Reading();
+  if (reading != kOk && reading != kNotFound) return reading;
+  if (reading == kOk)
+    if (const Status status = BeginSnapshot(); status != kOk) return status;
+  read_of_nothing_ = reading == kNotFound;
   inside_read_ = true;
   return kOk;
 }
 
+// The moment that is seen is that of the first read, so there is one now.
+Status Database::BeginSnapshot() {
+  if (const Status status = RunSql(Connection(), "BEGIN"); status != kOk) return status;
+  const Status status = RunSql(Connection(), "SELECT count(*) FROM sqlite_schema");
+  if (status != kOk) RunSql(Connection(), "ROLLBACK");
+  return status;
+}
+
 void Database::EndRead() {
   EndScans();
-  Run("COMMIT");
-  inside_read_ = false;
+  if (!read_of_nothing_) RunSql(Connection(), "COMMIT");
+  inside_read_ = read_of_nothing_ = false;
 }
 
 bool Database::KeepScanRunning() {
@@ -206,10 +206,11 @@ bool Database::KeepScanRunning() {
 }
 
 void Database::EndScans() {
+  scan_running_ = false;
+  if (connection_ == nullptr) return;
   for (sqlite3_stmt* statement = nullptr;
        (statement = sqlite3_next_stmt(Connection(), statement)) != nullptr;)
     if (sqlite3_stmt_busy(statement)) sqlite3_reset(statement);
-  scan_running_ = false;
 }
 
 // The limiter thread: whoever begins a scan and stops half-way does nothing more that could end it.

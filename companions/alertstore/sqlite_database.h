@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <sqlite3.h>
 #include <sys/types.h>
 
 #include <chrono>
@@ -9,74 +8,80 @@
 #include <functional>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <thread>
 
 #include "companions/alertstore/schema.h"
+#include "companions/alertstore/sqlite_connection.h"
 #include "companions/alertstore/sqlite_statement.h"
 #include "companions/alertstore/status.h"
 
 namespace alertstore {
 
-/// The table name of a store, quoted for a statement.
-std::string TableName(const StoreSchema& schema);
-/// The expression whose value is the key field of a record, as the indexes hold it.
-std::string KeyExpression(const Selector& selector);
-
-/// One connection to the database of a data directory, shared by all its tables. Its user holds Mutex()
-/// during every call. A connection is of no use in a forked child.
+/// The database of a data directory, shared by all its tables. Its user holds Mutex() during every call. Reading makes
+/// nothing: until the first write a directory or a file that is not there is a database without records. Of no use in a
+/// forked child.
 class Database {
  public:
-  /// Makes the directory and the database where they are missing.
+  /// Fails for a database that cannot be read, and for a missing one that could not be made.
   static Status Open(const std::string& directory, std::shared_ptr<Database>& database);
   ~Database();
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
 
   std::mutex& Mutex() { return mutex_; }
-  sqlite3* Connection() { return connection_.get(); }
+  sqlite3* Connection() { return connection_ ? connection_->Get() : nullptr; }
+  /// Counts the connections: what was learned through another one may be wrong now.
+  int Generation() const { return generation_; }
   /// The file whose bytes are the locks of the stores.
   const std::string& LockFile() const { return lock_file_; }
+  /// Makes the directory where it is missing; a status for one that is not fit for use.
+  Status PrepareDirectory();
 
-  /// Makes the store's table and indexes where they are missing.
-  Status EnsureTable(const StoreSchema& schema);
+  /// Before each read: kNotFound while there is no database.
+  Status Reading();
+  /// Before each scan and write: kCorrupt when the file has lost its name to another one, or altogether. A console that
+  /// wrote on would tell of success and lose the record, and the journal left behind belongs to no other file.
+  Status CheckFile();
 
-  /// Runs `body` in a write transaction of its own, which is committed when the body answers kOk, else
-  /// undone.
-  Status Write(const std::function<Status()>& body);
+  /// Runs `body` in a write transaction of its own, which is committed when the body answers kOk, else undone. Before
+  /// it, what is missing of the database is made, and the table of `schema` where it is not one of a site's.
+  Status Write(const StoreSchema& schema, const std::function<Status()>& body);
 
   /// All reads between the two see one moment, and writes answer kInsideRead. Not nested.
   Status BeginRead();
   void EndRead();
 
-  /// A scan may leave its statement running between two calls, so that its reads and all others meanwhile
-  /// share one read transaction. True when it may; the statement is then reset before the next write of this
-  /// process and after a short time, since a reader that stands still keeps the journal from being emptied.
+  /// A scan may leave its statement running between two calls, so that its reads and all others meanwhile share one read
+  /// transaction. True when it may; the statement is then reset before the next write of this process and after a short
+  /// time, since a reader that stands still keeps the journal from being emptied.
   bool KeepScanRunning();
   /// Resets every running statement. Scans go on from where they were.
   void EndScans();
 
  private:
-  struct Closer {
-    void operator()(sqlite3* connection) const { sqlite3_close_v2(connection); }
-  };
-
   explicit Database(const std::string& directory);
 
-  static int WaitWhileBusy(void* database, int count);
   Status Connect();
-  Status Configure();
-  Status Run(const std::string& sql);
-  Status HasTable(const StoreSchema& schema, bool& found);
-  Status CreateTable(const StoreSchema& schema);
+  void Disconnect();
+  Status PrepareToWrite(const StoreSchema& schema);
+  Status ConnectForWriting();
+  Status CreateMissing(const StoreSchema& schema);
+  Status Transaction(const std::function<Status()>& body);
+  Status BeginSnapshot();
   void LimitScans();
 
+  const std::string directory_;
   const std::string file_;
   const std::string lock_file_;
   const pid_t process_;
-  std::unique_ptr<sqlite3, Closer> connection_;
-  std::chrono::steady_clock::time_point busy_since_;
+  std::unique_ptr<alertstore::Connection> connection_;
+  int generation_ = 0;
+  std::set<std::string> known_tables_;  // of the present connection
+  int writable_generation_ = 0;         // of the connection that has found or made the whole layout
   bool inside_read_ = false;
+  bool read_of_nothing_ = false;  // a consistent read began before there was a database
 
   std::mutex mutex_;
   std::condition_variable scan_state_changed_;

@@ -12,10 +12,10 @@
 namespace alertstore {
 namespace {
 
-// A later change of the working directory must not make the same name another database.
-std::string Absolute(const std::string& directory) {
+// One name for each directory, whatever links lead to it: names with links in them are refused further below.
+std::string Canonical(const std::string& directory) {
   std::error_code error;
-  const std::filesystem::path path = std::filesystem::absolute(directory, error);
+  const std::filesystem::path path = std::filesystem::weakly_canonical(directory, error);
   return error ? directory : path.string();
 }
 
@@ -26,7 +26,7 @@ SqliteEngine::SqliteEngine(std::string directory) : directory_(std::move(directo
 SqliteEngine::~SqliteEngine() = default;
 
 Status SqliteEngine::OpenDatabase(std::shared_ptr<Database>& database) {
-  const std::string directory = Absolute(directory_.empty() ? platform::DataDirectory() : directory_);
+  const std::string directory = Canonical(directory_.empty() ? platform::DataDirectory() : directory_);
   std::weak_ptr<Database>& shared = databases_[directory];
   database = shared.lock();
   if (database != nullptr) return kOk;
@@ -41,8 +41,9 @@ Status SqliteEngine::Open(const StoreSchema& schema, std::unique_ptr<Table>& tab
     std::shared_ptr<Database> database;
     if (const Status status = OpenDatabase(database); status != kOk) return status;
     const std::lock_guard database_lock(database->Mutex());
-    if (const Status status = database->EnsureTable(schema); status != kOk) return status;
-    table = std::make_unique<SqliteTable>(database, schema);
+    auto opened = std::make_unique<SqliteTable>(database, schema);
+    if (const Status status = opened->Check(); status != kOk) return status;
+    table = std::move(opened);
     return kOk;
   });
 }

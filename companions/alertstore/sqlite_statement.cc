@@ -1,9 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "companions/alertstore/sqlite_statement.h"
 
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#include <utility>
+
+#include "companions/alertstore/problem.h"
+#include "companions/alertstore/status_text.h"
+
 namespace alertstore {
 
-Status StatusOfResult(int result) {
+namespace {
+
+Status StatusOfFamily(int result) {
   switch (result & 0xFF) {
     case SQLITE_OK:
     case SQLITE_ROW:
@@ -18,6 +29,8 @@ Status StatusOfResult(int result) {
       return kNoMemory;
     case SQLITE_FULL:
       return kDiskFull;
+    case SQLITE_READONLY:
+      return kReadOnly;
     case SQLITE_CORRUPT:
     case SQLITE_NOTADB:
     case SQLITE_ERROR:  // a statement that does not fit the tables of a foreign database
@@ -27,10 +40,34 @@ Status StatusOfResult(int result) {
   }
 }
 
+const char* FileOf(sqlite3* connection) {
+  const char* file = sqlite3_db_filename(connection, "main");
+  return file != nullptr ? file : "the database";
+}
+
+// What the system said when a file could not be opened, read or written; 0 where it said nothing.
+int ErrorNumber(Status status, sqlite3* connection) {
+  if (status == kReadOnly) return access(FileOf(connection), W_OK) == 0 ? 0 : errno;
+  return status == kIoError ? sqlite3_system_errno(connection) : 0;
+}
+
+}  // namespace
+
+Status StatusOfResult(int result, sqlite3* connection) {
+  const Status status = StatusOfFamily(result);
+  if (status == kOk) return kOk;
+  if (const int number = ErrorNumber(status, connection); number != 0)
+    return Fail(StatusOfErrorNumber(number),
+                std::string("cannot read or write ") + FileOf(connection) + ": " + std::strerror(number));
+  return Fail(status, StatusText(status));
+}
+
 Status Statement::Start(sqlite3* connection) {
-  if (statement_ != nullptr) return kOk;
+  if (statement_ != nullptr && sqlite3_db_handle(statement_) == connection) return kOk;
+  sqlite3_finalize(std::exchange(statement_, nullptr));
   return StatusOfResult(sqlite3_prepare_v3(connection, sql_.c_str(), static_cast<int>(sql_.size()) + 1,
-                                           SQLITE_PREPARE_PERSISTENT, &statement_, nullptr));
+                                           SQLITE_PREPARE_PERSISTENT, &statement_, nullptr),
+                        connection);
 }
 
 void Statement::Bind(int parameter, std::string_view bytes) {
@@ -45,8 +82,9 @@ void Statement::Bind(int parameter, std::int64_t number) {
 Status Statement::Execute() {
   int result = Step();
   while (result == SQLITE_ROW) result = Step();
+  const Status status = StatusOf(result);
   sqlite3_reset(statement_);
-  return StatusOfResult(result);
+  return status;
 }
 
 std::string_view Statement::Bytes(int column) const {

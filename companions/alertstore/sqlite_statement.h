@@ -11,10 +11,12 @@
 
 namespace alertstore {
 
-/// What a result code of SQLite, plain or extended, means to a caller of the store.
-Status StatusOfResult(int result);
+/// What a result code of SQLite, plain or extended, means to a caller of the store. A failure is noted with the cause
+/// that the connection knows (LastProblem).
+Status StatusOfResult(int result, sqlite3* connection);
 
-/// A prepared statement, prepared on first use and kept.
+/// A prepared statement, prepared on first use and kept. It outlives its connection: used with another one it is
+/// prepared again.
 class Statement {
  public:
   explicit Statement(std::string sql) : sql_(std::move(sql)) {}
@@ -22,7 +24,7 @@ class Statement {
   Statement(const Statement&) = delete;
   Statement& operator=(const Statement&) = delete;
 
-  /// Prepares the statement where it is not. It can then be bound and stepped; whoever steps it resets it.
+  /// Prepares the statement where it is not for this connection. It can then be bound and stepped; whoever steps it resets it.
   Status Start(sqlite3* connection);
 
   /// Parameters count from 1. Bytes are not copied: they stay as they are until the statement is reset.
@@ -31,6 +33,8 @@ class Statement {
 
   /// SQLITE_ROW, SQLITE_DONE or an error.
   int Step() { return sqlite3_step(statement_); }
+  /// The status of what Step gave.
+  Status StatusOf(int result) const { return StatusOfResult(result, sqlite3_db_handle(statement_)); }
   /// True between a step that gave a row and the end or a reset.
   bool Running() const { return sqlite3_stmt_busy(statement_) != 0; }
   void Reset() { sqlite3_reset(statement_); }

@@ -7,6 +7,9 @@
 #include <utility>
 
 #include "companions/alertstore/guarded.h"
+#include "companions/alertstore/left_out.h"
+#include "companions/alertstore/problem.h"
+#include "companions/alertstore/sqlite_layout.h"
 
 namespace alertstore {
 namespace {
@@ -35,7 +38,7 @@ SqliteTable::KeyedFind::KeyedFind(const StoreSchema& schema, const Selector& by)
 
 SqliteTable::SqliteTable(std::shared_ptr<Database> database, const StoreSchema& schema)
     : database_(std::move(database)),
-      record_size_(schema.record_size),
+      schema_(schema),
       lock_(database_->LockFile(), schema.file),
       scan_(SelectFrom(schema) + " WHERE id>?1 ORDER BY id"),
       retrieve_(SelectFrom(schema) + WithIdentity()),
@@ -54,6 +57,24 @@ Status SqliteTable::Run(Operation operation) {
   });
 }
 
+Status SqliteTable::Check() {
+  if (const Status status = database_->Reading(); status != kOk) return status == kNotFound ? kOk : status;
+  bool found = false;
+  const Status status = FindTable(database_->Connection(), schema_, found);
+  if (status == kOk && found) seen_generation_ = database_->Generation();
+  return status;
+}
+
+template <class Operation>
+Status SqliteTable::Read(Operation operation) {
+  return Run([&] {
+    if (const Status status = database_->Reading(); status != kOk) return status;
+    if (seen_generation_ != database_->Generation())
+      if (const Status status = Check(); status != kOk) return status;
+    return seen_generation_ == database_->Generation() ? operation() : kNotFound;
+  });
+}
+
 SqliteTable::KeyedFind* SqliteTable::FindOf(const Selector& selector) {
   for (const auto& find : finds_)
     if (find->selector == selector.number) return find.get();
@@ -61,7 +82,8 @@ SqliteTable::KeyedFind* SqliteTable::FindOf(const Selector& selector) {
 }
 
 Status SqliteTable::FindFirst(const Selector& selector, std::string_view key, void* out) {
-  return Run([&] {
+  scan_kind_ = Scan::kNone;
+  return Read([&] {
     KeyedFind* find = FindOf(selector);
     if (find == nullptr) return kInvalidArgument;
     if (scan_.Running()) scan_.Reset();
@@ -75,7 +97,10 @@ Status SqliteTable::FindFirst(const Selector& selector, std::string_view key, vo
 
 // Many callers want the first record alone, so it does not leave the statement running.
 Status SqliteTable::FindFirst(void* out) {
-  return Run([&] {
+  scan_kind_ = Scan::kNone;
+  ForgetLeftOut(schema_.file);
+  return Read([&] {
+    if (const Status status = database_->CheckFile(); status != kOk) return status;
     scan_kind_ = Scan::kAll;
     last_id_ = kBeforeFirstRow;
     scan_.Reset();
@@ -86,13 +111,14 @@ Status SqliteTable::FindFirst(void* out) {
 }
 
 Status SqliteTable::FindNext(void* out) {
-  return Run([&] {
+  if (scan_kind_ == Scan::kNone) return kEndOfScan;
+  const Status status = Read([&] {
     if (scan_kind_ == Scan::kWithKey) return NextWithKey(out);
-    if (scan_kind_ == Scan::kNone) return kEndOfScan;
-    const Status status = NextOfAll(out);
+    const Status next = NextOfAll(out);
     if (!scan_.Running() || !database_->KeepScanRunning()) scan_.Reset();
-    return status;
+    return next;
   });
+  return status == kNotFound ? kEndOfScan : status;
 }
 
 Status SqliteTable::NextOfAll(void* out) {
@@ -100,7 +126,7 @@ Status SqliteTable::NextOfAll(void* out) {
     if (const Status status = scan_.Start(database_->Connection()); status != kOk) return status;
     scan_.Bind(1, last_id_);
   }
-  return TakeRow(scan_.Step(), scan_, out);
+  return TakeRow(scan_, out);
 }
 
 Status SqliteTable::FirstWithKey(void* out) {
@@ -108,7 +134,7 @@ Status SqliteTable::FirstWithKey(void* out) {
   if (const Status status = first.Start(database_->Connection()); status != kOk) return status;
   const ResetAtExit reset(first);
   first.Bind(1, key_);
-  return TakeRow(first.Step(), first, out);
+  return TakeRow(first, out);
 }
 
 Status SqliteTable::NextWithKey(void* out) {
@@ -117,33 +143,41 @@ Status SqliteTable::NextWithKey(void* out) {
   const ResetAtExit reset(next);
   next.Bind(1, key_);
   next.Bind(2, last_id_);
-  return TakeRow(next.Step(), next, out);
+  return TakeRow(next, out);
 }
 
-Status SqliteTable::TakeRow(int result, Statement& statement, void* out) {
-  if (result == SQLITE_DONE) {
-    scan_kind_ = Scan::kNone;
-    return kEndOfScan;
+// One record that cannot be read must not hide those behind it.
+Status SqliteTable::TakeRow(Statement& statement, void* out) {
+  for (;;) {
+    const int result = statement.Step();
+    if (result == SQLITE_DONE) {
+      scan_kind_ = Scan::kNone;
+      return kEndOfScan;
+    }
+    if (result != SQLITE_ROW) return statement.StatusOf(result);
+    last_id_ = statement.Number(0);
+    if (CopyRecord(statement, out)) return kOk;
+    NoteLeftOut(schema_.file, last_id_);
   }
-  if (result == SQLITE_ROW) last_id_ = statement.Number(0);
-  return CopyRecord(result, statement, out);
 }
 
-Status SqliteTable::CopyRecord(int result, const Statement& statement, void* out) const {
-  if (result != SQLITE_ROW) return StatusOfResult(result);
+bool SqliteTable::CopyRecord(const Statement& statement, void* out) const {
   const std::string_view record = statement.Bytes(1);
-  if (record.size() != record_size_) return kCorrupt;
+  if (record.size() != schema_.record_size) return false;
   std::memcpy(out, record.data(), record.size());
-  return kOk;
+  return true;
 }
 
 Status SqliteTable::Retrieve(const platform::GUID& id, void* out) {
-  return Run([&] {
+  return Read([&] {
     if (const Status status = retrieve_.Start(database_->Connection()); status != kOk) return status;
     const ResetAtExit reset(retrieve_);
     retrieve_.Bind(1, BytesOf(id));
     const int result = retrieve_.Step();
-    return result == SQLITE_DONE ? kNotFound : CopyRecord(result, retrieve_, out);
+    if (result == SQLITE_DONE) return kNotFound;
+    if (result != SQLITE_ROW) return retrieve_.StatusOf(result);
+    if (CopyRecord(retrieve_, out)) return kOk;
+    return Fail(kCorrupt, "a record in " + schema_.file + " has a wrong length");
   });
 }
 
@@ -155,16 +189,15 @@ Status SqliteTable::Insert(Statement& insert, std::string_view record) {
 
 Status SqliteTable::Add(const void* record) {
   return Run([&] {
-    return database_->Write([&] { return Insert(insert_, {Bytes(record), record_size_}); });
+    return database_->Write(schema_, [&] { return Insert(insert_, {Bytes(record), schema_.record_size}); });
   });
 }
 
 Status SqliteTable::AddPair(const void* record, const StoreSchema& other, const void* other_record) {
   return Run([&] {
-    if (const Status status = database_->EnsureTable(other); status != kOk) return status;
     Statement insert_other{InsertInto(other)};
-    return database_->Write([&] {
-      const Status status = Insert(insert_, {Bytes(record), record_size_});
+    return database_->Write(schema_, [&] {
+      const Status status = Insert(insert_, {Bytes(record), schema_.record_size});
       return status != kOk ? status : Insert(insert_other, {Bytes(other_record), other.record_size});
     });
   });
@@ -179,10 +212,10 @@ Status SqliteTable::Change(Statement& statement) {
 
 Status SqliteTable::Update(const void* record) {
   return Run([&] {
-    return database_->Write([&] {
+    return database_->Write(schema_, [&] {
       if (const Status status = update_.Start(database_->Connection()); status != kOk) return status;
       update_.Bind(1, {Bytes(record), sizeof(platform::GUID)});
-      update_.Bind(2, {Bytes(record), record_size_});
+      update_.Bind(2, {Bytes(record), schema_.record_size});
       return Change(update_);
     });
   });
@@ -190,7 +223,7 @@ Status SqliteTable::Update(const void* record) {
 
 Status SqliteTable::Delete(const platform::GUID& id) {
   return Run([&] {
-    return database_->Write([&] {
+    return database_->Write(schema_, [&] {
       if (const Status status = delete_.Start(database_->Connection()); status != kOk) return status;
       delete_.Bind(1, BytesOf(id));
       return Change(delete_);
@@ -202,6 +235,7 @@ Status SqliteTable::Delete(const platform::GUID& id) {
 // the record as it was before its last holder changed it.
 Status SqliteTable::Lock() {
   return Guarded([&] {
+    if (const Status status = database_->PrepareDirectory(); status != kOk) return status;
     if (const Status status = lock_.Acquire(); status != kOk) return status;
     return Run([&] {
       database_->EndScans();

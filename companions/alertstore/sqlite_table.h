@@ -17,8 +17,10 @@ namespace alertstore {
 /// A store's table in the embedded database.
 class SqliteTable : public Table {
  public:
-  /// The table must be there (Database::EnsureTable).
   SqliteTable(std::shared_ptr<Database> database, const StoreSchema& schema);
+
+  /// A status when the store's table is there and cannot be read. With the database to itself.
+  Status Check();
 
   Status FindFirst(const Selector& selector, std::string_view key, void* out) override;
   Status FindFirst(void* out) override;
@@ -43,17 +45,21 @@ class SqliteTable : public Table {
   // Runs an operation with the database to itself.
   template <class Operation>
   Status Run(Operation operation);
+  // The same for an operation on a table that is there; kNotFound where it is not.
+  template <class Operation>
+  Status Read(Operation operation);
   KeyedFind* FindOf(const Selector& selector);
   Status NextOfAll(void* out);
   Status FirstWithKey(void* out);
   Status NextWithKey(void* out);
-  Status TakeRow(int result, Statement& statement, void* out);
-  Status CopyRecord(int result, const Statement& statement, void* out) const;
+  Status TakeRow(Statement& statement, void* out);
+  // False for a row that has not the size of a record.
+  bool CopyRecord(const Statement& statement, void* out) const;
   Status Insert(Statement& insert, std::string_view record);
   Status Change(Statement& statement);
 
   const std::shared_ptr<Database> database_;
-  const std::uint32_t record_size_;
+  const StoreSchema schema_;
   FileLock lock_;
 
   Statement scan_;
@@ -63,6 +69,7 @@ class SqliteTable : public Table {
   Statement update_;
   Statement delete_;
 
+  int seen_generation_ = 0;  // of the connection through which the table has been seen
   // The scan: the row it stands on and, when it has one, its key.
   enum class Scan { kNone, kAll, kWithKey } scan_kind_ = Scan::kNone;
   std::int64_t last_id_ = 0;

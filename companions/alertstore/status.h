@@ -25,15 +25,23 @@ inline constexpr Status kLockTimeout = 0x200CF;
 inline constexpr Status kAlreadyLocked = 0x200D0;
 /// This store object holds no file lock.
 inline constexpr Status kNotLocked = 0x200D1;
-/// The data directory or a file in it cannot be made, read or written.
+/// The data directory or a file in it cannot be made, read or written, for another cause than those below.
 inline constexpr Status kIoError = 0x200D2;
 /// The disk is full.
 inline constexpr Status kDiskFull = 0x200D3;
-/// The file is no database of this store, or a record in it has not the size of a record.
+/// The file is no database of these stores, or the record asked for has not the size of a record.
 inline constexpr Status kCorrupt = 0x200D4;
 /// A write was asked for inside a consistent read (Engine::BeginRead).
 inline constexpr Status kInsideRead = 0x200D5;
 /// Out of memory.
 inline constexpr Status kNoMemory = 0x200D6;
+/// This account may not read or write the data directory or a file in it.
+inline constexpr Status kNoPermission = 0x200D7;
+/// The data can be read but not written: the file system is mounted read-only.
+inline constexpr Status kReadOnly = 0x200D8;
+/// The data directory, or a file in it, is not safe from other accounts and therefore not used.
+inline constexpr Status kUnsafe = 0x200D9;
+/// The path of the data directory is too long for its database.
+inline constexpr Status kPathTooLong = 0x200DA;
 
 }  // namespace alertstore

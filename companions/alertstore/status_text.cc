@@ -31,6 +31,14 @@ const char* StatusText(Status status) {
       return "the store was written to while it was being read";
     case kNoMemory:
       return "there is not enough memory";
+    case kNoPermission:
+      return "this account may not read or write the data directory or a file in it";
+    case kReadOnly:
+      return "the data can be read but not written";
+    case kUnsafe:
+      return "the data directory or a file in it is not safe from other accounts";
+    case kPathTooLong:
+      return "the path of the data directory is too long";
     default:
       return "an unknown failure of the store";
   }

@@ -119,6 +119,9 @@ class CAlertUSR_NPAGEDB : public RecordStore<ALRTUSR_NPAGESERVICEREC> {
   static constexpr UserSelectors kSelectors{66, 67, 66};
 };
 
+/// The file name of the modem types.
+inline constexpr char kModemTypeFile[] = "QModemDB.dat";
+
 /// The modems; under another file name, the modem types.
 class CAlertSERV_MODEMDB : public RecordStore<ALRTSERV_MODEM> {
  public:

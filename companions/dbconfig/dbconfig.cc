@@ -6,9 +6,12 @@
 #include <cstring>
 #include <exception>
 #include <string>
+#include <utility>
 
+#include "companions/alertstore/problem.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/site.h"
+#include "platform/base/atomic_write.h"
 #include "platform/base/paths.h"
 #include "platform/base/process_lock.h"
 #include "platform/base/utf8.h"
@@ -27,18 +30,33 @@ class Conversion {
   Conversion& operator=(const Conversion&) = delete;
 };
 
+std::string& FailureText() {
+  static thread_local std::string text;
+  return text;
+}
+
+std::uint32_t Fail(std::uint32_t failure, std::string text) {
+  FailureText() = std::move(text);
+  return failure;
+}
+
 /// Consoles take turns, so that none puts an older reading of the stores over a newer one: the lock is taken
 /// before the stores are read, and the last console to write has then read last, too.
 std::uint32_t WriteConfigFile() {
-  const std::string path = platform::DataDirectory() + "/" + kConfigFileName;
-  if (!platform::MakeDirectories(platform::DataDirectory())) return kFileUnwritable;
+  const std::string directory = platform::DataDirectory(), path = directory + "/" + kConfigFileName;
+  platform::FileError error;
+  if (!platform::PreparePrivateDirectory(directory, error)) return Fail(kFileUnwritable, error.text);
   const platform::ProcessLock lock(path + ".lock", std::chrono::seconds(5));
-  if (lock.Outcome() == platform::LockOutcome::kTimeout) return kFileLocked;
-  if (lock.Outcome() != platform::LockOutcome::kHeld) return kFileUnwritable;
+  if (lock.Outcome() == platform::LockOutcome::kTimeout)
+    return Fail(kFileLocked, "another console is writing the file; try again");
+  if (lock.Outcome() != platform::LockOutcome::kHeld) return Fail(kFileUnwritable, lock.Error().text);
   Site site;
-  if (ReadSite(site) != alertstore::kOk) return kStoresUnreadable;
+  if (const alertstore::Status status = ReadSite(site); status != alertstore::kOk)
+    return Fail(kStoresUnreadable, alertstore::ProblemText(status));
   // Only its owner may read it, because it holds the passwords of the services.
-  return platform::WriteFileAtomically(path, WriteDocument(site), 0600) ? 0 : kFileUnwritable;
+  const platform::WriteOutcome outcome = platform::ReplaceFile(path, WriteDocument(site), 0600, &error);
+  if (outcome == platform::WriteOutcome::kFailed) return Fail(kFileUnwritable, error.text);
+  return outcome == platform::WriteOutcome::kNotFlushed ? Fail(kNotFlushed, error.text) : 0;
 }
 
 class RealDbConfig : public DbConfig {
@@ -56,7 +74,7 @@ class RealDbConfig : public DbConfig {
     try {
       return WriteConfigFile();
     } catch (const std::exception&) {
-      return kStoresUnreadable;  // out of memory, with a document of that size
+      return Fail(kStoresUnreadable, "there is not enough memory");  // with a document of that size
     }
   }
 
@@ -64,6 +82,8 @@ class RealDbConfig : public DbConfig {
 };
 
 }  // namespace
+
+std::string LastFailureText() { return FailureText(); }
 
 std::unique_ptr<DbConfig> MakeDbConfig() { return std::make_unique<RealDbConfig>(); }
 

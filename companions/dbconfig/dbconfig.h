@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace dbconfig {
 
@@ -18,7 +19,7 @@ class DbConfig {
   virtual void GetQEVDataDirectory(char* buffer, std::size_t size) = 0;
 
   /// Rewrites the alert managers' configuration file from the current stores. `zero` is reserved. 0 when the
-  /// file was written; else one of the failures below, and then a file of before is still in place.
+  /// file was written; else one of the failures below. All but kNotFlushed leave a file of before in place.
   virtual std::uint32_t CreateAlertServerConfigFile(std::uint32_t zero) = 0;
 
   /// Non-zero while no conversion is under way in this process.
@@ -39,5 +40,10 @@ inline constexpr std::uint32_t kStoresUnreadable = 1;
 inline constexpr std::uint32_t kFileUnwritable = 2;
 /// Another console was writing the file for longer than a caller may wait (five seconds).
 inline constexpr std::uint32_t kFileLocked = 3;
+/// The new file is in place, but may not outlast a power cut.
+inline constexpr std::uint32_t kNotFlushed = 4;
+
+/// Why the last CreateAlertServerConfigFile of this thread failed, in words that can follow "because".
+std::string LastFailureText();
 
 }  // namespace dbconfig

@@ -10,8 +10,7 @@
 
 namespace dbconfig {
 
-/// Reads one store whole. Opening comes first, for all stores, because a consistent read cannot make missing
-/// files.
+/// Reads one store whole. Opening comes first, for all stores, so that they are then read at one moment.
 class StoreReader {
  public:
   virtual ~StoreReader() = default;

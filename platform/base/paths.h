@@ -7,20 +7,17 @@ namespace platform {
 
 /// The directory in which the console keeps its records and files: the environment variable ALERTING_DATA,
 /// else "$XDG_DATA_HOME/alerting", else "$HOME/.local/share/alerting" (the XDG base directories),
-/// else "./alerting-data". Read anew on each call; the directory itself may not exist.
+/// else "./alerting-data". Read anew on each call; the directory itself may not exist. A relative name is made absolute
+/// when it is first met and stays what it was then: a program that changes its working directory goes on with the same
+/// data.
 std::string DataDirectory();
-
-/// Writes `bytes` to the file "`path`.tmp", flushes it to the disk and renames it into place, so that a
-/// reader sees either the old file or the whole new one. The file gets `mode` before it gets the bytes.
-/// Writers of the same file take turns. What a killed writer left behind bears the one temporary name and is
-/// replaced by the next writer, so that files with secrets do not pile up. False when any step fails; the old
-/// file is then untouched, unless the last step, flushing the directory, failed.
-bool WriteFileAtomically(const std::string& path, const std::string& bytes, unsigned mode);
 
 /// The whole file, or false when it cannot be read.
 bool ReadWholeFile(const std::string& path, std::string& bytes);
 
-/// Makes the directory and its parents (mode 0700). True when it is there afterwards.
+/// Makes the directory and its parents (mode 0700) and flushes their names to the disk; what the system administrator's
+/// account makes belongs to the owner of the directory above. True when it is there afterwards;
+/// else errno says why not.
 bool MakeDirectories(const std::string& path);
 
 }  // namespace platform

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/base/process_lock.h"
 
-#include <fcntl.h>
 #include <sys/file.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <thread>
@@ -21,10 +19,19 @@ LockOutcome LockOpenFile(int descriptor, std::chrono::milliseconds limit) {
 }
 
 ProcessLock::ProcessLock(const std::string& path, std::chrono::milliseconds limit)
-    : file_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)), outcome_(LockOpenFile(file_, limit)) {}
+    : outcome_(Lock(path, limit)) {}
 
-ProcessLock::~ProcessLock() {
-  if (file_ >= 0) close(file_);
+// A file that was taken away while its lock was waited for keeps nobody out any more.
+LockOutcome ProcessLock::Lock(const std::string& path, std::chrono::milliseconds limit) {
+  const auto deadline = std::chrono::steady_clock::now() + limit;
+  for (;;) {
+    file_ = OpenPrivateFile(path, error_);
+    if (!file_.IsOpen()) return LockOutcome::kUnusable;
+    const auto left = deadline - std::chrono::steady_clock::now();
+    const LockOutcome outcome =
+        LockOpenFile(file_.Get(), std::chrono::duration_cast<std::chrono::milliseconds>(left));
+    if (outcome != LockOutcome::kHeld || IsFileAt(path, file_.Get())) return outcome;
+  }
 }
 
 }  // namespace platform

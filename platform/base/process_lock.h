@@ -4,6 +4,8 @@
 #include <chrono>
 #include <string>
 
+#include "platform/base/private_file.h"
+
 namespace platform {
 
 enum class LockOutcome { kHeld, kTimeout, kUnusable };
@@ -17,15 +19,17 @@ LockOutcome LockOpenFile(int descriptor, std::chrono::milliseconds limit);
 class ProcessLock {
  public:
   ProcessLock(const std::string& path, std::chrono::milliseconds limit);
-  ~ProcessLock();
-  ProcessLock(const ProcessLock&) = delete;
-  ProcessLock& operator=(const ProcessLock&) = delete;
 
   /// kUnusable when the file cannot be made or locked.
   LockOutcome Outcome() const { return outcome_; }
+  /// Says what is wrong with the file when it is unusable.
+  const FileError& Error() const { return error_; }
 
  private:
-  const int file_;
+  LockOutcome Lock(const std::string& path, std::chrono::milliseconds limit);
+
+  FileError error_;
+  Descriptor file_;
   const LockOutcome outcome_;
 };
 

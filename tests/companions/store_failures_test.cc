@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <sqlite3.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <cstring>
 #include <fstream>
@@ -11,8 +11,13 @@
 #include <string>
 #include <vector>
 
+#include "companions/alertstore/backup.h"
+#include "companions/alertstore/left_out.h"
+#include "companions/alertstore/problem.h"
+#include "platform/base/atomic_write.h"
 #include "tests/companions/store_fixture.h"
 #include "tests/support/failing_engine.h"
+#include "tests/support/own_disk.h"
 
 using namespace alertstore;
 using platform::GUID;
@@ -20,18 +25,12 @@ using test_support::FailingEngine;
 using test_support::kAnyStore;
 using test_support::StoreOp;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
 
-// Runs a statement on the database behind the stores' back.
-void Tamper(const std::string& directory, const char* sql) {
-  sqlite3* connection = nullptr;
-  ASSERT_EQ(sqlite3_open((directory + "/alerting.db").c_str(), &connection), SQLITE_OK);
-  EXPECT_EQ(sqlite3_exec(connection, sql, nullptr, nullptr, nullptr), SQLITE_OK)
-      << sqlite3_errmsg(connection);
-  sqlite3_close(connection);
-}
+void Tamper(const std::string& directory, const char* sql) { RawDatabase(directory).Ask(sql); }
 
 TEST_F(StoreTest, ADirectoryThatCannotBeMadeIsAStatus) {
   std::ofstream(directory_ + "/file") << "in the way";
@@ -64,17 +63,131 @@ TEST_F(StoreTest, AnUnusableLockFileIsAStatus) {
   EXPECT_EQ(services.File().DBFileLock(), kIoError);
 }
 
-TEST_F(StoreTest, ARecordOfForeignSizeIsAStatusAndTheScanGoesOn) {
-  Opened<CAlertNtfyServDB> services;
-  for (const char* name : {"a", "b", "c"}) AddNamed(services, name);
-  Tamper(directory_, "UPDATE \"NtfyServDB.dat\" SET record=substr(record,1,100) WHERE id=2");
+TEST_F(StoreTest, AScanPassesOverARecordOfForeignSizeAndCountsIt) {
+  Opened<CAlertSERV_MODEMDB> modems;
+  const GUID ids[] = {AddNamed(modems, "a"), AddNamed(modems, "b"), AddNamed(modems, "c"),
+                      AddNamed(modems, "d")};
+  Tamper(directory_, "UPDATE \"ModemDB.dat\" SET record=substr(record,1,100) WHERE id IN (1,3)");
+  EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d");
+  EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d") << "and does not count it again";
+  EXPECT_EQ(DescribeLeftOut(LeftOutRecords()), "2 records in ModemDB.dat cannot be read and are left out");
 
+  ALRTSERV_MODEM modem{};
+  modem.guid = ids[2];
+  EXPECT_EQ(modems.DBAlertRecRetrieve(modem.guid, modem), kCorrupt)
+      << "one that is asked for by name is told";
+  EXPECT_EQ(modems.DBAlertRecFindFirst(kModemByName, 1, "c", modem), kNotFound);
+  ASSERT_EQ(modems.DBAlertRecDelete(ids[0]), kOk);
+  ASSERT_EQ(modems.DBAlertRecDelete(ids[2]), kOk);
+  EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d");
+  EXPECT_EQ(DescribeLeftOut(LeftOutRecords()), "");
+}
+
+TEST_F(StoreTest, ADatabaseOfAnotherProgramIsRefusedAtOnce) {
+  Tamper(directory_, "CREATE TABLE \"ModemDB.dat\"(id INTEGER PRIMARY KEY, name TEXT)");
+  CAlertSERV_MODEMDB modems;
+  EXPECT_EQ(modems.DBOpen(), kCorrupt);
+  EXPECT_THAT(ProblemText(kCorrupt), HasSubstr("ModemDB.dat"));
+  Tamper(directory_, "DROP TABLE \"ModemDB.dat\"; PRAGMA user_version=9999");
+  EXPECT_EQ(modems.DBOpen(), kCorrupt);
+  EXPECT_THAT(ProblemText(kCorrupt), HasSubstr("newer version"));
+}
+
+// Mapped into memory, such a file ends the program with a signal.
+TEST_F(StoreTest, ADatabaseThatShrinksIsAStatus) {
+  Opened<CAlertRespDB> responses;
+  ALERTRESPREC response{};
+  std::vector<GUID> ids(200);
+  for (GUID& id : ids) ASSERT_EQ(responses.DBAlertRecAdd(response, id), kOk);
+  Tamper(directory_, "PRAGMA wal_checkpoint(TRUNCATE)");
+  std::filesystem::resize_file(directory_ + "/alerting.db", 3 * 8192);
+  Opened<CAlertNtfyServDB> others;  // has nothing of the file in memory
+  response.responseId = ids.back();
+  Status status = responses.DBAlertRecFindFirst(kByIdentity, 0, nullptr, response);
+  while (status == kOk) status = responses.DBAlertRecFindNext(response);
+  EXPECT_NE(status, kEndOfScan);
+  EXPECT_NE(responses.DBAlertRecAdd(response, ids[0]), kOk);
+}
+
+// A console that goes on in the nameless file would lose what it tells of as written.
+TEST_F(StoreTest, ADatabaseThatLosesItsNameTakesNoMoreWrites) {
+  Opened<CAlertNtfyServDB> services;
+  AddNamed(services, "there");
+  Copied copied;
+  ASSERT_EQ(BackUp(directory_ + "/copy", copied), kOk);
+  std::filesystem::rename(directory_ + "/copy", directory_ + "/alerting.db");
   ALRTNTFYSERV record{};
-  ASSERT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kOk);
-  EXPECT_EQ(services.DBAlertRecFindNext(record), kCorrupt);
-  EXPECT_EQ(record.name.View(), "a") << "the buffer is as it was";
-  EXPECT_EQ(services.DBAlertRecFindNext(record), kOk);
-  EXPECT_EQ(record.name.View(), "c");
+  GUID id{};
+  EXPECT_EQ(services.DBAlertRecAdd(record, id), kCorrupt);
+  EXPECT_THAT(ProblemText(kCorrupt), HasSubstr("replaced"));
+  EXPECT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kCorrupt);
+}
+
+TEST_F(StoreTest, WhatOthersMayHavePreparedIsRefusedByName) {
+  const std::string precious = directory_ + "/precious";
+  std::ofstream(precious) << "precious";
+  std::filesystem::create_directories(directory_ + "/data");
+  UseDirectory(directory_ + "/data");
+  for (const char* name : {"alerting.db", "alerting.db-wal", "alerting.lock"}) {
+    const std::string path = directory_ + "/data/" + name;
+    for (const bool hard : {true, false}) {
+      SCOPED_TRACE(path + (hard ? " hard" : " symbolic"));
+      hard ? std::filesystem::create_hard_link(precious, path)
+           : std::filesystem::create_symlink(precious, path);
+      if (std::string(name).ends_with("-wal")) std::ofstream(directory_ + "/data/alerting.db");
+      CAlertNtfyServDB services;
+      const Status opened = services.DBOpen();
+      EXPECT_EQ(opened == kOk ? services.File().DBFileLock() : opened, kUnsafe);
+      EXPECT_THAT(ProblemText(kUnsafe), HasSubstr(path));
+      std::filesystem::remove(path);
+      std::filesystem::remove(directory_ + "/data/alerting.db");
+    }
+  }
+  EXPECT_EQ(std::filesystem::file_size(precious), 8u);
+
+  chmod((directory_ + "/data").c_str(), 0770);
+  CAlertNtfyServDB services;
+  EXPECT_EQ(services.DBOpen(), kUnsafe);
+  EXPECT_THAT(ProblemText(kUnsafe), HasSubstr("chmod go-w " + directory_ + "/data"));
+}
+
+TEST_F(StoreTest, ATooLongPathIsToldBeforeAnythingIsMade) {
+  const std::string part(200, 'd');
+  UseDirectory(directory_ + '/' + part + '/' + part + '/' + part);
+  CAlertNtfyServDB services;
+  EXPECT_EQ(services.DBOpen(), kPathTooLong);
+  EXPECT_TRUE(std::filesystem::is_empty(directory_));
+}
+
+TEST_F(StoreTest, AFullDiskIsToldAsThat) {
+  test_support::OnOwnDisk(directory_, [&] {
+    std::ofstream(directory_ + "/filler") << std::string(4 << 20, 'x');
+    CAlertNtfyServDB services;
+    ALRTNTFYSERV record{};
+    GUID id{};
+    platform::FileError error;
+    return services.DBOpen() == kOk && services.DBAlertRecAdd(record, id) == kDiskFull &&
+           platform::ReplaceFile(directory_ + "/file", std::string(100000, 'x'), 0600, &error) ==
+               platform::WriteOutcome::kFailed &&
+           error.number == ENOSPC;
+  });
+}
+
+TEST_F(StoreTest, AReadOnlyDiskCanBeRead) {
+  test_support::OnOwnDisk(
+      directory_,
+      [&] {
+        {
+          Opened<CAlertNtfyServDB> services;
+          AddNamed(services, "there");
+        }
+        if (!test_support::MakeReadOnly(directory_)) return false;
+        Opened<CAlertNtfyServDB> services;
+        ALRTNTFYSERV record{};
+        GUID id{};
+        return NamesOf(services, kByIdentity) == "there" && services.DBAlertRecAdd(record, id) == kReadOnly;
+      },
+      "4m");
 }
 
 TEST_F(StoreTest, AFileNameThatCannotBeATableIsRefused) {
@@ -87,6 +200,7 @@ TEST_F(StoreTest, AFileNameThatCannotBeATableIsRefused) {
 // The second of the two records cannot be written, so the first must not be there either.
 TEST_F(StoreTest, ATwoRecordAddThatFailsHalfWayLeavesNothing) {
   Opened<CAlertNtfyServDB> services;
+  ASSERT_EQ(services.DBAlertRecDelete(AddNamed(services, "first")), kOk);
   Tamper(directory_,
          "CREATE TRIGGER refuse BEFORE INSERT ON \"TtsNtfyServDB.dat\" BEGIN SELECT RAISE(ABORT,'no'); END");
   ALRTNTFYSERV common{};

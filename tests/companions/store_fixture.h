@@ -2,6 +2,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sqlite3.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -61,3 +62,29 @@ platform::GUID AddNamed(Store& store, std::string_view name) {
   EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk) << name;
   return id;
 }
+
+/// A connection behind the stores' back.
+class RawDatabase {
+ public:
+  explicit RawDatabase(const std::string& directory) {
+    EXPECT_EQ(sqlite3_open((directory + "/alerting.db").c_str(), &connection_), SQLITE_OK);
+  }
+  ~RawDatabase() { sqlite3_close(connection_); }
+  RawDatabase(const RawDatabase&) = delete;
+  RawDatabase& operator=(const RawDatabase&) = delete;
+
+  /// Runs statements; the number that the last row began with.
+  std::size_t Ask(const std::string& sql) {
+    std::size_t answer = 0;
+    const auto take = [](void* out, int, char** values, char**) {
+      if (values[0] != nullptr) *static_cast<std::size_t*>(out) = std::strtoul(values[0], nullptr, 10);
+      return 0;
+    };
+    EXPECT_EQ(sqlite3_exec(connection_, sql.c_str(), take, &answer, nullptr), SQLITE_OK)
+        << sqlite3_errmsg(connection_);
+    return answer;
+  }
+
+ private:
+  sqlite3* connection_ = nullptr;
+};

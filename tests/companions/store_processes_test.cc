@@ -168,6 +168,17 @@ TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
   EXPECT_TRUE(Succeeded(child));
 }
 
+// Whoever tidies the directory up must not give the lock to two consoles.
+TEST_F(StoreProcessesTest, ALockFileThatIsTakenAwayKeepsOthersOut) {
+  Opened<CAlertNtfyServDB> one, two;
+  FileLock::SetWaitLimit(std::chrono::milliseconds(50));
+  ASSERT_EQ(one.File().DBFileLock(), kOk);
+  std::filesystem::remove(directory_ + "/alerting.lock");
+  EXPECT_EQ(two.File().DBFileLock(), kLockTimeout);
+  EXPECT_EQ(one.File().DBFileUnlock(), kOk);
+  EXPECT_EQ(two.File().DBFileLock(), kOk);
+}
+
 TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
   Opened<CAlertNtfyServDB> one;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));

@@ -237,4 +237,58 @@ TEST_F(StoreTest, TakingTheLockShowsWhatItsLastHolderWrote) {
   EXPECT_EQ(services.File().DBFileUnlock(), kOk);
 }
 
+TEST_F(StoreTest, ReadersMakeNothing) {
+  const std::string data = directory_ + "/data";
+  UseDirectory(data);
+  Opened<CAlertNtfyServDB> services;
+  Opened<CAlertSERV_MODEMDB> modems;
+  EXPECT_EQ(NamesOf(services, kByIdentity), "");
+  const ReadScope nothing(*CurrentEngine());
+  EXPECT_EQ(nothing.Result(), kOk);
+  EXPECT_FALSE(std::filesystem::exists(data));
+}
+
+TEST_F(StoreTest, TheFirstWriteMakesTheStoresOfTheWholeSite) {
+  Opened<CAlertNtfyServDB> services;
+  AddNamed(services, "first");
+  RawDatabase database(directory_);
+  EXPECT_EQ(database.Ask("SELECT count(*) FROM sqlite_schema WHERE type='table'"), SiteSchemas().size());
+  // Another console is in the middle of a write: readers neither wait nor write.
+  database.Ask("BEGIN IMMEDIATE");
+  SetEngine(std::make_shared<SqliteEngine>(directory_));
+  Opened<CAlertUsrInstServDB> links;
+  Opened<CAlertNtfyServDB> elsewhere;
+  EXPECT_EQ(NamesOf(elsewhere, kByIdentity), "first");
+}
+
+// A console that was stopped in the middle of a change left the first tables alone, or the program is newer.
+TEST_F(StoreTest, WhatIsMissingIsMadeByTheNextWriter) {
+  {
+    Opened<CAlertNtfyServDB> services;
+    AddNamed(services, "first");
+  }
+  RawDatabase(directory_).Ask("DROP TABLE \"ModemDB.dat\"");
+  Opened<CAlertSERV_MODEMDB> modems;
+  EXPECT_EQ(NamesOf(modems, kModemByIdentity), "");
+  AddNamed(modems, "made again");
+  EXPECT_EQ(NamesOf(modems, kModemByIdentity), "made again");
+}
+
+TEST_F(StoreTest, ALinkIsFoundByServiceAndUserAtOnce) {
+  Opened<CAlertUsrInstServDB> links;
+  const GUID user = GUID::Generate();
+  GUID key[] = {GUID::Generate(), user}, id{};
+  ALRTUSRINSTSERV link{};
+  link.userId = user;
+  for (int i = 0; i < 3; ++i) {
+    link.serviceId = i == 1 ? key[0] : GUID::Generate();
+    ASSERT_EQ(links.DBAlertRecAdd(link, id), kOk);
+  }
+  EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByServiceAndUser, sizeof key, key, link), kOk);
+  EXPECT_EQ(link.serviceId, key[0]);
+  EXPECT_EQ(links.DBAlertRecFindNext(link), kEndOfScan);
+  key[1] = key[0];
+  EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByServiceAndUser, sizeof key, key, link), kNotFound);
+}
+
 }  // namespace

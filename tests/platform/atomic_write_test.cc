@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "platform/base/atomic_write.h"
+
 #include <gmock/gmock.h>
 #include <signal.h>
 #include <sys/stat.h>
@@ -63,16 +65,53 @@ TEST_F(AtomicWriteTest, AFileThatWasLeftBehindGivesNeitherItsBytesNorItsMode) {
   EXPECT_THAT(Names(), UnorderedElementsAre("file"));
 }
 
-TEST_F(AtomicWriteTest, WhatIsNoFileUnderTheTemporaryNameIsLeftAlone) {
-  ASSERT_TRUE(WriteFileAtomically(directory_ + "/precious", "precious", 0600));
-  std::filesystem::create_symlink("precious", path_ + ".tmp");
-  EXPECT_FALSE(WriteFileAtomically(path_, "new", 0600));
+TEST_F(AtomicWriteTest, WhatStoodUnderTheTemporaryNameIsNotWrittenTo) {
+  const std::string temporary = path_ + ".tmp", precious = directory_ + "/precious";
+  ASSERT_TRUE(WriteFileAtomically(precious, "precious", 0600));
+  const auto fifo = [&] { return mkfifo(temporary.c_str(), 0600); };
+  const auto soft = [&] { return symlink(precious.c_str(), temporary.c_str()); };
+  const auto hard = [&] { return link(precious.c_str(), temporary.c_str()); };
+  for (const std::function<int()>& prepare : {std::function<int()>(fifo), {soft}, {hard}}) {
+    ASSERT_EQ(prepare(), 0);
+    EXPECT_TRUE(WriteFileAtomically(path_, "new", 0600));
+    EXPECT_EQ(Bytes(), "new");
+    EXPECT_THAT(Names(), UnorderedElementsAre("file", "precious"));
+  }
   std::string bytes;
-  ASSERT_TRUE(ReadWholeFile(directory_ + "/precious", bytes));
+  ASSERT_TRUE(ReadWholeFile(precious, bytes));
   EXPECT_EQ(bytes, "precious");
-  std::filesystem::remove(path_ + ".tmp");
-  ASSERT_EQ(mkfifo((path_ + ".tmp").c_str(), 0600), 0);
-  EXPECT_FALSE(WriteFileAtomically(path_, "new", 0600)) << "and does not wait for a reader";
+}
+
+// The system administrator's account may write to a directory of another one, which must be able to go on.
+TEST_F(AtomicWriteTest, NewFilesBelongToTheDirectorysOwner) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the system administrator's account gives files away";
+  ASSERT_EQ(chown(directory_.c_str(), 1234, 1234), 0);
+  ASSERT_TRUE(WriteFileAtomically(path_, "new", 0600));
+  platform::FileError error;
+  ASSERT_TRUE(platform::OpenPrivateFile(directory_ + "/lock", error).IsOpen());
+  ASSERT_TRUE(platform::MakeDirectories(directory_ + "/a/b"));
+  for (const char* name : {"/file", "/lock", "/a", "/a/b"}) {
+    struct stat info {};
+    ASSERT_EQ(stat((directory_ + name).c_str(), &info), 0);
+    EXPECT_EQ(info.st_uid, 1234u) << name;
+  }
+}
+
+TEST_F(AtomicWriteTest, ADirectoryThatCannotBeFlushedIsToldApartFromAFailure) {
+  const auto in_child = [&] {
+    if (geteuid() == 0 && (chown(directory_.c_str(), 1234, 1234) != 0 || setuid(1234) != 0)) return false;
+    chmod(directory_.c_str(), 0300);
+    platform::FileError error;
+    return platform::ReplaceFile(path_, "new", 0600, &error) == platform::WriteOutcome::kNotFlushed &&
+           error.number == EACCES;
+  };
+  const pid_t child = fork();
+  if (child == 0) _exit(in_child() ? 0 : 1);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  chmod(directory_.c_str(), 0700);
+  EXPECT_EQ(Bytes(), "new");
 }
 
 TEST_F(AtomicWriteTest, WritersOfOneFileTakeTurns) {

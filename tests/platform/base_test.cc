@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/base/atomic_write.h"
 #include "platform/base/fixed_text.h"
 #include "platform/base/guid.h"
 #include "platform/base/little_endian.h"
@@ -156,7 +157,11 @@ TEST_F(PathsTest, TheDataDirectoryFollowsTheEnvironment) {
   setenv("XDG_DATA_HOME", "relative", 1);
   EXPECT_EQ(DataDirectory(), "/home/console/.local/share/alerting");
   setenv("HOME", "", 1);
-  EXPECT_EQ(DataDirectory(), "./alerting-data");
+  const std::filesystem::path here = std::filesystem::current_path();
+  EXPECT_EQ(DataDirectory(), here / "alerting-data");
+  std::filesystem::current_path(directory_);
+  EXPECT_EQ(DataDirectory(), here / "alerting-data") << "the data stay where they are";
+  std::filesystem::current_path(here);
   setenv("ALERTING_DATA", "/srv/alerts", 1);
   EXPECT_EQ(DataDirectory(), "/srv/alerts");
 }
