@@ -4,6 +4,9 @@
 #include <cstdlib>
 #include <filesystem>
 
+#include "companions/alertstore/left_out.h"
+#include "companions/alertstore/problem.h"
+
 namespace alertconsole {
 
 namespace fs = std::filesystem;
@@ -13,6 +16,18 @@ namespace {
 constexpr std::uint32_t kWereOpen = 1;
 
 }  // namespace
+
+std::string StoresCannotBeOpened() {
+  return "The record stores cannot be opened: " + alertstore::LastProblem().text +
+         ".\n\nMend that, or name another data directory with --data.";
+}
+
+std::string LeftOutNote() {
+  const std::string left_out = alertstore::DescribeLeftOut(alertstore::LeftOutRecords());
+  return left_out.empty()
+             ? left_out
+             : "The data are damaged: " + left_out + ". Put a backup in their place (alertctl restore)";
+}
 
 std::string AlertingLibrary::PathOf(const std::string& given) {
   if (!given.empty()) return given;
@@ -49,7 +64,7 @@ AlertingLibrary::AlertingLibrary(const std::string& path)
       DeleteService(Find<decltype(::DomainServiceDeleteService)>("_DomainServiceDeleteService@20")),
       NewIconStrip(Find<decltype(::GetIconBitmapObject)>("_GetIconBitmapObject@0")),
       DeleteIconStrip(Find<decltype(::DeleteIconBitmapObject)>("_DeleteIconBitmapObject@4")) {
-  if (OpenDBs() > kWereOpen) throw StartFailure(kStoresCannotBeOpened);
+  if (OpenDBs() > kWereOpen) throw StartFailure(StoresCannotBeOpened());
 }
 
 AlertingLibrary::~AlertingLibrary() { CloseDBs(); }

@@ -9,9 +9,10 @@
 
 namespace alertconsole {
 
-inline constexpr char kStoresCannotBeOpened[] =
-    "The record stores cannot be opened. See that the data directory exists and can be written and that its "
-    "alerting.db is not damaged, or name another directory with --data.";
+/// Why the stores cannot be opened, as it was just found, and what to do.
+std::string StoresCannotBeOpened();
+/// What the services shown lack because it could not be read; "" when nothing does.
+std::string LeftOutNote();
 
 /// What keeps the console from starting, in words for the person in front of it.
 class StartFailure : public std::runtime_error {

@@ -118,7 +118,9 @@ void MainWindow::ShowServices() {
     table_->setCurrentItem(table_->topLevelItem(std::clamp(chosen, 0, std::max(count - 1, 0))));
   }
   pages_->setCurrentIndex(count == 0 ? 1 : 0);
-  statusBar()->showMessage(count == 1 ? tr("1 service") : tr("%1 services").arg(count));
+  const QString shown = count == 1 ? tr("1 service") : tr("%1 services").arg(count),
+                note = ToQt(LeftOutNote());
+  statusBar()->showMessage(note.isEmpty() ? shown : shown + ". " + note);
   EnableActions();
 }
 
@@ -161,7 +163,7 @@ void MainWindow::OpenSheet(int index) {
 
 void MainWindow::Refresh() {
   const bool opened = library_.Reopen();
-  note_->setText(opened ? tr(kNoServices) : tr(kStoresCannotBeOpened));
+  note_->setText(opened ? tr(kNoServices) : QString::fromStdString(StoresCannotBeOpened()));
   ShowServices();
 }
 

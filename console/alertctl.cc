@@ -43,6 +43,7 @@ int main(int argc, char** argv) {
   alertctl::AddManagerVerbs(verbs);
   alertctl::AddResponseVerbs(verbs);
   alertctl::AddConfigVerbs(verbs);
+  alertctl::AddBackupVerbs(verbs);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

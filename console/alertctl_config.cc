@@ -15,6 +15,8 @@ constexpr char kShowExamples[] =
     "  alertctl config show\n"
     "  alertctl config show --json | jq '.alertManagers[].name'";
 
+constexpr int kMaxDepth = 32;
+
 std::string FilePath() { return platform::DataDirectory() + "/" + dbconfig::kConfigFileName; }
 
 bool IsThere(const std::string& path) {
@@ -25,15 +27,13 @@ bool IsThere(const std::string& path) {
 Result Write() {
   const bool had_one = IsThere(FilePath());
   const std::uint32_t status = dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0);
-  if (status == dbconfig::kFileLocked)
-    throw Failure(kStoreFailure,
-                  "cannot write " + FilePath() + ": another console is writing the file; try again");
-  if (status == dbconfig::kFileUnwritable)
-    throw Failure(kStoreFailure, "cannot write " + FilePath() +
-                                     ": check the permissions of the directory and the room on the disk" +
+  const std::string cause = dbconfig::LastFailureText();
+  if (status == dbconfig::kNotFlushed)
+    throw Failure(kStoreFailure, "wrote " + FilePath() + ", but it may be lost in a power cut: " + cause +
+                                     "; write it again when that is mended");
+  if (status != 0)
+    throw Failure(kStoreFailure, "cannot write " + FilePath() + ": " + cause +
                                      (had_one ? "; what was there before is still there" : ""));
-  if (status != 0) LoadSite();  // says which failure it is
-  if (status != 0) throw Failure(kStoreFailure, "cannot read the stores for " + FilePath() + ": try again");
   return {{{"path", FilePath()}, {"written", true}}, "Wrote " + FilePath() + ".\n"};
 }
 
@@ -54,15 +54,27 @@ std::string FileBytes() {
   throw Failure(kNothingMatched, "there is no " + FilePath() + ": \"alertctl config write\" writes it");
 }
 
+/// The document; no object when it is damaged, or nested deeper than any that is written here: what walks it would run
+/// out of stack.
+Json ParseShallow(const std::string& bytes) {
+  bool too_deep = false;
+  const auto is_shallow = [&](int depth, Json::parse_event_t, Json&) {
+    too_deep = too_deep || depth > kMaxDepth;
+    return !too_deep;
+  };
+  Json document = Json::parse(bytes, is_shallow, false);
+  return too_deep ? Json() : document;
+}
+
 Result Show() {
-  Json document = Json::parse(FileBytes(), nullptr, false);
+  Json document = ParseShallow(FileBytes());
   if (!document.is_object())
     throw Failure(kInvalid, FilePath() + " is damaged: \"alertctl config write\" writes it anew");
   if (document.value("format", Json()) != "alerting-configuration" || document.value("version", Json()) != 1)
     throw Failure(kInvalid, FilePath() +
                                 " is no configuration file of this version: move it away if it is needed "
                                 "elsewhere, \"alertctl config write\" replaces it");
-  MaskPasswords(document);
+  MaskSecrets(document);
   return {document, Overview(document)};
 }
 
@@ -72,9 +84,10 @@ void AddConfigVerbs(Verbs& verbs) {
   CLI::App& config = verbs.AddNoun("config", "Writes and shows the alert managers' configuration file.");
   verbs.AddVerb(config, "write", Access::kExport, "Writes the file anew from the stores.", kWriteExamples,
                 Write);
-  verbs.AddVerb(config, "show", Access::kFile,
-                "Shows how much the file says; with --json the file itself, with passwords masked.",
-                kShowExamples, Show);
+  verbs.AddVerb(
+      config, "show", Access::kFile,
+      "Shows how much the file says; with --json the file itself, with passwords and community names masked.",
+      kShowExamples, Show);
 }
 
 }  // namespace alertctl

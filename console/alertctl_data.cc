@@ -12,15 +12,16 @@ namespace alertctl {
 namespace {
 
 constexpr std::chrono::seconds kTurnLimit(10);
+constexpr char kChooseAnother[] = ": check the permissions or choose another data directory with --data";
 
 std::string TurnFile() { return platform::DataDirectory() + "/alertctl.lock"; }
 
 }  // namespace
 
 void MakeDataDirectory() {
-  if (!platform::MakeDirectories(platform::DataDirectory()))
-    throw Failure(kStoreFailure, "cannot make the data directory " + platform::DataDirectory() +
-                                     ": check the permissions above it or choose another with --data");
+  platform::FileError error;
+  if (!platform::PreparePrivateDirectory(platform::DataDirectory(), error))
+    throw Failure(kStoreFailure, error.text + (error.number == 0 ? "" : kChooseAnother));
 }
 
 void RequireData() {
@@ -36,10 +37,7 @@ DirectoryTurn::DirectoryTurn() : lock_(TurnFile(), kTurnLimit) {
     throw Failure(kStoreFailure, "another alertctl is changing this data directory; try again (" +
                                      platform::DataDirectory() + ")");
   if (lock_.Outcome() != platform::LockOutcome::kHeld)
-    throw Failure(kStoreFailure,
-                  "cannot lock " + TurnFile() +
-                      ": the data directory cannot be written; check its permissions or choose "
-                      "another with --data");
+    throw Failure(kStoreFailure, lock_.Error().text + (lock_.Error().number == 0 ? "" : kChooseAnother));
 }
 
 }  // namespace alertctl

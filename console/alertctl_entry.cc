@@ -89,7 +89,11 @@ Result Set(const Arguments& arguments) {
   const std::string what = "the entry of \"" + user.name + "\" on \"" + entry.service_name + "\"";
   const alertstore::Status status = SaveEntry(entry);
   if (status != alertstore::kOk) throw StoreFailure("write " + what, status);
-  return {StoredEntry(entry.service, entry.user), "Wrote " + what + ".\n"};
+  try {
+    return {StoredEntry(entry.service, entry.user), "Wrote " + what + ".\n"};
+  } catch (const Failure& unread) {
+    throw Failure(unread.Code(), "wrote " + what + ", but cannot show it: " + unread.what());
+  }
 }
 
 Result Remove(const Arguments& arguments) {
@@ -105,6 +109,7 @@ Result Remove(const Arguments& arguments) {
   Library library;
   if (!library.DeleteUserEntry(library.IndexOf(service), GUID::Parse(user_id).value()))
     throw library.Refusal("remove the " + what);
+  library.RequireWhole("removed the " + what);
   return {entries[0], "Removed the " + what + ".\n"};
 }
 

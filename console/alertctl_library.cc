@@ -47,7 +47,7 @@ Library::Library() : stores_(std::make_shared<StoreWatch>()) {
     throw Failure(kInvalid, "cannot load the alerting library: " + library_.Error() +
                                 "; install it beside this program, or correct ALERTING_LIBRARY");
   const std::uint32_t opened = Find<std::uint32_t()>(library_, "OpenDBs")();
-  if (opened > 1) throw StoreFailure("open the stores", opened);
+  if (opened > 1) throw StoreFailure("open the stores", stores_->FirstFailure(), stores_->Cause());
 }
 
 Library::~Library() {
@@ -59,11 +59,10 @@ int Library::IndexOf(const Json& service) {
   const GUID id = IdOf(service);
   const int count = Find<std::int32_t()>(library_, "_DomainServiceGetCount@0")();
   if (count == 0) throw Refusal("load the services");
-  messages_.Forget();
-  stores_->Forget();
   const auto info = Find<const alertstore::ALRTNTFYSERV*(std::int32_t)>(library_, "_DomainServiceGetInfo@4");
   for (int index = 0; index < count; ++index)
-    if (info(index)->serviceId == id) return index;
+    if (info(index)->serviceId == id) return ForgetLoading(index);
+  if (stores_->FirstFailure() != alertstore::kOk) throw Refusal("load the services");
   throw Failure(kNothingMatched,
                 "the service " + service["name"].dump() + " cannot be loaded by the alerting library");
 }
@@ -73,7 +72,19 @@ Failure Library::Refusal(const std::string& what) const {
   if (stores_->FirstFailure() == alertstore::kOk)
     return Failure(kStoreFailure,
                    "cannot " + what + ": no store failed, but the alerting library did." + said);
-  return Failure(kStoreFailure, StoreFailure(what, stores_->FirstFailure()).what() + ("." + said));
+  return Failure(kStoreFailure,
+                 StoreFailure(what, stores_->FirstFailure(), stores_->Cause()).what() + ("." + said));
+}
+
+void Library::RequireWhole(const std::string& done) const {
+  if (stores_->FirstFailure() == alertstore::kOk) return;
+  throw Failure(kStoreFailure, done + ", but not everything that belongs to it: " + stores_->Cause());
+}
+
+int Library::ForgetLoading(int index) {
+  messages_.Forget();
+  stores_->Forget();
+  return index;
 }
 
 bool Library::IsFirstOfType(int index) const {

@@ -56,8 +56,13 @@ class Library {
   /// Why the library did not do what it was asked for ("delete the service ...") after IndexOf: the failure
   /// of the store where there was one, and what the library said about it.
   Failure Refusal(const std::string& what) const;
+  /// Throws when a store failed since IndexOf although the library answered success: it does not look at everything
+  /// that it writes. `done` says what was done all the same.
+  void RequireWhole(const std::string& done) const;
 
  private:
+  int ForgetLoading(int index);
+
   Messages messages_;
   const std::shared_ptr<StoreWatch> stores_;
   platform::DynamicLibrary library_;

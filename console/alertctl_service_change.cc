@@ -62,6 +62,7 @@ Result Copy(const Arguments& arguments) {
   const Json after = LoadSite();
   if (ManagersOf(after, FindService(after, id)).empty())
     throw library.Refusal("enable the copy \"" + arguments.new_name + "\", which was made,");
+  library.RequireWhole("copied the service " + Quoted(source));
   return {
       {{"id", id}, {"name", arguments.new_name}, {"copyOf", source["id"]}, {"alertManager", manager["name"]}},
       "Copied " + Quoted(source) + " to \"" + arguments.new_name + "\" " + id + ", enabled on " +
@@ -81,6 +82,7 @@ Result Delete(const Arguments& arguments) {
   // The library asks for a manager, but takes the service off whichever has it.
   if (!library.Delete(index, platform::kNullGuid))
     throw library.Refusal("delete the service " + Quoted(service));
+  library.RequireWhole("deleted the service " + Quoted(service));
   return {{{"id", service["id"]}, {"name", service["name"]}, {"deleted", true}},
           "Deleted the service " + Quoted(service) + ".\n" + kTellManagers};
 }
@@ -107,6 +109,7 @@ Result Enable(const Arguments& arguments) {
   library.Enable(library.IndexOf(service), IdOf(manager), true);
   const Json after = LoadSite();
   if (ManagersOf(after, service).empty()) throw library.Refusal("enable the service " + Quoted(service));
+  library.RequireWhole("enabled the service " + Quoted(service));
   return {ManagerResult(after, service, true),
           "Enabled " + Quoted(service) + " on " + Quoted(manager) + ".\n" + kTellManagers};
 }
@@ -123,6 +126,7 @@ Result Disable(const Arguments& arguments) {
   for (std::size_t i = 0; i < entries; ++i) library.Enable(index, platform::kNullGuid, false);
   const Json after = LoadSite();
   if (!ManagersOf(after, service).empty()) throw library.Refusal("disable the service " + Quoted(service));
+  library.RequireWhole("disabled the service " + Quoted(service));
   return {ManagerResult(after, service, true), "Disabled " + Quoted(service) + ".\n" + kTellManagers};
 }
 

@@ -9,7 +9,7 @@
 #include <optional>
 
 #include "companions/alertstore/console_users.h"
-#include "companions/alertstore/status_text.h"
+#include "companions/alertstore/problem.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
@@ -53,12 +53,16 @@ const dbconfig::ServiceType* TypeOf(const Json& service) {
 /// What to do about a failure; it follows the words for the status.
 const char* Advice(alertstore::Status status) {
   switch (status) {
-    case alertstore::kIoError:
+    case alertstore::kNoPermission:
       return "; check the permissions or choose another directory with --data";
+    case alertstore::kIoError:
+    case alertstore::kReadOnly:
+    case alertstore::kPathTooLong:
+      return "; choose another directory with --data";
     case alertstore::kDiskFull:
       return "; make room and try again";
     case alertstore::kCorrupt:
-      return "; restore it from a backup";
+      return "; put a backup in its place (\"alertctl restore FILE\")";
     case alertstore::kLockTimeout:
       return "; try again in a moment";
     case alertstore::kNotFound:
@@ -79,17 +83,17 @@ dbconfig::Site ReadSite() {
 
 Json LoadSite() {
   Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
-  MaskPasswords(document);
+  MaskSecrets(document);
   return document;
 }
 
-void MaskPasswords(Json& document) {
+void MaskSecrets(Json& document) {
   if (!document.is_structured()) return;
   for (auto& [name, value] : document.items()) {
-    if (name == "password" && value != "")
+    if ((name == "password" || name == "community") && value != "")
       value = kMask;
     else
-      MaskPasswords(value);
+      MaskSecrets(value);
   }
 }
 
@@ -171,11 +175,14 @@ std::string HostName() {
 }
 
 Failure StoreFailure(const std::string& what, alertstore::Status status) {
+  return StoreFailure(what, status, alertstore::ProblemText(status));
+}
+
+Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause) {
   char code[16];
   std::snprintf(code, sizeof code, "0x%x", status);
-  return Failure(kStoreFailure, "cannot " + what + " in " + platform::DataDirectory() + ": " +
-                                    alertstore::StatusText(status) + Advice(status) + " (status " + code +
-                                    ")");
+  return Failure(kStoreFailure, "cannot " + what + " in " + platform::DataDirectory() + ": " + cause +
+                                    Advice(status) + " (status " + code + ")");
 }
 
 }  // namespace alertctl

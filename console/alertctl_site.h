@@ -12,10 +12,10 @@
 namespace alertctl {
 
 /// All stores at one moment, in the form of the configuration file (docs/configuration-file.md) with every
-/// password masked, so that no verb can print one. Throws a Failure with kStoreFailure.
+/// secret masked, so that no verb can print one. Throws a Failure with kStoreFailure.
 Json LoadSite();
-/// Masks the passwords in a document.
-void MaskPasswords(Json& document);
+/// Masks the passwords in a document, and the community names of the SNMP managers, which are passwords too.
+void MaskSecrets(Json& document);
 
 /// The service of that name (either case) or identity. Throws kNothingMatched, or kInvalid when several
 /// match.
@@ -44,7 +44,9 @@ std::uint32_t RecordTypeOf(const Json& service);
 
 /// This machine's name.
 std::string HostName();
-/// A store failure while doing something ("add the user \"Ann\""), with what can be done about it.
+/// The failure of a store just now, while doing something ("add the user \"Ann\""), with what can be done about it.
 Failure StoreFailure(const std::string& what, alertstore::Status status);
+/// The same, where the cause was noted before.
+Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause);
 
 }  // namespace alertctl

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "companions/alertstore/engine.h"
 
@@ -12,14 +13,17 @@ namespace alertctl {
 class StoreWatch {
  public:
   alertstore::Status FirstFailure() const { return failure_; }
+  /// Why it failed, and what was being done: "the disk is full (deleting a record in InstNtfyServDB.dat)".
+  const std::string& Cause() const { return cause_; }
   void Forget() { failure_ = alertstore::kOk; }
 
   /// Answers `status`. A read that finds nothing has not failed.
-  alertstore::Status NoteRead(alertstore::Status status);
-  alertstore::Status NoteWrite(alertstore::Status status);
+  alertstore::Status NoteRead(alertstore::Status status, const std::string& doing);
+  alertstore::Status NoteWrite(alertstore::Status status, const std::string& doing);
 
  private:
   alertstore::Status failure_ = alertstore::kOk;
+  std::string cause_;
 };
 
 /// Hands every call to `base` and tells `watch` what came of it.

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <optional>
 
+#include "companions/alertstore/left_out.h"
 #include "console/alertctl_data.h"
 #include "console/alertctl_output.h"
 
@@ -42,10 +43,23 @@ Result Verbs::RunAction() const {
   return action_();
 }
 
+namespace {
+
+/// What is shown then is not all that there is.
+void WarnOfLeftOut() {
+  const std::string left_out = alertstore::DescribeLeftOut(alertstore::LeftOutRecords());
+  if (!left_out.empty())
+    PrintError("the data are damaged: " + left_out +
+               "; put a backup in their place (\"alertctl restore FILE\")");
+}
+
+}  // namespace
+
 int Verbs::Run() {
   if (!data_.empty()) setenv("ALERTING_DATA", data_.c_str(), 1);
   try {
     const Result result = RunAction();
+    WarnOfLeftOut();
     if (PrintOut(json_ ? JsonText(result.json) : Printable(result.text, true))) return kDone;
     PrintError("cannot write the output: " + LastOutputError() + "; what was asked for is done");
     return kStoreFailure;

@@ -78,5 +78,6 @@ void AddEntryVerbs(Verbs& verbs);
 void AddManagerVerbs(Verbs& verbs);
 void AddResponseVerbs(Verbs& verbs);
 void AddConfigVerbs(Verbs& verbs);
+void AddBackupVerbs(Verbs& verbs);
 
 }  // namespace alertctl

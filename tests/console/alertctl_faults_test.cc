@@ -1,5 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Sites, arguments and surroundings that are not as they should be.
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include "companions/alertstore/console_users.h"
 #include "tests/console/alertctl_fixture.h"
 
@@ -12,6 +16,15 @@ using testing::IsEmpty;
 using testing::Not;
 
 namespace {
+
+/// Changes the database behind the program's back.
+void Sql(const std::string& statement) {
+  sqlite3* connection = nullptr;
+  ASSERT_EQ(sqlite3_open((platform::DataDirectory() + "/alerting.db").c_str(), &connection), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(connection, statement.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
+      << sqlite3_errmsg(connection);
+  sqlite3_close(connection);
+}
 
 void WriteFile(const std::string& path, const std::string& bytes) {
   ASSERT_TRUE(platform::WriteFileAtomically(path, bytes, 0600));
@@ -139,6 +152,118 @@ TEST_F(AlertctlTest, AWrongPathInTheEnvironmentIsNamed) {
     EXPECT_THAT(RunLine("ALERTING_LIBRARY=" + library + " " + CommandOf({"service", "delete", "Wave File"})),
                 Fails(4, HasSubstr(library)));
   }
+}
+
+TEST_F(AlertctlSiteTest, ADamagedRecordIsToldAndHidesNoOther) {
+  Sql("UPDATE \"NtfyServDB.dat\" SET record=substr(record,1,2279) WHERE id=4");
+  const Ran ran = Run({"service", "list", "--json"});
+  EXPECT_EQ(ran.code, 0);
+  EXPECT_EQ(json::parse(ran.out).size(), 12u);
+  EXPECT_THAT(ran.err, HasSubstr("1 record in NtfyServDB.dat"));
+  EXPECT_EQ(Run({"config", "write"}).code, 0);
+}
+
+// The library does not look at the second of two deletes.
+TEST_F(AlertctlSiteTest, WhatALaterWriteFailedToDoIsToldAfterASuccess) {
+  RunJson({"user", "add", "Ann"});
+  RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
+  RunJson({"service", "copy", "Internet Mail", "Night mail"});
+  for (const char* table : {"InstNtfyServDB.dat", "UsrInstServDB.dat"})
+    Sql("CREATE TRIGGER \"refuse " + std::string(table) + "\" BEFORE DELETE ON \"" + table +
+        "\" BEGIN SELECT RAISE(ABORT,'no'); END");
+  EXPECT_THAT(
+      Run({"service", "delete", "Night mail"}),
+      Fails(5, AllOf(HasSubstr("deleted the service \"Night mail\", but"), HasSubstr("InstNtfyServDB.dat"))));
+  EXPECT_THAT(Run({"entry", "remove", "Ann", "Internet Mail"}),
+              Fails(5, AllOf(HasSubstr("removed the entry"), HasSubstr("UsrInstServDB.dat"))));
+}
+
+TEST_F(AlertctlSiteTest, ADirectoryThatOthersCanWriteIsRefusedWithWhatToDo) {
+  const std::string what = "chmod go-w " + data_;
+  chmod(data_.c_str(), 0777);
+  for (const Arguments& verb : {Arguments{"service", "list"}, {"init"}, {"config", "write"}})
+    EXPECT_THAT(Run(verb), Fails(5, HasSubstr(what))) << testing::PrintToString(verb);
+}
+
+TEST_F(AlertctlTest, WhatTheAdministratorsAccountMakesBelongsToTheDirectorysOwner) {
+  if (geteuid() != 0) GTEST_SKIP() << "only the system administrator's account gives files away";
+  std::filesystem::create_directories(data_);
+  std::filesystem::permissions(data_, std::filesystem::perms::owner_all);
+  ASSERT_EQ(chown(data_.c_str(), 1234, 1234), 0);
+  RunJson({"init"});
+  RunJson({"user", "add", "Ann"});
+  RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
+  RunJson({"config", "write"});
+  EXPECT_EQ(RunLine("find " + data_ + " ! -user 1234").out, "");
+  EXPECT_THAT(RunLine("ls -A " + data_).out,
+              AllOf(HasSubstr("alerting.lock"), HasSubstr("alert-managers.json")));
+}
+
+TEST_F(AlertctlTest, ARelativeDataDirectoryIsToldAsAWhole) {
+  EXPECT_EQ(RunJson({"init", "--data", "here"})["directory"], root_ + "/here");
+  EXPECT_EQ(RunJson({"config", "write", "--data", "here"})["path"], root_ + "/here/alert-managers.json");
+}
+
+TEST_F(AlertctlSiteTest, AFileNestedTooDeepIsDamaged) {
+  WriteFile(data_ + "/alert-managers.json",
+            "{\"a\":" + std::string(12000, '[') + std::string(12000, ']') + "}");
+  EXPECT_THAT(Run({"config", "show", "--json"}), Fails(4, HasSubstr("damaged")));
+}
+
+TEST_F(AlertctlSiteTest, CommunityNamesAreMasked) {
+  CAlertUSR_SNMPDB managers;
+  ALRTUSR_SNMPSERVICEREC manager{};
+  GUID id{};
+  manager.community.Assign("s3cret");
+  ASSERT_EQ(managers.DBOpen(), kOk);
+  ASSERT_EQ(managers.DBAlertRecAdd(manager, id), kOk);
+  ASSERT_THAT(ConfigFile(), HasSubstr("s3cret"));
+  EXPECT_THAT(Run({"config", "show", "--json"}).out, AllOf(HasSubstr("********"), Not(HasSubstr("s3cret"))));
+}
+
+TEST_F(AlertctlSiteTest, ABackupIsPutBackUnderAConsoleAtWork) {
+  CAlertNtfyServDB console;
+  const auto count = [&] {
+    int services = 0;
+    ALRTNTFYSERV service{};
+    Status status = console.DBAlertRecFindFirst(kByIdentity, 0, nullptr, service);
+    for (; status == kOk; status = console.DBAlertRecFindNext(service)) ++services;
+    return services;
+  };
+  ASSERT_EQ(console.DBOpen(), kOk);
+  const std::string before = ConfigFile();
+  const json backup = RunJson({"backup", "site.db"});
+  EXPECT_FALSE(std::filesystem::exists(root_ + "/site.db-wal"));
+  RunJson({"service", "copy", "Internet Mail", "New"});
+  EXPECT_EQ(count(), 14);
+  EXPECT_EQ(RunJson({"restore", "site.db"})["records"], backup["records"]);
+  EXPECT_EQ(count(), 13);
+  EXPECT_EQ(ConfigFile(), before);
+  EXPECT_EQ(RunJson({"backup", "site.db"})["records"], backup["records"]) << "over the older one";
+}
+
+TEST_F(AlertctlSiteTest, ADamagedDatabaseMakesRoomForABackup) {
+  const std::string before = ConfigFile();
+  RunJson({"backup", "site.db"});
+  std::filesystem::remove(data_ + "/alerting.db-wal");
+  WriteFile(data_ + "/alerting.db", std::string(100000, 'x'));
+  EXPECT_THAT(Run({"service", "list"}), Fails(5, HasSubstr("alertctl restore FILE")));
+  EXPECT_EQ(RunJson({"restore", "site.db"})["setAside"], data_ + "/alerting.db.damaged");
+  EXPECT_EQ(ConfigFile(), before);
+  EXPECT_EQ(std::filesystem::file_size(data_ + "/alerting.db.damaged"), 100000u);
+}
+
+TEST_F(AlertctlSiteTest, WhatIsNoBackupIsNeitherReplacedNorPutBack) {
+  const std::string letter = root_ + "/letter", before = ConfigFile();
+  WriteFile(letter, "Dear Ann");
+  EXPECT_THAT(Run({"backup", letter}), Fails(4, HasSubstr("is no backup")));
+  EXPECT_THAT(Run({"restore", letter}), Fails(4, HasSubstr("no backup")));
+  EXPECT_THAT(Run({"restore", "missing"}), Fails(3, HasSubstr("missing")));
+  RunJson({"backup", "site.db"});
+  std::filesystem::resize_file(root_ + "/site.db", std::filesystem::file_size(root_ + "/site.db") / 2);
+  EXPECT_THAT(Run({"restore", "site.db"}), Fails(4, HasSubstr("damaged")));
+  EXPECT_EQ(ConfigFile(), before);
+  EXPECT_EQ(std::filesystem::file_size(letter), 8u);
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "companions/alertstore/stores.h"
+#include "platform/base/atomic_write.h"
 #include "platform/base/paths.h"
 #include "tests/support/temporary.h"
 
