@@ -193,48 +193,4 @@ TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
   EXPECT_EQ(one.File().DBFileUnlock(), kNotLocked);
 }
 
-// The services there are; each must have its specific record, and there must be no other specific record.
-int CountWholeServices() {
-  Opened<CAlertNtfyServDB> services;
-  auto* specifics = services.SpecificStore<ALRTSNMPSERVICEREC>();
-  int commons = 0, others = 0;
-  ALRTNTFYSERV common{};
-  ALRTSNMPSERVICEREC specific{};
-  Status status = services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, common);
-  for (; status == kOk; status = services.DBAlertRecFindNext(common), ++commons) {
-    specific.guid = common.specificRecordId;
-    EXPECT_EQ(specifics->DBAlertRecRetrieve(specific.guid, specific), kOk);
-  }
-  status = specifics->DBAlertRecFindFirst(kByIdentity, 0, nullptr, specific);
-  for (; status == kOk; status = specifics->DBAlertRecFindNext(specific)) ++others;
-  EXPECT_EQ(commons, others);
-  return commons;
-}
-
-// A console is killed again and again while it adds services. Whatever was under way, no service may be
-// without its specific record, and none that was acknowledged may be missing.
-TEST_F(StoreProcessesTest, ATwoRecordAddIsNeverHalfThere) {
-  int acknowledged_adds = 0;
-  for (int round = 0; round < 20; ++round) {
-    SCOPED_TRACE(round);
-    Signal acknowledged;
-    const pid_t adder = StartConsole([&] {
-      CAlertNtfyServDB services;
-      bool added = services.DBOpen() == kOk;
-      while (added) {
-        ALRTNTFYSERV common{};
-        ALRTSNMPSERVICEREC specific{};
-        GUID id{}, specific_id{};
-        added = services.DBAlertRecAdd(common, id, specific, specific_id) == kOk && acknowledged.Send();
-      }
-      return false;
-    });
-    for (int i = 0; i < 3; ++i, ++acknowledged_adds) ASSERT_TRUE(acknowledged.Wait());
-    usleep(static_cast<useconds_t>(round * 37));  // into another part of an add each time
-    kill(adder, SIGKILL);
-    waitpid(adder, nullptr, 0);
-    EXPECT_GE(CountWholeServices(), acknowledged_adds);
-  }
-}
-
 }  // namespace

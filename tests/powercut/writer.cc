@@ -21,16 +21,21 @@ namespace {
 
 constexpr int kVisits = 1000;  // an end, should nobody make one
 
+// One line, whole or not at all.
+void Tell(const char* kind, const std::string& id, unsigned version) {
+  std::printf("%s %s %u\n", kind, id.c_str(), version);
+  std::fflush(stdout);
+}
+
 void Require(bool succeeded, const char* what) {
   if (succeeded) return;
-  std::printf("failed %s 0\n", what);
-  std::exit(1);
+  Tell("failure", what, 0);
+  _exit(1);
 }
 
 template <class Record>
 void Acknowledge(const char* kind, const Record& record) {
-  std::printf("%s %s %u\n", kind, IdentityOf(record).ToString().c_str(), powercut::VersionOf(record));
-  std::fflush(stdout);
+  Tell(kind, IdentityOf(record).ToString(), powercut::VersionOf(record));
 }
 
 class Writer {
@@ -50,18 +55,12 @@ class Writer {
 
  private:
   void Write(CAlertNtfyServDB& services, CAlertRespDB& responses) {
-    switch (random_() % 5) {
-      case 0:
-        return AddService(services);
-      case 1:
-        return AddResponse(responses);
-      case 2:
-        return Update("service", services, services_);
-      case 3:
-        return Update("specific", *services.SpecificStore<ALRTMHSSERVICEREC>(), specifics_);
-      default:
-        return Update("response", responses, responses_);
-    }
+    const auto kind = random_() % 5;
+    if (kind == 0) AddService(services);
+    if (kind == 1) AddResponse(responses);
+    if (kind == 2) Update("service", services, services_);
+    if (kind == 3) Update("specific", *services.SpecificStore<ALRTMHSSERVICEREC>(), specifics_);
+    if (kind == 4) Update("response", responses, responses_);
   }
 
   void AddService(CAlertNtfyServDB& services) {
@@ -95,10 +94,9 @@ class Writer {
     Acknowledge(kind, record);
   }
 
-  void WriteConfigFile() {
+  static void WriteConfigFile() {
     Require(dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0) == 0, "converting");
-    std::printf("file %s 0\n", dbconfig::kConfigFileName);
-    std::fflush(stdout);
+    Tell("file", dbconfig::kConfigFileName, 0);
   }
 
   std::mt19937 random_;
@@ -117,8 +115,7 @@ int main(int count, char** arguments) {
   if (count == 7)
     powercut::Follow({arguments[1], arguments[3], std::atol(arguments[4]), seed, *arguments[5] == '1',
                       *arguments[6] == '1'});
-  std::printf("process %d 0\n", getpid());
-  std::fflush(stdout);
+  Tell("process", "itself", static_cast<unsigned>(getpid()));
   Writer writer(seed);
   for (int i = 0; i < kVisits; ++i) writer.Visit();
 }
