@@ -19,7 +19,7 @@ namespace powercut {
 /// When the power fails, and what becomes of that which was not synced until then.
 struct Plan {
   std::string directory;  ///< whose files are followed; not those of its subdirectories
-  std::string kept;       ///< a directory that is made and filled with what the disk holds at the end
+  std::string kept;       ///< a directory that is filled with what the disk holds at the end
   long cut_at = 0;        ///< the write, sync or change of a name at which the power fails
   unsigned seed = 0;
   bool tears = false;  ///< some of the unsynced writes have arrived, by sectors; else none has
@@ -116,7 +116,6 @@ class Disk {
   }
 
   [[noreturn]] void Cut() {
-    std::filesystem::create_directory(plan_.kept);
     KeepNames(plan_.tears ? random_() % (unsynced_names_.size() + 1) : 0);
     for (const auto& [name, file] : kept_names_) {
       if (file == nullptr) continue;
