@@ -95,6 +95,7 @@ void ScriptedDesktop::Cancel(Modal& modal) {
 }
 
 Answer ScriptedDesktop::ShowMessage(const Message& message) {
+  shown.push_back({message.title, wait_cursor_depth});
   const Answer answer = script.AnswerTo(message);
   RunPosted();
   return answer;

@@ -20,6 +20,12 @@ class ScriptedDesktop : public platform::ui::Desktop {
   std::optional<std::string> clipboard;
   int system_major_version = 10;
   int wait_cursor_depth = 0;
+  /// How a message was shown, besides its text, which the script notes.
+  struct Shown {
+    std::string title;
+    int wait_cursors;
+  };
+  std::vector<Shown> shown;
   std::string last_help_text;
   /// Icons of files that are not there, for ExtractIcons; icon files that are there are read.
   std::map<std::string, std::vector<platform::ui::Bitmap>> icon_files;

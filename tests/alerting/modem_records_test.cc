@@ -126,7 +126,7 @@ TEST_F(ModemRecordsTest, ABackupThatCouldNotBeLinkedIsLinkedByTheNextSave) {
   CNtfyService& service = *Find(id);
   library.engine->FailNone();
   EXPECT_THAT(desktop.TakeMessages(),
-              ElementsAre("Unable to update the notification service database record."));
+              ElementsAre("Unable to update the notification service database record. (waiting)"));
   EXPECT_TRUE(StoredCommon(id).backupSpecificRecordId.IsNull());
   ASSERT_TRUE(service.SaveRecords());
   EXPECT_EQ(StoredCommon(id).backupSpecificRecordId, service.GetModemId());
@@ -144,9 +144,10 @@ TEST_F(ModemRecordsTest, AnUnknownModemIsRefusedAndChangesNothing) {
 
 TEST_F(ModemRecordsTest, ABackupRecordThatIsGoneLeavesTheServiceWithoutOneInMemory) {
   const GUID id = SeedService(kTypeGeneric, "Port");
-  const GUID backup = Find(id)->GetModemId();
-  ASSERT_EQ(ServiceStore().SpecificStore<ALRTGENPORTSERVICEREC>()->DBAlertRecDelete(backup), kOk);
   CNtfyService& service = *Find(id);
+  const GUID backup = service.GetModemId();
+  ASSERT_TRUE(Users(service).SetModemSettings(Settings(AddModem()), "Modem A", true));
+  ASSERT_EQ(ServiceStore().SpecificStore<ALRTGENPORTSERVICEREC>()->DBAlertRecDelete(backup), kOk);
   EXPECT_TRUE(service.ReloadRecords());
   EXPECT_TRUE(service.GetModemId().IsNull());
   EXPECT_FALSE(service.HasBackupModem());

@@ -25,7 +25,7 @@ TEST_F(ServiceListTest, AnEmptyStoreIsReportedOnceAndAnswersAsTheLastGoodRead) {
   CNtfyServiceList& list = TheServices();
   EXPECT_FALSE(list.Read());
   EXPECT_THAT(desktop.TakeMessages(),
-              ElementsAre("Unable to read records from the notification service database."));
+              ElementsAre("Unable to read records from the notification service database. (waiting)"));
   EXPECT_FALSE(list.Read()) << "silently, as long as no read has succeeded";
   EXPECT_EQ(list.GetCount(), 0);
 
@@ -71,8 +71,9 @@ TEST_F(ServiceListTest, AServiceWhoseSpecificRecordIsGoneStaysInTheList) {
   SeedCommon(RecordTypeOf(kTypeSmtp), "half a service");
   ASSERT_TRUE(TheServices().Read());
   EXPECT_THAT(Names(), ElementsAre("half a service"));
-  EXPECT_THAT(desktop.TakeMessages(),
-              ElementsAre("Unable to read the record from the notification service-specific database."));
+  EXPECT_THAT(
+      desktop.TakeMessages(),
+      ElementsAre("Unable to read the record from the notification service-specific database. (waiting)"));
 }
 
 TEST_F(ServiceListTest, ADeleteThatFailsStillTakesTheServiceFromTheList) {
@@ -93,7 +94,7 @@ TEST_F(ServiceListTest, AddsFromTheStoreAtTheEnd) {
   EXPECT_FALSE(TheServices().AddFromStore(SeedCommon(RecordTypeOf(kTypeScript), "script"))) << "silently";
   EXPECT_FALSE(TheServices().AddFromStore(GUID::Generate()));
   EXPECT_THAT(desktop.TakeMessages(),
-              ElementsAre("Unable to read records from the notification service database."));
+              ElementsAre("Unable to read records from the notification service database. (waiting)"));
   EXPECT_THAT(Names(), ElementsAre("first", "second"));
 }
 

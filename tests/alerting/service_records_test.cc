@@ -168,8 +168,10 @@ TEST_F(ServiceRecordsTest, ProgramLaunchSavesAndCopiesItsCommonRecordAlone) {
   EXPECT_EQ(std::memcmp(&after, &expected, sizeof(after)), 0);
 
   GUID copy{};
+  service.Common().specificRecordId = GUID::Generate();
   ASSERT_TRUE(service.MakeCopy("Copy", copy));
   EXPECT_EQ(StoredCommon(copy).virgin, 1U);
+  EXPECT_TRUE(StoredCommon(copy).specificRecordId.IsNull());
   EXPECT_TRUE(service.ReloadRecords());
 }
 
@@ -241,8 +243,9 @@ TEST_F(ServiceRecordsTest, AMissingSpecificStoreFailsTheLoadOfEveryTypeButSnmpWi
   EXPECT_TRUE(TheServices().Read());
   EXPECT_THAT(
       desktop.TakeMessages(),
-      ElementsAre("The reference to a service specific database object is invalid.  Record not read.",
-                  "The reference to a service specific database object is invalid.  Record not read."));
+      ElementsAre(
+          "The reference to a service specific database object is invalid.  Record not read. (waiting)",
+          "The reference to a service specific database object is invalid.  Record not read. (waiting)"));
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(TheServices().GetAt(i)->SaveRecords());
   EXPECT_EQ(desktop.TakeMessages().size(), 3U);
 }

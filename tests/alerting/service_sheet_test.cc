@@ -15,6 +15,7 @@ namespace {
 
 using desktops::Person;
 using testing::ElementsAre;
+using testing::FieldsAre;
 using testing::IsEmpty;
 
 constexpr char kFirst[] = "First";
@@ -91,6 +92,16 @@ TEST_F(ServiceSheetTest, APageThatRefusesItsValuesStopsTheSaveBeforeTheStore) {
   });
   EXPECT_THAT(sheet.saved, ElementsAre("Second good")) << "refused values are not tried again";
   EXPECT_EQ(library.engine->Writes().size(), 2u);
+}
+
+TEST_F(ServiceSheetTest, AFailureToWriteIsToldUnderTheWaitCursorOfTheSave) {
+  library.engine->FailAll(test_support::kAnyStore, test_support::StoreOp::kUpdate);
+  Run(sheet, [this](Person& p) {
+    desktop.script.ExpectMessage("Unable to update the notification service database record.");
+    p.Press("OK");
+    p.Press("Cancel");
+  });
+  EXPECT_THAT(desktop.shown, ElementsAre(FieldsAre("Alerting", 1)));
 }
 
 TEST_F(ServiceSheetTest, PagesAreSavedInTabOrderOnceForEachEdit) {

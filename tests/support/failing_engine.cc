@@ -89,7 +89,10 @@ class FailingTable : public Table {
  public:
   FailingTable(FailingEngine& engine, std::string store, std::unique_ptr<Table> base)
       : engine_(engine), store_(std::move(store)), base_(std::move(base)) {}
-  ~FailingTable() override { NoteUnlocked(); }
+  ~FailingTable() override {
+    NoteUnlocked();
+    engine_.closed_.push_back(store_);
+  }
 
   Status FindFirst(const Selector& selector, std::string_view key, void* out) override {
     return engine_.Make(Call(StoreOp::kFindFirst), [&] { return base_->FindFirst(selector, key, out); });

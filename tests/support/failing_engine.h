@@ -75,6 +75,8 @@ class FailingEngine : public alertstore::Engine {
   std::vector<StoreCall> Writes() const;
   int Count(std::string_view store, StoreOp op) const;
   void Forget() { calls_.clear(); }
+  /// The stores whose table was given back, in that order.
+  const std::vector<std::string>& Closed() const { return closed_; }
 
   /// The stores whose lock is held now.
   std::vector<std::string> HeldLocks() const;
@@ -103,6 +105,7 @@ class FailingEngine : public alertstore::Engine {
   bool rule_active_ = false;
   int failures_ = 0;
   std::vector<StoreCall> calls_;
+  std::vector<std::string> closed_;
   std::map<std::string, int> locks_;
 };
 

@@ -40,9 +40,22 @@ LibraryUnderTest::~LibraryUnderTest() {
 }
 
 platform::ui::Answer RecordingDesktop::ShowMessage(const platform::ui::Message& message) {
-  messages.push_back(message.text);
+  EXPECT_EQ(message.title, "Alerting") << message.text;
+  EXPECT_EQ(engine->HeldLocks(), std::vector<std::string>()) << message.text;
+  std::string& shown = messages.emplace_back(message.text);
+  for (int i = 0; i < wait_cursors; ++i) shown += " (waiting)";
   return message.buttons == platform::ui::Buttons::kOk ? platform::ui::Answer::kOk
                                                        : platform::ui::Answer::kNo;
+}
+
+void RecordingDesktop::Sleep(std::uint32_t milliseconds) {
+  sleeps.push_back(milliseconds);
+  if (when_sleeping) when_sleeping();
+}
+
+void RecordingDesktop::ShowWaitCursor() {
+  if (when_waiting) when_waiting();
+  ++wait_cursors;
 }
 
 void ServiceTest::TearDown() {

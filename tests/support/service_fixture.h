@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -72,22 +73,27 @@ class LibraryUnderTest {
   alerting::Companions before_;
 };
 
-/// A desktop that writes messages down and answers OK, or No to a question.
+/// A desktop that writes messages down and answers OK, or No to a question. Every message must bear the
+/// library's title, and no lock may be held while it keeps other consoles waiting for an answer.
 class RecordingDesktop : public platform::ui::Desktop {
  public:
   RecordingDesktop() : before_(SetCurrent(this)) {}
   ~RecordingDesktop() override { SetCurrent(before_); }
   platform::ui::Answer ShowMessage(const platform::ui::Message& message) override;
-  void Sleep(std::uint32_t milliseconds) override { sleeps.push_back(milliseconds); }
-  void ShowWaitCursor() override { ++wait_cursors; }
+  void Sleep(std::uint32_t milliseconds) override;
+  void ShowWaitCursor() override;
   void HideWaitCursor() override { --wait_cursors; }
 
   /// The texts since the last call.
   std::vector<std::string> TakeMessages() { return std::exchange(messages, {}); }
 
+  /// Each text with " (waiting)" behind it for every wait cursor that was up.
   std::vector<std::string> messages;
   std::vector<std::uint32_t> sleeps;
   int wait_cursors = 0;
+  std::shared_ptr<const FailingEngine> engine;  ///< whose locks are looked at
+  /// What others do meanwhile.
+  std::function<void()> when_sleeping, when_waiting;
 
  private:
   platform::ui::Desktop* before_;
@@ -95,6 +101,8 @@ class RecordingDesktop : public platform::ui::Desktop {
 
 class ServiceTest : public ::testing::Test {
  protected:
+  ServiceTest() { desktop.engine = library.engine; }
+
   RecordingDesktop desktop;
   LibraryUnderTest library;
 
@@ -130,6 +138,11 @@ void PutU32(std::string& bytes, std::size_t offset, std::uint32_t value);
 struct ListDialog : platform::ui::Dialog {
   ListDialog() : Dialog(nullptr, "Users") {}
   platform::ui::ListBox list{*this, 1, "&Users:", true};
+};
+
+struct ComboDialog : platform::ui::Dialog {
+  ComboDialog() : Dialog(nullptr, "Choice") {}
+  platform::ui::ComboBox combo{*this, 1, "&Choice:"};
 };
 
 /// The thirteen types that have a class.
