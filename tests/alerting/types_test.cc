@@ -71,7 +71,7 @@ TEST_F(TypeSweep, EveryTypeGivesItsAnswersAndLimits) {
   for (const Expected& type : kExpected) {
     SCOPED_TRACE(type.name);
     TheServices().RemoveAll();
-    const CNtfyService& service = Make(type.code);
+    CNtfyService& service = Make(type.code);
     EXPECT_EQ(service.Code(), type.code);
     EXPECT_EQ(service.IsUserService(), type.user);
     EXPECT_EQ(service.IsDeviceService(), type.device);
@@ -91,6 +91,12 @@ TEST_F(TypeSweep, EveryTypeGivesItsAnswersAndLimits) {
     EXPECT_EQ(service.TestResponse().ToString(), type.test_response);
     EXPECT_TRUE(service.IsCompletelyConfigured());
     EXPECT_EQ(service.GetIncompleteConfigMessageId() != 0, type.code == kTypeAlpha);
+    const bool mail = type.code <= kTypeVim && type.code != kTypeSnmp;
+    for (const auto& [current, shown] : {std::pair{0U, "Urgent"}, {1U, "Normal"}, {2U, "Low"}, {3U, "Low"}}) {
+      ComboDialog dialog;
+      EXPECT_EQ(service.FillPriorityList(dialog.combo, current), mail);
+      EXPECT_EQ(dialog.combo.Text(), mail ? shown : "");
+    }
   }
 }
 

@@ -46,7 +46,8 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
     SCOPED_TRACE(layout.code);
     TheServices().RemoveAll();
     const GUID user = MakeUser("Operator");
-    CNtfyService& service = *Find(SeedService(layout.code, "A service"));
+    const GUID id = SeedService(layout.code, "A service");
+    CNtfyService& service = *Find(id);
     EXPECT_FALSE(service.IsUserConfigured(user));
     ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-1", 1}));
 
@@ -57,12 +58,15 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
     EXPECT_EQ(record.substr(layout.name, 65), "Op" + std::string(63, '\0'));
     EXPECT_EQ(record.substr(layout.enabled, 4), std::string("\1\0\0\0", 4));
     ASSERT_EQ(Links(user).size(), 1U);
-    const ALRTUSRINSTSERV link = Links(user)[0];
+    ALRTUSRINSTSERV link = Links(user)[0];
     EXPECT_EQ(link.serviceId, service.ServiceId());
     EXPECT_EQ(std::memcmp(&link.userRecordId, record.data(), 16), 0);
     EXPECT_EQ(link.serviceName.View(), "A service");
     EXPECT_EQ(link.recordType, layout.code + 1);
     EXPECT_EQ(link.userEnabled, 1U);
+    link.serviceName.Assign("Its old name");
+    link.recordType = 99;
+    ASSERT_EQ(UserLinkStore().DBAlertRecUpdate(link), kOk);
 
     // The bytes that are not its own are carried through an update.
     std::string expected = AsItsClass(service, [](auto& typed) -> std::string {
@@ -81,16 +85,23 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
     });
     ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-2", 0}));
     ASSERT_EQ(Links(user).size(), 1U);
-    EXPECT_EQ(Links(user)[0].userRecordId, link.userRecordId) << "the same record, found through the link";
-    EXPECT_EQ(Links(user)[0].userEnabled, 0U);
-    UserEntry entry;
-    EXPECT_TRUE(Users(service).GetUserEntry(user, entry));
-    EXPECT_EQ(entry.address, "555-2");
-    EXPECT_EQ(entry.enabled, 0U);
+    const ALRTUSRINSTSERV updated = Links(user)[0];
+    EXPECT_EQ(updated.userRecordId, link.userRecordId) << "the same record, found through the link";
+    EXPECT_EQ(updated.userEnabled, 0U);
+    EXPECT_EQ(updated.serviceName.View(), "A service");
+    EXPECT_EQ(updated.recordType, 99U) << "as it was";
     PutText(expected, layout.address, layout.width, "555-2");
     PutText(expected, layout.name, 65, "Op");
     PutU32(expected, layout.enabled, 0);
     EXPECT_EQ(CurrentUser(service), expected);
+
+    TheServices().RemoveAll();
+    CNtfyService& reread = *Find(id);
+    UserEntry entry;
+    EXPECT_TRUE(Users(reread).GetUserEntry(user, entry));
+    EXPECT_EQ(entry.address, "555-2");
+    EXPECT_EQ(entry.enabled, 0U);
+    EXPECT_EQ(CurrentUser(reread), expected) << "what was read is the current user";
   }
 }
 

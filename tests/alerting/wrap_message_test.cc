@@ -27,6 +27,8 @@ TEST(WrapMessageTest, BreaksAfterTheLastBlankOrInsideALongWord) {
       {"the blank that reaches the width is not looked at", "one two x", 8, "one \r\ntwo x"},
       {"a blank that begins a line is out of reach at its end", "aaa bbbb", 4, "aaa\r\n bbb\r\nb"},
       {"a tab is a blank", "one\ttwo", 6, "one\t\r\ntwo"},
+      {"so is a vertical tab", "one\vtwo", 6, "one\v\r\ntwo"},
+      {"so is a form feed", "one\ftwo", 6, "one\f\r\ntwo"},
       {"own line breaks count anew", "one two\r\nthree", 8, "one two\r\nthree"},
       {"a line feed alone too", "1234567\n1234567\n1", 8, "1234567\n1234567\n1"},
       {"columns are characters", "\xC3\xA9\xC3\xA9\xC3\xA9\xC3\xA9", 4,
