@@ -45,7 +45,7 @@ class RawConnection {
     Require(sqlite3_open_v2((directory + "/alerting.db").c_str(), &connection_,
                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr) == SQLITE_OK,
             "cannot open the database");
-    Execute("PRAGMA synchronous=FULL; PRAGMA mmap_size=1073741824");
+    Execute("PRAGMA synchronous=FULL; PRAGMA mmap_size=0; PRAGMA cache_size=-65536");
   }
   ~RawConnection() {
     for (sqlite3_stmt* statement : statements_) sqlite3_finalize(statement);

@@ -102,7 +102,8 @@ std::size_t Edit::Boundary(std::size_t pos) const {
 void Edit::Splice(std::size_t start, std::size_t end, std::string_view text) {
   RememberForUndo();
   text_.replace(start, end - start, text);
-  start_ = end_ = start + text.size();
+  // Bytes that are no characters of their own may have joined with their new neighbours.
+  start_ = end_ = Boundary(start + text.size());
   caret_at_start_ = false;
   Notify(Change::kText);
 }

@@ -138,6 +138,15 @@ TEST_F(FormTest, APastedTextEndsAtAZeroByte) {
   EXPECT_EQ(edit.Text(), "ab");
 }
 
+// Two bytes that are no characters make one where they meet.
+TEST_F(FormTest, TheCaretNeverStandsInsideACharacter) {
+  Edit edit(dialog, 1, "Edit");
+  edit.SetText("\xA9x");
+  edit.ReplaceSelection("\xC3");
+  EXPECT_EQ(edit.Text(), "\u00e9x");
+  EXPECT_EQ(edit.Selection(), (std::pair<std::size_t, std::size_t>(0, 0)));
+}
+
 TEST_F(FormTest, TheRowMovedToIsInView) {
   ListView list(dialog, 1, "List");
   for (int i = 0; i < 30; ++i) list.AddRow({std::to_string(i)});
