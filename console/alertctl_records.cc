@@ -3,22 +3,13 @@
 
 #include <cstring>
 
-#include "companions/alertstore/record_fields.h"
-#include "companions/dbconfig/strings.h"
-#include "platform/base/utf8.h"
+#include "companions/dbconfig/keywords.h"
 
 namespace alertctl {
 namespace {
 
 using dbconfig::Field;
 using dbconfig::FieldKind;
-
-/// The keyword whose name stands at that place, or 0.
-std::uint32_t KeywordAt(std::string_view text) {
-  for (std::uint32_t id = 1; id <= dbconfig::kKeywordCount; ++id)
-    if (platform::StartsWithIgnoringCase(text, dbconfig::KeywordName(id))) return id;
-  return 0;
-}
 
 void SetText(char* record, const Field& field, const std::string& text) {
   if (text.size() >= field.width)
@@ -51,14 +42,10 @@ const Field* FindField(dbconfig::Fields fields, const std::string& name) {
   return nullptr;
 }
 
-void SetKeywords(char* record, const Field& slots, const std::vector<std::uint32_t>& keywords) {
-  for (std::size_t i = 0; i < keywords.size(); ++i) {
-    alertstore::KeywordSlot slot{};
-    slot.id = keywords[i];
-    slot.text.Assign(dbconfig::KeywordName(keywords[i]));
-    slot.format.Assign(dbconfig::KeywordFormat(keywords[i]));
-    std::memcpy(record + slots.offset + i * sizeof slot, &slot, sizeof slot);
-  }
+void SetKeywords(char* record, const Field& slots, const alertrecords::KeywordIds& keywords) {
+  alertstore::KeywordSlot filled[alertrecords::kMaxKeywords];
+  dbconfig::Keywords().FillSlots(keywords, filled);
+  std::memcpy(record + slots.offset, filled, sizeof filled);
 }
 
 void SetMessage(char* record, const Field& text, const Field& slots, const Json& service,
@@ -73,18 +60,7 @@ void SetMessage(char* record, const Field& text, const Field& slots, const Json&
 
 StoredMessage StoreMessage(std::string_view shown) {
   StoredMessage message;
-  while (!shown.empty()) {
-    const bool room = message.keywords.size() < alertstore::kKeywordSlots;
-    const std::uint32_t id = room ? KeywordAt(shown) : 0;
-    if (id == 0) {
-      message.text += shown.front();
-      shown.remove_prefix(1);
-    } else {
-      message.text += dbconfig::KeywordFormat(id);
-      message.keywords.push_back(id);
-      shown.remove_prefix(std::strlen(dbconfig::KeywordName(id)));
-    }
-  }
+  message.text = dbconfig::Keywords().Collapse(shown, message.keywords);
   return message;
 }
 

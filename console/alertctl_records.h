@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "companions/alertrecords/keyword_table.h"
 #include "companions/dbconfig/service_types.h"
 #include "console/alertctl_verbs.h"
 
@@ -16,7 +15,7 @@ namespace alertctl {
 /// A message in stored form: placeholders in the text, and the keyword behind each.
 struct StoredMessage {
   std::string text;
-  std::vector<std::uint32_t> keywords;
+  alertrecords::KeywordIds keywords{};
 };
 
 /// The stored form of a text with keyword names ("<User Name>", in either case). At most 20 are recognised.

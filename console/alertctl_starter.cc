@@ -111,7 +111,7 @@ GUID TestResponseId(std::uint32_t record_type) {
 void SetMessage(const Json& service, const char* member, auto& text, std::uint8_t (&ids)[kKeywordSlots]) {
   const StoredMessage message = StoreMessage(service.value(member, ""));
   text.Assign(message.text);
-  std::copy(message.keywords.begin(), message.keywords.end(), ids);
+  alertrecords::FillResponseKeywords(message.keywords, ids);
 }
 
 class Starter {

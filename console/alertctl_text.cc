@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "companions/dbconfig/keywords.h"
 #include "console/alertctl_output.h"
 #include "platform/base/utf8.h"
 
@@ -72,20 +73,10 @@ std::string Count(std::size_t count, const std::string& one) {
 }
 
 std::string ShownMessage(const Json& message) {
-  const std::string text = message["text"];
-  const Json& keywords = message["keywords"];
-  std::string shown;
-  std::size_t next = 0;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::string format = next < keywords.size() ? keywords[next]["format"].get<std::string>() : "";
-    if (!format.empty() && text.compare(at, format.size(), format) == 0) {
-      shown += keywords[next++]["name"];
-      at += format.size();
-    } else {
-      shown += text[at++];
-    }
-  }
-  return shown;
+  alertrecords::KeywordIds ids{};
+  std::size_t k = 0;
+  for (const Json& keyword : message["keywords"]) ids.at(k++) = keyword["id"];
+  return dbconfig::Keywords().Expand(message["text"].get<std::string>(), ids);
 }
 
 std::string Described(const Json& object, int indent) {

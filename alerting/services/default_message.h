@@ -7,11 +7,10 @@ namespace alerting {
 
 /// Identifiers out of a record's keyword slots.
 KeywordIds ReadKeywordSlots(const KeywordSlot (&keyword_slots)[kKeywordSlots]);
-/// Clears each slot, then fills those with an identifier: display text and placeholder come from the keyword
-/// table.
-void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&keyword_slots)[kKeywordSlots]);
-/// Identifiers as a response stores them, the low byte of each.
-void WriteResponseKeywords(const KeywordIds& ids, std::uint8_t (&bytes)[kMaxKeywords]);
+/// Each slot anew, with the name and placeholder that the keyword table has for its identifier.
+inline void WriteKeywordSlots(const KeywordIds& ids, KeywordSlot (&keyword_slots)[kKeywordSlots]) {
+  TheKeywords().FillSlots(ids, keyword_slots);
+}
 
 /// Reads the default message that a record holds; a type without subject or priority gives none.
 template <class Record>

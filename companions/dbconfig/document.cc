@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "companions/dbconfig/keywords.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site_fields.h"
-#include "companions/dbconfig/strings.h"
 
 namespace dbconfig {
 namespace {
@@ -79,7 +79,10 @@ RecordsById ById(const Records& records) {
 /// What stands behind one placeholder. An identifier that has no name here is written all the same, so that
 /// the placeholders stay in step with the list.
 Json KeywordObject(std::uint32_t id) {
-  return {{"id", id}, {"name", KeywordName(id)}, {"format", KeywordFormat(id)}};
+  const alertrecords::Keyword* keyword = Keywords().Find(id);
+  return {{"id", id},
+          {"name", keyword != nullptr ? keyword->name : ""},
+          {"format", keyword != nullptr ? keyword->format : ""}};
 }
 
 Json Message(std::string text, const std::vector<std::uint32_t>& ids) {

@@ -183,6 +183,9 @@ TEST_F(KeywordsTest, FittingDropsThePlaceholderThatTheLimitCuts) {
   ids = Ids({1, 11});
   EXPECT_EQ(FitStoredForm("%s: %ld", ids, 7), "%s: %ld");
   EXPECT_EQ(ids, Ids({1, 11}));
+  ids = Ids({77, 1});  // nothing is shown behind an identifier without a keyword, so nothing is a placeholder
+  EXPECT_EQ(FitStoredForm("%s %s", ids, 4), "%s %");
+  EXPECT_EQ(ids, Ids({}));
 }
 
 TEST_F(KeywordsTest, TheListOffersEveryNameInTableOrderWithItsRow) {
