@@ -6,6 +6,7 @@
 #include <map>
 #include <string>
 
+#include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/stores.h"
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
@@ -100,14 +101,6 @@ AddSpecificFunction AddSpecificOf(std::uint32_t record_type) {
   return function != functions.end() ? function->second : nullptr;
 }
 
-/// The identity by which the library finds the test response of a type.
-GUID TestResponseId(std::uint32_t record_type) {
-  return {0x3217DA53u + record_type - 1,
-          std::uint16_t{0xADD1},
-          std::uint16_t{0x11CF},
-          {0x81, 0x37, 0x00, 0x00, 0x00, 0x00, 0x00, 0x01}};
-}
-
 void SetMessage(const Json& service, const char* member, auto& text, std::uint8_t (&ids)[kKeywordSlots]) {
   const StoredMessage message = StoreMessage(service.value(member, ""));
   text.Assign(message.text);
@@ -177,7 +170,7 @@ void Starter::EnableHere(const ALRTNTFYSERV& common) {
 
 void Starter::AddTestResponse(const Json& service, const ALRTNTFYSERV& common) {
   ALERTRESPREC response{};
-  response.responseId = TestResponseId(common.recordType);
+  response.responseId = alertrecords::TestResponseId(common.recordType);
   response.responseType = service["responseType"].get<std::uint16_t>();
   response.priority = service.value("priority", std::uint16_t{0});
   response.serviceId = common.serviceId;

@@ -8,13 +8,17 @@
 #include "alerting/frame/app.h"
 #include "alerting/frame/messages.h"
 #include "alerting/services/service_ui.h"
+#include "companions/alertrecords/test_response.h"
 #include "platform/ui/image.h"
 #include "platform/ui/modal.h"
 
 namespace alerting {
 
 CNtfyService::CNtfyService(const GUID& id, TypeCode type)
-    : service_id_(id), test_response_id_(TestResponseId(type)), code_(type), own_type_(type) {}
+    : service_id_(id),
+      test_response_id_(alertrecords::TestResponseId(RecordTypeOf(type))),
+      code_(type),
+      own_type_(type) {}
 
 bool CNtfyService::Load() {
   EnsureStoresOpen();

@@ -4,8 +4,6 @@
 #include <array>
 #include <cstdint>
 
-#include "platform/base/guid.h"
-
 namespace alerting {
 
 /// Service type codes. Records store the code plus 1.
@@ -68,14 +66,6 @@ constexpr std::array<ServiceType, 15> kServiceTypes{{
   {kTypeScript,     false, false, false, false, false,  1,  8, nullptr,              0,    1024,   256,  48,  48,  260,  0},
 }};
 // clang-format on
-
-/// The identity of the type's test response record.
-constexpr platform::GUID TestResponseId(std::uint32_t code) {
-  return {platform::LittleU32(0x3217DA53U + code),
-          platform::LittleU16(0xADD1),
-          platform::LittleU16(0x11CF),
-          {0x81, 0x37, 0, 0, 0, 0, 0, 1}};
-}
 
 /// From a stored value to a type code: 1 to 14 onto 0 to 13, everything else onto kTypeUnknown. (The script
 /// service, stored as 15, is not configured here.)
