@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "companions/alertstore/console_users.h"
+#include "companions/alertstore/store_lock.h"
 #include "companions/alertstore/stores.h"
 
 /// The open store set: the eighteen record stores that the library works on, one of each per process.
@@ -62,24 +63,5 @@ CAlertUsrInstServDB& UserLinkStore();
 /// The user store of a store class, CAlertUSR_MHSDB for example.
 template <class Store>
 Store& UserStore();
-
-/// Holds a store's file lock while it lives. A lock that cannot be had is a failed write to its caller.
-class StoreLock {
- public:
-  explicit StoreLock(StoreBase& store) : file_(&store.File()), status_(file_->DBFileLock()) {}
-  ~StoreLock() { Release(); }
-  StoreLock(const StoreLock&) = delete;
-  StoreLock& operator=(const StoreLock&) = delete;
-
-  Status Result() const { return status_; }
-  void Release() {
-    if (file_ != nullptr && status_ == kOk) file_->DBFileUnlock();
-    file_ = nullptr;
-  }
-
- private:
-  QEVDB* file_;
-  Status status_;
-};
 
 }  // namespace alerting

@@ -5,20 +5,11 @@
 #include "alerting/frame/messages.h"
 #include "alerting/services/user_base.h"
 #include "alerting/services/user_list.h"
+#include "companions/alertrecords/user_entry.h"
 
 namespace alerting {
 
-/// The field of a user record that holds the user's address on the service: a mail address, a phone or PIN
-/// number.
-template <class Record>
-auto& AddressOf(Record& record) {
-  if constexpr (requires { record.userAddress; })
-    return record.userAddress;
-  else if constexpr (requires { record.phoneNumber; })
-    return record.phoneNumber;
-  else
-    return record.pinNumber;
-}
+using alertrecords::AddressOf;
 
 /// The user operations of a type whose users have records in a store of their own.
 template <class Store, class Base>
@@ -77,10 +68,7 @@ bool UserEntries<Store, Base>::SaveUserEntry(const GUID& user, const UserEntry& 
   Record record{};
   const bool locked = lock.Result() == kOk;
   const bool found = locked && linked && FindUserRecord(Store::kSelectors.by_id, link.userRecordId, record);
-  record.userId = user;
-  record.userName.Assign(entry.name);
-  AddressOf(record).Assign(entry.address);
-  record.userEnabled = entry.enabled;
+  alertrecords::FillUserRecord(user, entry.name, entry.address, entry.enabled, record);
   const Status status = locked ? WriteUserRecord(found, record) : lock.Result();
   lock.Release();
   const bool updating = locked ? found : linked;
@@ -144,14 +132,9 @@ class MailUsers : public UserEntries<Store, Base> {
   bool AddUserWithLink(const std::string& name, const std::string& address, const GUID& user) override {
     EnsureStoresOpen();
     typename Store::RecordType record{};
-    AddressOf(record).Assign(address);
-    record.userName.Assign(name);
-    record.userId = user;
-    record.userEnabled = 1;
+    alertrecords::FillUserRecord(user, name, address, 1, record);
     ALRTUSRINSTSERV link{};
-    link.serviceId = this->ServiceId();
-    link.userId = user;
-    link.serviceName.Assign(this->Common().name.View());
+    alertrecords::FillUserLink(user, this->ServiceId(), this->Common().name.View(), link);
     GUID link_id{}, user_record_id{};
     if (UserLinkStore().DBAlertRecAdd(link, link_id, record, user_record_id) == kOk) return true;
     return Fail(kIdsUserWithLinkFailed);

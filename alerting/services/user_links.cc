@@ -3,20 +3,13 @@
 #include "alerting/frame/app.h"
 #include "alerting/frame/messages.h"
 #include "alerting/services/ntfy_service.h"
+#include "companions/alertrecords/user_entry.h"
 
 namespace alerting {
 
 bool CNtfyService::FindUserLink(const GUID& user, ALRTUSRINSTSERV& link) {
   EnsureStoresOpen();
-  CAlertUsrInstServDB& links = UserLinkStore();
-  ALRTUSRINSTSERV found{};
-  Status status = links.DBAlertRecFindFirst(kLinkByUser, sizeof(GUID), &user, found);
-  for (; status == kOk; status = links.DBAlertRecFindNext(found)) {
-    if (found.serviceId != service_id_ || found.userId != user) continue;
-    link = found;
-    return true;
-  }
-  return false;
+  return alertrecords::FindUserLink(UserLinkStore(), user, service_id_, link) == kOk;
 }
 
 bool CNtfyService::IsUserConfigured(const GUID& user) {
@@ -28,12 +21,10 @@ bool CNtfyService::AddOrUpdateUserLink(const GUID& user, const GUID& user_record
                                        std::uint32_t enabled) {
   ALRTUSRINSTSERV link{};
   const bool found = FindUserLink(user, link);
-  link.userId = user;
+  alertrecords::FillUserLink(user, service_id_, common_.name.View(), link);
   link.userRecordId = user_record;
   link.userEnabled = enabled;
-  link.serviceName.Assign(common_.name.View());
   if (found) return UserLinkStore().DBAlertRecUpdate(link) == kOk ? true : Fail(kIdsLinkUpdateFailed);
-  link.serviceId = service_id_;
   link.recordType = record_type;
   GUID new_id{};
   return UserLinkStore().DBAlertRecAdd(link, new_id) == kOk ? true : Fail(kIdsLinkAddFailed);

@@ -223,6 +223,15 @@ TEST_F(AlertctlSiteTest, AUserHasOneEntryOnAService) {
   EXPECT_EQ(RunJson({"user", "list"}), json::array());
 }
 
+TEST_F(AlertctlSiteTest, EntriesOfEachTypeAreFoundAgainInTheTypesOwnStore) {
+  RunJson({"user", "add", "Ann"});
+  std::size_t written = 0;
+  for (const json& service : RunJson({"service", "list"}))
+    written += Run({"entry", "set", "Ann", service["name"], "5550100"}).code == 0;
+  EXPECT_EQ(written, 8u);
+  EXPECT_EQ(RunJson({"entry", "list"}).size(), written);
+}
+
 TEST_F(AlertctlSiteTest, AnEntryWhoseRecordIsGoneIsRepaired) {
   RunJson({"user", "add", "Ann"});
   RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
