@@ -2,6 +2,7 @@
 #pragma once
 
 #include "alerting/services/ntfy_service.h"
+#include "alerting/services/record_fields.h"
 
 namespace alerting {
 
@@ -17,7 +18,7 @@ template <class Record>
 void ReadDefaultMessage(const Record& record, DefaultMessage& message) {
   message.body = record.defaultBody.View();
   message.bodyKeywords = ReadKeywordSlots(record.bodyKeywords);
-  if constexpr (requires { record.defaultSubject; }) {
+  if constexpr (kHas<Record, kSubject>) {
     message.subject = record.defaultSubject.View();
     message.priority = record.defaultPriority;
     message.subjectKeywords = ReadKeywordSlots(record.subjectKeywords);
@@ -36,7 +37,7 @@ void WriteStoredText(const std::string& text, KeywordIds ids, Text& field,
 template <class Record>
 void WriteDefaultMessage(const DefaultMessage& message, Record& record) {
   WriteStoredText(message.body, message.bodyKeywords, record.defaultBody, record.bodyKeywords);
-  if constexpr (requires { record.defaultSubject; }) {
+  if constexpr (kHas<Record, kSubject>) {
     WriteStoredText(message.subject, message.subjectKeywords, record.defaultSubject, record.subjectKeywords);
     record.defaultPriority = message.priority;
   }

@@ -4,9 +4,10 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <type_traits>
 
 #include "alerting/frame/messages.h"
-#include "alerting/frame/stores.h"
+#include "alerting/services/record_fields.h"
 
 namespace alerting {
 
@@ -23,15 +24,10 @@ struct GeneralFields {
 /// Calls `visit` with each pair of a record's field and the member of GeneralFields that stands for it.
 template <class Record, class Fields, class Visit>
 void ForEachGeneralField(Record& record, Fields& fields, Visit&& visit) {
-  if constexpr (requires { record.loginId; }) visit(record.loginId, fields.loginId);
-  if constexpr (requires { record.password; }) visit(record.password, fields.password);
-  if constexpr (requires { record.mhsDirectory; }) visit(record.mhsDirectory, fields.mhsDirectory);
-  if constexpr (requires { record.phoneNumber; }) visit(record.phoneNumber, fields.phoneNumber);
-  if constexpr (requires { record.smtpServer; }) visit(record.smtpServer, fields.smtpServer);
-  if constexpr (requires { record.text1; }) visit(record.text1, fields.text1);
-  if constexpr (requires { record.text2; }) visit(record.text2, fields.text2);
-  if constexpr (requires { record.text; }) visit(record.text, fields.text);
-  if constexpr (requires { record.dialDelay; }) visit(record.dialDelay, fields.dialDelay);
+#define ALERTING_VISIT(field, member) \
+  if constexpr (kHas<std::remove_const_t<Record>, field>) visit(record.member, fields.member);
+  ALERTING_GENERAL_MEMBERS(ALERTING_VISIT)
+#undef ALERTING_VISIT
 }
 
 template <class Record>

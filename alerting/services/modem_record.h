@@ -11,7 +11,7 @@ void CopyModem(const ALRTSERV_MODEM& modem, Record& record) {
   record.capabilities = modem.capabilities;
   record.initString.Assign(modem.initString.View());
   record.dialSuffix.Assign(modem.dialSuffix.View());
-  if constexpr (requires { record.alphaInitString; })
+  if constexpr (kHas<Record, kAlphaInitString>)
     record.alphaInitString.Assign(modem.alphaInitString.View());
   else
     record.dialPrefix.Assign(modem.dialPrefix.View());

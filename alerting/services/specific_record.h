@@ -24,8 +24,8 @@ struct RecordRules {
 };
 
 /// Loads, reloads, saves and adds a service with one service-specific record. `Record` is the record;
-/// everything that follows from its fields (default message, general fields) is found by their names. The
-/// working copy is what pages edit; the saved copy is the record as it was last read or written.
+/// everything that follows from its fields (default message, general fields) follows from its row in
+/// record_fields.h. The working copy is what pages edit; the saved copy is the record as it was last read or written.
 template <class Record, class Base, RecordRules kRules = RecordRules{}>
 class SpecificRecord : public Base {
  public:
@@ -38,11 +38,11 @@ class SpecificRecord : public Base {
   bool AddCopy(CAlertNtfyServDB& store, ALRTNTFYSERV& common, GUID& new_id) override;
 
   bool GetDefaultMessage(DefaultMessage& message) const override {
-    if constexpr (kHasMessage) ReadDefaultMessage(primary_, message);
+    if constexpr (kHas<Record, kMessage>) ReadDefaultMessage(primary_, message);
     return true;
   }
   bool SetDefaultMessage(const DefaultMessage& message) override {
-    if constexpr (kHasMessage) WriteDefaultMessage(message, primary_);
+    if constexpr (kHas<Record, kMessage>) WriteDefaultMessage(message, primary_);
     return true;
   }
   bool InitWithDefaultMessage(ALERTRESPREC& response) const override;
@@ -57,7 +57,6 @@ class SpecificRecord : public Base {
   const Record& SavedPrimary() const { return saved_primary_; }
 
  protected:
-  static constexpr bool kHasMessage = requires(Record r) { r.bodyKeywords; };
   static bool LoadFailed(int string_id) { return kRules.silent_load ? false : Fail(string_id); }
 
   /// What a modem-linked type does besides, at the same places: after the primary record was read, inside the
@@ -139,13 +138,13 @@ bool SpecificRecord<Record, Base, kRules>::AddCopy(CAlertNtfyServDB& store, ALRT
 
 template <class Record, class Base, RecordRules kRules>
 bool SpecificRecord<Record, Base, kRules>::InitWithDefaultMessage(ALERTRESPREC& response) const {
-  if constexpr (!kHasMessage || std::is_base_of_v<CNtfyServiceMailBase, Base>) {
+  if constexpr (!kHas<Record, kMessage> || std::is_base_of_v<CNtfyServiceMailBase, Base>) {
     return Base::InitWithDefaultMessage(response);
   } else {
     DefaultMessage message;
     if (!GetDefaultMessage(message)) return false;
     InitResponseMessage(message, response);
-    if constexpr (requires(Record r) { r.defaultSubject; }) InitResponseSubject(message, response);
+    if constexpr (kHas<Record, kSubject>) InitResponseSubject(message, response);
     return true;
   }
 }
