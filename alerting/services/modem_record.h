@@ -34,8 +34,6 @@ class ModemRecord : public SpecificRecord<Record, Base, kRules> {
   bool GetModemSettings(ModemSettings& settings, bool backup) const override;
   bool SetModemSettings(const ModemSettings& settings, const std::string& modem_name, bool backup) override;
 
-  const Record& Backup() const { return backup_; }
-
  protected:
   void LoadBackup(CAlertNtfyServDB& store, RecordStore<Record>& specific) override;
   Status SaveBackup(RecordStore<Record>& specific) override;

@@ -32,7 +32,6 @@ constexpr std::uint32_t RecordTypeOf(std::uint32_t code) { return code + 1; }
 /// What a type answers about itself; the one table that the service classes, the list and the exports read.
 struct ServiceType {
   TypeCode code;
-  bool has_class;  ///< false: records of the type are skipped when the list is read
   bool is_user, is_device, uses_extension_agent, is_modem;
   std::uint16_t response_type;
   int icon_offset;      ///< index into the service icon strip
@@ -48,22 +47,22 @@ constexpr const char* kNumericPagerIcon = "icons/numeric_pager.ico";
 
 // clang-format off
 constexpr std::array<ServiceType, 15> kServiceTypes{{
-  //                class  user   device agent  modem  resp icon own icon           panels message subj pass login addr width
-  {kTypeMhs,        true,  true,  false, false, false,  1,  8, kMailIcon,            1,    1024,   256,  48,  48,  260,  0},
-  {kTypeSnmp,       true,  false, true,  false, false, 16,  7, kMailIcon,            0,     255,   256,  48,  48,  260,  0},
-  {kTypeMci,        true,  true,  false, false, true,   1, 13, nullptr,              1,    1024,   256,  48,  48,  260, 80},
-  {kTypeCompuServe, true,  true,  false, false, true,   1, 13, nullptr,              1,    1024,    40,  48,  48,  260,  0},
-  {kTypeSmtp,       true,  true,  false, false, false,  1, 14, nullptr,              1,    1024,   256,  48,  48,  260,  0},
-  {kTypeMapi,       true,  true,  false, true,  false,  1,  8, nullptr,              1,    1024,   256,   8, 255,   30,  0},
-  {kTypeVim,        true,  true,  false, true,  false,  1,  8, nullptr,              1,    1024,    60,  48,  48,  260,  0},
-  {kTypeWave,       true,  false, false, false, false, 16, 12, nullptr,              0,    1024,   256,  48,  48,  260,  0},
-  {kTypeTts,        true,  false, false, false, false, 16,  5, nullptr,              0,     510,   256,  48,  48,  260,  0},
-  {kTypePhone,      false, false, false, false, false,  1,  8, nullptr,              0,    1024,   256,  48,  48,  260,  0},
-  {kTypeAlpha,      true,  true,  false, false, true,   1,  4, kPagerIcon,           1,    1024,   256,  48,  48,  260,  0},
-  {kTypeNumeric,    true,  true,  false, false, true,   1, 10, kNumericPagerIcon,    1,    1024,   256,  48,  48,  260,  0},
-  {kTypeGeneric,    true,  false, true,  false, true,  16, 11, nullptr,              0,    1024,   256,  48,  48,  260,  0},
-  {kTypeProgram,    true,  false, false, false, false,  4,  6, nullptr,              0,    1024,   256,  48,  48,  260,  0},
-  {kTypeScript,     false, false, false, false, false,  1,  8, nullptr,              0,    1024,   256,  48,  48,  260,  0},
+  //                user   device agent  modem  resp icon own icon           panels message subj pass login addr width
+  {kTypeMhs,        true,  false, false, false,  1,  8, kMailIcon,            1,    1024,   256,  48,  48,  260,  0},
+  {kTypeSnmp,       false, true,  false, false, 16,  7, kMailIcon,            0,     255,   256,  48,  48,  260,  0},
+  {kTypeMci,        true,  false, false, true,   1, 13, nullptr,              1,    1024,   256,  48,  48,  260, 80},
+  {kTypeCompuServe, true,  false, false, true,   1, 13, nullptr,              1,    1024,    40,  48,  48,  260,  0},
+  {kTypeSmtp,       true,  false, false, false,  1, 14, nullptr,              1,    1024,   256,  48,  48,  260,  0},
+  {kTypeMapi,       true,  false, true,  false,  1,  8, nullptr,              1,    1024,   256,   8, 255,   30,  0},
+  {kTypeVim,        true,  false, true,  false,  1,  8, nullptr,              1,    1024,    60,  48,  48,  260,  0},
+  {kTypeWave,       false, false, false, false, 16, 12, nullptr,              0,    1024,   256,  48,  48,  260,  0},
+  {kTypeTts,        false, false, false, false, 16,  5, nullptr,              0,     510,   256,  48,  48,  260,  0},
+  {kTypePhone,      false, false, false, false,  1,  8, nullptr,              0,    1024,   256,  48,  48,  260,  0},
+  {kTypeAlpha,      true,  false, false, true,   1,  4, kPagerIcon,           1,    1024,   256,  48,  48,  260,  0},
+  {kTypeNumeric,    true,  false, false, true,   1, 10, kNumericPagerIcon,    1,    1024,   256,  48,  48,  260,  0},
+  {kTypeGeneric,    false, true,  false, true,  16, 11, nullptr,              0,    1024,   256,  48,  48,  260,  0},
+  {kTypeProgram,    false, false, false, false,  4,  6, nullptr,              0,    1024,   256,  48,  48,  260,  0},
+  {kTypeScript,     false, false, false, false,  1,  8, nullptr,              0,    1024,   256,  48,  48,  260,  0},
 }};
 // clang-format on
 

@@ -17,7 +17,6 @@ class DataExchange {
  public:
   DataExchange(Form& form, bool save) : form_(form), save_(save) {}
 
-  bool Saving() const { return save_; }
   bool Failed() const { return failed_; }
 
   void Text(Edit& edit, std::string& value);
