@@ -18,7 +18,7 @@ constexpr int ArgumentBytes(Result (*)(Arguments...)) {
 #define ALERTING_EXPORT(result, name, arguments, bytes) \
   static_assert(ArgumentBytes(static_cast<result(*) arguments>(nullptr)) == bytes, #name);
 #define ALERTING_PLAIN_EXPORT(result, name, arguments)
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
 

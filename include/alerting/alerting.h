@@ -19,6 +19,11 @@
 /// 6. The symbol of a function is its name with a leading underscore, versioned "ARGS_n" by the n bytes of its
 ///    arguments: platform::DynamicLibrary::Find("_DomainServiceType@16") finds it. OpenDBs and CloseDBs are
 ///    plain.
+///
+/// Beside this folder a console needs the records that pass through the functions and what they are made of, by
+/// the same paths: companions/alertstore/records*.h and record_fields.h, and platform/base. Nothing of the library's
+/// own folder is needed. Windows, pictures and panels are known here by name alone; platform/ui/image.h says what
+/// a picture is.
 namespace platform::ui {
 class Bitmap;
 class Window;
@@ -33,7 +38,7 @@ extern "C" {
   __attribute__((visibility("default"))) result name arguments __asm__("_" #name);
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) \
   __attribute__((visibility("default"))) result name arguments;
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
 }

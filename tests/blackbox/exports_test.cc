@@ -39,13 +39,13 @@ struct Api {
   name = reinterpret_cast<decltype(name)>(library.Find("_" #name "@" #bytes));
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) \
   name = reinterpret_cast<decltype(name)>(library.Find(#name));
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
   }
 #define ALERTING_EXPORT(result, name, arguments, bytes) result(*name) arguments;
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) result(*name) arguments;
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
 };
@@ -138,7 +138,7 @@ TEST_F(ExportsTest, EveryFunctionIsFoundUnderItsDecoratedNameOnly) {
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) \
   found += api_->name != nullptr;                      \
   EXPECT_NE(api_->name, nullptr) << #name;
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
   EXPECT_EQ(found, 44);
@@ -148,7 +148,7 @@ TEST_F(ExportsTest, NothingElseLeavesTheLibrary) {
   std::set<std::string> expected;
 #define ALERTING_EXPORT(result, name, arguments, bytes) expected.insert("_" #name "@@ARGS_" #bytes);
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) expected.insert(#name);
-#include "alerting/api/exports.def"
+#include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
   std::set<std::string> leaving;
