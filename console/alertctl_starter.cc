@@ -206,7 +206,7 @@ Added Starter::Run() {
     AddManager();
     CAlertMODEM_LOCATIONDB locations;
     added_.locations = AddNamed(locations, ReadStarterFile("locations.json"), dbconfig::kLocationFields);
-    CAlertSERV_MODEMDB modem_types("QModemDB.dat");
+    CAlertSERV_MODEMDB modem_types(kModemTypeFile);
     added_.modem_types = AddNamed(modem_types, ReadStarterFile("modem-types.json"), dbconfig::kModemFields);
   }
   for (const dbconfig::ServiceType& type : dbconfig::ServiceTypes()) {
