@@ -16,12 +16,11 @@ void FillUserLink(const GUID& user, const GUID& service, std::string_view servic
 
 Status FindUserLink(alertstore::CAlertUsrInstServDB& links, const GUID& user, const GUID& service,
                     ALRTUSRINSTSERV& link) {
+  const GUID key[] = {service, user};
   ALRTUSRINSTSERV found{};
-  Status status = links.DBAlertRecFindFirst(alertstore::kLinkByUser, sizeof(GUID), &user, found);
-  while (status == alertstore::kOk && (found.serviceId != service || found.userId != user))
-    status = links.DBAlertRecFindNext(found);
+  const Status status = links.DBAlertRecFindFirst(alertstore::kLinkByServiceAndUser, sizeof key, key, found);
   if (status == alertstore::kOk) link = found;
-  return status == alertstore::kEndOfScan ? alertstore::kNotFound : status;
+  return status;
 }
 
 }  // namespace alertrecords
