@@ -1,48 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/responses/choose_keyword_dlg.h"
 
-#include "alerting/frame/companions.h"
 #include "alerting/responses/keywords.h"
-#include "companions/ctxhelp/topics.h"
 
 namespace alerting {
 namespace {
 
 constexpr int kIdList = 100;
 
-constexpr ctxhelp::HelpPair kHelp[] = {{ctxhelp::kFormItself, ctxhelp::kTopicChooseKeyword},
-                                       {kIdList, ctxhelp::kTopicChooseKeywordList},
-                                       {ui::kIdOk, ctxhelp::kTopicChooseKeywordOk},
-                                       {ui::kIdCancel, ctxhelp::kTopicChooseKeywordCancel},
-                                       ctxhelp::kEndOfHelpTable};
-
 }  // namespace
 
 CChooseKeywordDlg::CChooseKeywordDlg(ui::Window* parent)
-    : Dialog(parent, "Choose Keyword"),
+    : CLibraryDialog(parent, "Choose Keyword", ctxhelp::kHelpChooseKeyword),
       list_(*this, kIdList, "&Keywords:"),
-      ok_(*this, ui::kIdOk, "OK"),
-      cancel_(*this, ui::kIdCancel, "Cancel") {
-  SetLayout(ui::Column({ui::Over(list_), ui::Row({ui::Stretch(), ui::Field(ok_), ui::Field(cancel_)})}));
-  ok_.SetDefault(true);
-  ok_.SetOnClick([this] { OnOk(); });
-  cancel_.SetOnClick([this] { OnCancel(); });
+      buttons_(*this) {
+  SetLayout(ui::Column({ui::Over(list_), buttons_.Row()}));
   list_.SetOnDoubleClick([this] { OnOk(); });
 }
 
 void CChooseKeywordDlg::OnInitDialog() {
   FillKeywordList(list_);
   list_.Select(0);
-  Dialog::OnInitDialog();
+  CLibraryDialog::OnInitDialog();
 }
 
 void CChooseKeywordDlg::OnOk() {
   chosen_ = list_.ItemText(list_.Current());
   EndDialog(ui::kOk);
-}
-
-void CChooseKeywordDlg::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, kHelp);
 }
 
 bool InsertChosenKeyword(ui::Edit& editor, std::string_view trail) {

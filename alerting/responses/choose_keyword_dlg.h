@@ -4,16 +4,14 @@
 #include <string>
 #include <string_view>
 
-#include "platform/ui/dialog.h"
+#include "alerting/ui/library_dialog.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/lists.h"
 
 namespace alerting {
 
-namespace ui = platform::ui;
-
 /// Lets a person choose one of the message keywords.
-class CChooseKeywordDlg : public ui::Dialog {
+class CChooseKeywordDlg : public CLibraryDialog {
  public:
   explicit CChooseKeywordDlg(ui::Window* parent);
 
@@ -23,11 +21,10 @@ class CChooseKeywordDlg : public ui::Dialog {
  private:
   void OnInitDialog() override;
   void OnOk() override;
-  void OnHelp(const ui::HelpEvent& event) override;
 
   std::string chosen_;
   ui::ListBox list_;
-  ui::Button ok_, cancel_;
+  ui::OkCancelButtons buttons_;
 };
 
 /// What a "Fields" button does: has a keyword chosen, puts it and `trail` in place of the editor's selection,

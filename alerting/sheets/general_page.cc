@@ -6,8 +6,8 @@
 
 namespace alerting {
 
-CGeneralPage::CGeneralPage(const ctxhelp::HelpPair* help_table)
-    : CServicePage("General", help_table),
+CGeneralPage::CGeneralPage(ctxhelp::HelpPage help_page)
+    : CServicePage("General", help_page),
       enable_(*this, kIdEnable, "&Enable Service"),
       test_(*this, kIdTest, "&Test") {
   enable_.SetOnChange([this] { OnEnableClicked(); });

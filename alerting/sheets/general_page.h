@@ -18,7 +18,7 @@ class CGeneralPage : public CServicePage {
   void SetSheet(CServiceSheet* sheet) override { sheet_ = sheet; }
 
  protected:
-  explicit CGeneralPage(const ctxhelp::HelpPair* help_table);
+  explicit CGeneralPage(ctxhelp::HelpPage help_page);
 
   /// The two frames, for the top of the page's layout.
   ui::LayoutNode Frames(const std::string& description, const std::string& test_hint);

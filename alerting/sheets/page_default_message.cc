@@ -3,22 +3,12 @@
 
 #include "alerting/responses/choose_keyword_dlg.h"
 #include "alerting/responses/message_text.h"
-#include "companions/ctxhelp/topics.h"
 
 namespace alerting {
 namespace {
 
 enum ControlId { kIdSubject = 100, kIdSubjectFields, kIdSubjectNote, kIdBody, kIdBodyFields, kIdPriority };
 constexpr std::size_t kMaxBody = 1024;
-
-constexpr ctxhelp::HelpPair kHelp[] = {{ctxhelp::kFormItself, ctxhelp::kTopicDefaultMessage},
-                                       {kIdSubject, ctxhelp::kTopicDefaultMessageSubject},
-                                       {kIdSubjectFields, ctxhelp::kTopicDefaultMessageSubjectFields},
-                                       {kIdSubjectNote, ctxhelp::kTopicDefaultMessageSubject},
-                                       {kIdBody, ctxhelp::kTopicDefaultMessageBody},
-                                       {kIdBodyFields, ctxhelp::kTopicDefaultMessageBodyFields},
-                                       {kIdPriority, ctxhelp::kTopicDefaultMessagePriority},
-                                       ctxhelp::kEndOfHelpTable};
 
 constexpr char kHint[] =
     "You can edit the message which will be sent to the alert recipient. To add fields from the Event Log to "
@@ -30,7 +20,7 @@ constexpr char kCompuServeNote[] =
 }  // namespace
 
 CPropPgDefaultMsg::CPropPgDefaultMsg()
-    : CServicePage("Default Message", kHelp),
+    : CServicePage("Default Message", ctxhelp::kHelpDefaultMessage),
       subject_(*this, kIdSubject, "Mail Message &Subject:"),
       subject_fields_(*this, kIdSubjectFields, "<< Fie&lds..."),
       subject_note_(*this, kIdSubjectNote, kCompuServeNote),

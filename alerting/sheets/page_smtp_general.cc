@@ -2,7 +2,6 @@
 #include "alerting/sheets/page_smtp_general.h"
 
 #include "alerting/frame/companions.h"
-#include "companions/ctxhelp/topics.h"
 
 namespace alerting {
 namespace {
@@ -11,20 +10,10 @@ constexpr int kIdServer = 102;
 constexpr int kIdBrowse = 103;
 constexpr std::size_t kMaxServer = 255;
 
-constexpr ctxhelp::HelpPair kHelp[] = {{ctxhelp::kFormItself, ctxhelp::kTopicSmtpGeneral},
-                                       {CGeneralPage::kIdEnable, ctxhelp::kTopicSmtpEnable},
-                                       {CGeneralPage::kIdTest, ctxhelp::kTopicSmtpTest},
-                                       {kIdServer, ctxhelp::kTopicSmtpServer},
-                                       {kIdBrowse, ctxhelp::kTopicSmtpBrowse},
-                                       {LoginFields::kIdLogin, ctxhelp::kTopicSmtpLogin},
-                                       {LoginFields::kIdPassword, ctxhelp::kTopicSmtpPassword},
-                                       {LoginFields::kIdVerifyPassword, ctxhelp::kTopicSmtpVerifyPassword},
-                                       ctxhelp::kEndOfHelpTable};
-
 }  // namespace
 
 CPropPgSMTPGeneral::CPropPgSMTPGeneral()
-    : CMailGeneralPageOf(kHelp),
+    : CMailGeneralPageOf(ctxhelp::kHelpSmtpGeneral),
       server_(*this, kIdServer, "&SMTP Server:"),
       browse_(*this, kIdBrowse, "..."),
       login_(*this) {

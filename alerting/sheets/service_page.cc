@@ -22,7 +22,7 @@ bool CServicePage::SavePage() {
 }
 
 void CServicePage::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, help_table_);
+  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
 }
 
 }  // namespace alerting

@@ -36,9 +36,8 @@ class CServicePage : public ui::PropertyPage {
   void OnPersonChange(ui::Control&) override { MarkModified(); }
 
  protected:
-  /// `help_table` must outlive the page.
-  CServicePage(std::string caption, const ctxhelp::HelpPair* help_table)
-      : PropertyPage(std::move(caption)), help_table_(help_table) {}
+  CServicePage(std::string caption, ctxhelp::HelpPage help_page)
+      : PropertyPage(std::move(caption)), help_page_(help_page) {}
 
   CNtfyService& Service() const { return *service_; }
   /// Also for changes that the program makes on a person's behalf.
@@ -49,7 +48,7 @@ class CServicePage : public ui::PropertyPage {
   virtual bool SaveFields() = 0;
 
  private:
-  const ctxhelp::HelpPair* help_table_;
+  const ctxhelp::HelpPage help_page_;
   CNtfyService* service_ = nullptr;
   bool modified_ = false;
 };

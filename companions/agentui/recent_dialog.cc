@@ -2,7 +2,6 @@
 #include "companions/agentui/recent_dialog.h"
 
 #include "companions/ctxhelp/ctxhelp.h"
-#include "companions/ctxhelp/topics.h"
 
 namespace agentui {
 namespace {
@@ -12,12 +11,6 @@ namespace ui = platform::ui;
 constexpr int kIdList = 100;
 constexpr int kIdEmpty = 101;
 
-constexpr ctxhelp::HelpPair kHelp[] = {{ctxhelp::kFormItself, ctxhelp::kTopicRecent},
-                                       {kIdList, ctxhelp::kTopicRecentList},
-                                       {ui::kIdOk, ctxhelp::kTopicRecentOk},
-                                       {ui::kIdCancel, ctxhelp::kTopicRecentCancel},
-                                       ctxhelp::kEndOfHelpTable};
-
 }  // namespace
 
 RecentDialog::RecentDialog(ui::Window* parent, std::string caption, std::vector<std::string> entries,
@@ -26,14 +19,9 @@ RecentDialog::RecentDialog(ui::Window* parent, std::string caption, std::vector<
       entries_(std::move(entries)),
       empty_(*this, kIdEmpty, std::move(empty_text)),
       list_(*this, kIdList, "&Used lately, newest first:"),
-      ok_(*this, ui::kIdOk, "OK"),
-      cancel_(*this, ui::kIdCancel, "Cancel") {
-  SetLayout(ui::Column(
-      {ui::Bare(empty_), ui::Over(list_), ui::Row({ui::Stretch(), ui::Field(ok_), ui::Field(cancel_)})}));
+      buttons_(*this) {
+  SetLayout(ui::Column({ui::Bare(empty_), ui::Over(list_), buttons_.Row()}));
   empty_.Show(entries_.empty());
-  ok_.SetDefault(true);
-  ok_.SetOnClick([this] { OnOk(); });
-  cancel_.SetOnClick([this] { OnCancel(); });
   list_.SetOnChange([this] { UpdateOk(); });
   list_.SetOnDoubleClick([this] { OnOk(); });
 }
@@ -51,9 +39,10 @@ void RecentDialog::OnOk() {
 }
 
 void RecentDialog::OnHelp(const ui::HelpEvent& event) {
-  ctxhelp::MakeContextHelp()->QEVDlgOnContextHelp(*this, event, kHelp);
+  ctxhelp::MakeContextHelp()->QEVDlgOnContextHelp(*this, event,
+                                                  ctxhelp::HelpTableOf(*this, ctxhelp::kHelpRecent).data());
 }
 
-void RecentDialog::UpdateOk() { ok_.Enable(list_.Current() >= 0); }
+void RecentDialog::UpdateOk() { buttons_.ok.Enable(list_.Current() >= 0); }
 
 }  // namespace agentui

@@ -29,8 +29,7 @@ class RecentDialog : public platform::ui::Dialog {
   std::string chosen_;
   platform::ui::StaticText empty_;
   platform::ui::ListBox list_;
-  platform::ui::Button ok_;
-  platform::ui::Button cancel_;
+  platform::ui::OkCancelButtons buttons_;
 };
 
 }  // namespace agentui

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "companions/ctxhelp/ctxhelp.h"
 
-#include <nlohmann/json.hpp>
 #include <string>
 
-#include "companions/ctxhelp/resource_directory.h"
-#include "platform/base/paths.h"
+#include "companions/ctxhelp/help_texts.h"
 #include "platform/ui/desktop.h"
 
 namespace ctxhelp {
@@ -23,13 +21,9 @@ int FindTopic(const platform::ui::Control* control, const HelpPair* table) {
   return form_topic;
 }
 
-/// The texts are read at each request: help is asked for rarely, and a corrected text shows at once.
 std::string TopicText(int topic) {
-  std::string bytes;
-  if (!platform::ReadWholeFile(ResourceDirectory() + "/help/topics.json", bytes)) return kNoHelp;
-  const nlohmann::json topics = nlohmann::json::parse(bytes, nullptr, false);
-  const auto text = topics.find(std::to_string(topic));
-  return text != topics.end() && text->is_string() ? text->get<std::string>() : kNoHelp;
+  const std::string text = HelpText(topic);
+  return text.empty() ? kNoHelp : text;
 }
 
 class RealContextHelp : public ContextHelp {
@@ -43,6 +37,14 @@ class RealContextHelp : public ContextHelp {
 };
 
 }  // namespace
+
+std::vector<HelpPair> HelpTableOf(const platform::ui::Form& form, HelpPage page) {
+  std::vector<HelpPair> table = {{kFormItself, page}};
+  for (const platform::ui::Control* control : form.Controls())
+    if (control->Id() > 0) table.push_back({control->Id(), page + control->Id()});
+  table.push_back(kEndOfHelpTable);
+  return table;
+}
 
 std::unique_ptr<ContextHelp> MakeContextHelp() { return std::make_unique<RealContextHelp>(); }
 

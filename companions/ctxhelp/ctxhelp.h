@@ -2,7 +2,9 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
+#include "companions/ctxhelp/help_pages.h"
 #include "platform/ui/form.h"
 
 namespace ctxhelp {
@@ -12,6 +14,9 @@ struct HelpPair {
   int control_id;
   int topic;
 };
+
+/// The help table of a form: the form itself, each of its controls, the end.
+std::vector<HelpPair> HelpTableOf(const platform::ui::Form& form, HelpPage page);
 
 /// The control id of a help table's first row, which names the form itself.
 inline constexpr int kFormItself = -1;
@@ -29,8 +34,7 @@ class ContextHelp {
                                    const HelpPair* table) = 0;
 };
 
-/// The real component: shows the texts of `help/topics.json` (ctxhelp/topics.h names the topics) beside the
-/// control.
+/// The real component: shows the help texts among the resource files beside the control.
 std::unique_ptr<ContextHelp> MakeContextHelp();
 
 }  // namespace ctxhelp

@@ -19,7 +19,7 @@ void Control::SetFocus() { form_.MoveFocus(this); }
 
 void Control::ChangedByPerson() {
   if (on_change_) on_change_();
-  form_.OnPersonChange(*this);
+  if (is_edit_) form_.OnPersonChange(*this);
 }
 
 void Control::OnReachChanged() {

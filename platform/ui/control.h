@@ -48,6 +48,10 @@ class Control : public Window {
   /// Runs after a person changed the control's value (text, check, choice, row).
   void SetOnChange(std::function<void()> handler) { on_change_ = std::move(handler); }
 
+  /// False for a control whose changes are no edits of the form's data, such as the row chosen in a list of its own: the
+  /// form does not hear of them. Its own handler does.
+  void SetIsEdit(bool is_edit) { is_edit_ = is_edit; }
+
   /// The focus came or went, by whatever way. Overriders call the base.
   virtual void OnSetFocus() {}
   virtual void OnKillFocus() {}
@@ -68,6 +72,7 @@ class Control : public Window {
 
   Form& form_;
   std::function<void()> on_change_;
+  bool is_edit_ = true;
 };
 
 /// A text that only stands there; a hint, a note, a label that changes.

@@ -9,4 +9,11 @@ void Dialog::OnOk() {
 
 void Dialog::OnCancel() { EndDialog(kCancel); }
 
+OkCancelButtons::OkCancelButtons(Dialog& dialog)
+    : ok(dialog, kIdOk, "OK"), cancel(dialog, kIdCancel, "Cancel") {
+  ok.SetDefault(true);
+  ok.SetOnClick([&dialog] { dialog.OnOk(); });
+  cancel.SetOnClick([&dialog] { dialog.OnCancel(); });
+}
+
 }  // namespace platform::ui

@@ -22,14 +22,25 @@ class Dialog : public Form, public Modal {
   void OnEscape() override { OnCancel(); }
 
  protected:
+  friend struct OkCancelButtons;
   /// The base takes the values out of the controls and ends with kOk; stays open when a value is refused.
   virtual void OnOk();
   /// The base ends with kCancel.
   virtual void OnCancel();
 };
 
-/// The OK and Cancel buttons that most dialogs have, wired to the dialog's OnOk and OnCancel by the caller.
 constexpr int kIdOk = 1;
 constexpr int kIdCancel = 2;
+
+/// OK, which Enter presses, and Cancel, wired to the dialog. Declared behind a dialog's other controls, so that they end
+/// the tab order.
+struct OkCancelButtons {
+  explicit OkCancelButtons(Dialog& dialog);
+
+  /// Side by side at the right.
+  LayoutNode Row() { return ui::Row({Stretch(), Field(ok), Field(cancel)}); }
+
+  Button ok, cancel;
+};
 
 }  // namespace platform::ui

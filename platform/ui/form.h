@@ -55,7 +55,8 @@ class Form : public Window {
   /// button with the focus, else the default button.
   virtual void OnEnter();
   virtual void OnEscape() {}
-  /// A person changed a control, after its own handler ran. One place to mark a page as modified.
+  /// A person changed a control that edits the form's data, after its own handler ran. One place to mark a page as
+  /// modified.
   virtual void OnPersonChange(Control&) {}
 
  protected:

@@ -20,13 +20,12 @@ using testing::IsEmpty;
 
 constexpr char kFirst[] = "First";
 constexpr char kSecond[] = "Second";
-constexpr ctxhelp::HelpPair kNoHelp[] = {ctxhelp::kEndOfHelpTable};
 
 /// A page with one field that refuses "bad".
 class FieldPage : public CServicePage {
  public:
   FieldPage(std::string caption, std::vector<std::string>& saved)
-      : CServicePage(std::move(caption), kNoHelp), saved_(saved) {
+      : CServicePage(std::move(caption), ctxhelp::kNoHelpPage), saved_(saved) {
     SetLayout(ui::Field(edit_));
   }
 

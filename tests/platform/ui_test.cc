@@ -147,6 +147,30 @@ TEST_F(FormTest, TheCaretNeverStandsInsideACharacter) {
   EXPECT_EQ(edit.Selection(), (std::pair<std::size_t, std::size_t>(0, 0)));
 }
 
+TEST_F(FormTest, AnAbsentChoiceIsAbsentAndBitsStandForThemselves) {
+  ComboBox combo(dialog, 1, "Combo");
+  CheckBox box(dialog, 2, "Box");
+  Edit edit(dialog, 3, "Edit");
+  combo.Add("none chosen", 0);
+  std::optional<ItemData> chosen;
+  std::uint32_t flags = 0b1001;
+  std::int32_t offset = -60;
+  for (const bool save : {false, true}) {
+    DataExchange x(dialog, save);
+    x.Item(combo, chosen);
+    x.Bits(box, flags, 0b0110);
+    x.Integer(edit, offset, -60, 60);
+    EXPECT_FALSE(x.Failed());
+    EXPECT_FALSE(chosen.has_value());
+    EXPECT_EQ(edit.Text(), "-60");
+    EXPECT_EQ(flags, save ? 0b1111u : 0b1001u);
+    box.SetChecked(true);
+  }
+  combo.Select(0);
+  DataExchange(dialog, true).Item(combo, chosen);
+  EXPECT_EQ(chosen, ItemData{0});
+}
+
 TEST_F(FormTest, TheRowMovedToIsInView) {
   ListView list(dialog, 1, "List");
   for (int i = 0; i < 30; ++i) list.AddRow({std::to_string(i)});
