@@ -24,9 +24,7 @@ std::string StoresCannotBeOpened() {
 
 std::string LeftOutNote() {
   const std::string left_out = alertstore::DescribeLeftOut(alertstore::LeftOutRecords());
-  return left_out.empty()
-             ? left_out
-             : "The data are damaged: " + left_out + ". Put a backup in their place (alertctl restore)";
+  return left_out.empty() ? left_out : left_out + ": restore a backup";
 }
 
 std::string AlertingLibrary::PathOf(const std::string& given) {

@@ -58,6 +58,12 @@ bool AddedNow(Status status, const std::string& what) {
   return true;
 }
 
+/// Whether a search found its record. A read that failed must not pass for "none", or there would be two.
+bool IsThere(Status status) {
+  if (status != kOk && status != kNotFound) throw StoreFailure("read the stores", status);
+  return status == kOk;
+}
+
 template <class Store>
 void Open(Store& store) {
   const Status status = store.DBOpen();
@@ -147,8 +153,8 @@ void Starter::AddManager() {
   ALRT_SRV_CFGREC manager{};
   manager.managerName.Assign(HostName());
   ALRT_SRV_CFGREC found{};
-  if (managers_.DBAlertRecFindFirst(kManagerByName, manager.managerName.kWidth, manager.managerName.Data(),
-                                    found) == kOk) {
+  if (IsThere(managers_.DBAlertRecFindFirst(kManagerByName, manager.managerName.kWidth,
+                                            manager.managerName.Data(), found))) {
     manager_ = found.guid;
     return;
   }
@@ -158,7 +164,7 @@ void Starter::AddManager() {
 
 void Starter::EnableHere(const ALRTNTFYSERV& common) {
   ALRTSERV_INST_NTFY_SERVREC entry{};
-  if (enabled_.DBAlertRecFindFirst(kEnabledServiceByService, sizeof(GUID), &common.serviceId, entry) == kOk)
+  if (IsThere(enabled_.DBAlertRecFindFirst(kEnabledServiceByService, sizeof(GUID), &common.serviceId, entry)))
     return;
   entry = {};
   entry.serviceGuid = common.serviceId;
