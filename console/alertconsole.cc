@@ -7,6 +7,7 @@
 #include <cstdlib>
 
 #include "console/alertconsole_library.h"
+#include "console/alertconsole_samples.h"
 #include "console/alertconsole_screenshots.h"
 #include "console/alertconsole_window.h"
 #include "desktops/qt/qt_desktop.h"
@@ -23,6 +24,8 @@ struct Options {
 bool HasDisplay() { return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr; }
 
 int Run(const Options& options) {
+  std::optional<alertconsole::SampleSite> samples;
+  if (!options.screenshots.empty()) samples.emplace();
   alertconsole::AlertingLibrary library(alertconsole::AlertingLibrary::PathOf(options.library_path));
   if (!options.screenshots.empty()) {
     return alertconsole::WriteScreenshots(library, QString::fromStdString(options.screenshots));
@@ -42,7 +45,7 @@ int main(int argc, char** argv) {
   command.add_option("--library", options.library_path,
                      "The alerting library (else ALERTING_LIBRARY, else beside the console)");
   command.add_option("--screenshot-dir", options.screenshots,
-                     "Write pictures of the windows there, and exit");
+                     "Write pictures of all windows there, on a copy of the site with examples, and exit");
   try {
     command.parse(argc, argv);
   } catch (const CLI::ParseError& wrong) {

@@ -148,13 +148,6 @@ void MainWindow::EnableActions() {
   delete_->setEnabled(chosen >= 0 && library_.IsFirstOfType(chosen) == 0);
 }
 
-int MainWindow::FirstOfType(std::uint32_t record_type) const {
-  for (int index = 0; index < library_.GetCount(); ++index) {
-    if (library_.GetInfo(index)->recordType == record_type) return index;
-  }
-  return -1;
-}
-
 void MainWindow::OpenSheet(int index) {
   if (index < 0) return;
   library_.PropertySheet(&as_owner_, index);

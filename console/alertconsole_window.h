@@ -26,8 +26,6 @@ class MainWindow : public QMainWindow, public platform::ui::WindowObserver, publ
   void ShowServices();
   /// Opens the sheet of the service with that index, then shows what has become of it.
   void OpenSheet(int index);
-  /// The index of the first service whose type is stored as `record_type`, or -1.
-  int FirstOfType(std::uint32_t record_type) const;
 
   QWidget* OwnedWidget() const override { return const_cast<MainWindow*>(this); }
   platform::ui::Window& ShownWindow() const override { return const_cast<platform::ui::Window&>(as_owner_); }
