@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "console/alertctl_site.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
@@ -14,6 +12,7 @@
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
 #include "companions/dbconfig/strings.h"
+#include "platform/base/host_name.h"
 #include "platform/base/paths.h"
 #include "platform/base/utf8.h"
 
@@ -104,13 +103,13 @@ const Json& FindService(const Json& site, const std::string& name) {
 const Json& FindManager(const Json& site, const std::string& name) {
   const Json& managers = site["alertManagers"];
   if (!name.empty()) return FindOne(managers, name, "alert manager", "alertctl manager list");
-  const auto is_this_machine = [](const Json& manager) { return Matches(manager, HostName()); };
+  const auto is_this_machine = [](const Json& manager) { return Matches(manager, platform::HostName()); };
   if (std::any_of(managers.begin(), managers.end(), is_this_machine))
-    return FindOne(managers, HostName(), "alert manager", "alertctl manager list");
+    return FindOne(managers, platform::HostName(), "alert manager", "alertctl manager list");
   if (managers.size() == 1) return managers[0];
   throw Failure(
       kInvalid,
-      "this machine (" + HostName() +
+      "this machine (" + platform::HostName() +
           ") is no alert manager: choose one with --manager (\"alertctl manager list\" shows them)");
 }
 
@@ -166,12 +165,6 @@ std::string TypeName(const Json& service) { return dbconfig::ServiceTypeName(Rec
 std::uint32_t RecordTypeOf(const Json& service) {
   const dbconfig::ServiceType* type = TypeOf(service);
   return type != nullptr ? type->record_type : 0;
-}
-
-std::string HostName() {
-  char name[256] = "";
-  gethostname(name, sizeof name - 1);
-  return name;
 }
 
 Failure StoreFailure(const std::string& what, alertstore::Status status) {

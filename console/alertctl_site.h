@@ -42,8 +42,6 @@ platform::GUID IdOf(const Json& object);
 std::string TypeName(const Json& service);
 std::uint32_t RecordTypeOf(const Json& service);
 
-/// This machine's name.
-std::string HostName();
 /// The failure of a store just now, while doing something ("add the user \"Ann\""), with what can be done about it.
 Failure StoreFailure(const std::string& what, alertstore::Status status);
 /// The same, where the cause was noted before.

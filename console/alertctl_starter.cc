@@ -13,6 +13,7 @@
 #include "companions/dbconfig/site_fields.h"
 #include "console/alertctl_records.h"
 #include "console/alertctl_site.h"
+#include "platform/base/host_name.h"
 #include "platform/base/paths.h"
 
 namespace alertctl {
@@ -151,7 +152,7 @@ void Starter::LoadServices() {
 
 void Starter::AddManager() {
   ALRT_SRV_CFGREC manager{};
-  manager.managerName.Assign(HostName());
+  manager.managerName.Assign(platform::HostName());
   ALRT_SRV_CFGREC found{};
   if (IsThere(managers_.DBAlertRecFindFirst(kManagerByName, manager.managerName.kWidth,
                                             manager.managerName.Data(), found))) {

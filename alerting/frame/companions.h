@@ -4,6 +4,7 @@
 #include "companions/agentui/agentui.h"
 #include "companions/ctxhelp/ctxhelp.h"
 #include "companions/dbconfig/dbconfig.h"
+#include "companions/netpath/netpath.h"
 
 namespace alerting {
 
@@ -13,6 +14,7 @@ struct Companions {
   dbconfig::DbConfig* dbconfig;
   agentui::AgentUi* agentui;
   ctxhelp::ContextHelp* ctxhelp;
+  netpath::NetPath* netpath;
 };
 
 /// The components in use: the real ones until SetCompanions put others there.

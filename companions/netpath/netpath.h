@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <string>
 
 namespace netpath {
 
@@ -9,7 +11,8 @@ namespace netpath {
 inline constexpr std::uint32_t kPathBufferSize = 261;
 
 /// Resolves file paths and brings them into universal network form (`\\server\share\...`). Callers know three
-/// of the operations by number only, and so do their names. `zero` is reserved in all of them.
+/// of the operations by number only, and so do their names. `zero` is reserved in all of them. A buffer is
+/// written only where the answer is 0.
 class NetPath {
  public:
   virtual ~NetPath() = default;
@@ -29,5 +32,11 @@ class NetPath {
   virtual std::uint32_t NetTreeFromPath(std::uint32_t zero, const char* universal, char* buffer,
                                         std::uint32_t size) = 0;
 };
+
+/// What Operation13 answers where no path needs converting.
+inline constexpr std::uint32_t kNoConversion = 4;
+
+/// The real component. `mount_table` says which shares of other machines are mounted where.
+std::unique_ptr<NetPath> MakeNetPath(std::string mount_table = "/proc/self/mounts");
 
 }  // namespace netpath

@@ -20,6 +20,7 @@
 #include "platform/ui/dialog.h"
 #include "platform/ui/lists.h"
 #include "tests/support/failing_engine.h"
+#include "tests/support/fake_netpath.h"
 #include "tests/support/temporary.h"
 
 namespace test_support {
@@ -66,6 +67,7 @@ class LibraryUnderTest {
 
   FakeDbConfig dbconfig;
   FakeAgentUi agentui;
+  FakeNetPath netpath;
   std::shared_ptr<FailingEngine> engine;
 
  private:
