@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/icons.h"
 
-#include <QFile>
-#include <span>
-
 #include "desktops/qt/texts.h"
 
 namespace desktops::qt {
@@ -25,22 +22,12 @@ Bitmap ToBitmap(const QImage& image) {
   return picture;
 }
 
-std::vector<Bitmap> IconsOfFile(const std::string& path, std::size_t limit) {
-  QFile file(ToQt(path));
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  const QByteArray bytes = file.readAll();
-  const auto* data = reinterpret_cast<const std::uint8_t*>(bytes.constData());
-  std::vector<Bitmap> icons = platform::ui::DecodeIco({data, static_cast<std::size_t>(bytes.size())});
-  if (icons.empty()) {
-    const QImage image = QImage::fromData(bytes);
-    // A photograph is no icon; a file dialog that browses over one would show a piece of it.
-    constexpr int kLargestIcon = 256;
-    if (!image.isNull() && image.width() <= kLargestIcon && image.height() <= kLargestIcon) {
-      icons.push_back(ToBitmap(image));
-    }
-  }
-  if (icons.size() > limit) icons.resize(limit);
-  return icons;
+std::vector<Bitmap> PictureOfFile(const std::string& path) {
+  const QImage image(ToQt(path));
+  // A photograph is no icon; a file dialog that browses over one would show a piece of it.
+  constexpr int kLargestIcon = 256;
+  if (image.isNull() || image.width() > kLargestIcon || image.height() > kLargestIcon) return {};
+  return {ToBitmap(image)};
 }
 
 }  // namespace desktops::qt

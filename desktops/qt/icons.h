@@ -12,8 +12,7 @@ namespace desktops::qt {
 QImage ToImage(const platform::ui::Bitmap& picture);
 platform::ui::Bitmap ToBitmap(const QImage& image);
 
-/// Up to `limit` pictures of an icon file, or the one picture of any other image file; empty for what is
-/// neither.
-std::vector<platform::ui::Bitmap> IconsOfFile(const std::string& path, std::size_t limit);
+/// The one picture of an image file that is as small as an icon; empty for any other.
+std::vector<platform::ui::Bitmap> PictureOfFile(const std::string& path);
 
 }  // namespace desktops::qt

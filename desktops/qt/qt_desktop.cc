@@ -155,7 +155,8 @@ std::unique_ptr<Sound> QtDesktop::OpenSound(const std::string& path) {
 }
 
 std::vector<Bitmap> QtDesktop::ExtractIcons(const std::string& path, std::size_t limit) {
-  return qt::IconsOfFile(path, limit);
+  std::vector<Bitmap> icons = Desktop::ExtractIcons(path, limit);
+  return icons.empty() ? qt::PictureOfFile(path) : icons;
 }
 
 // Callers ask whether folder pickers and file previews are there. They came with release 4 of the system that

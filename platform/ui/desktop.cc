@@ -8,7 +8,7 @@
 #include <thread>
 #include <utility>
 
-#include "platform/base/paths.h"
+#include "platform/ui/icon_files.h"
 
 namespace platform::ui {
 namespace {
@@ -98,11 +98,7 @@ Window* Desktop::ForegroundWindow() { return nullptr; }
 std::unique_ptr<Sound> Desktop::OpenSound(const std::string&) { return std::make_unique<SilentSound>(); }
 
 std::vector<Bitmap> Desktop::ExtractIcons(const std::string& path, std::size_t limit) {
-  std::string bytes;
-  if (!ReadWholeFile(path, bytes)) return {};
-  std::vector<Bitmap> icons = DecodeIco({reinterpret_cast<const std::uint8_t*>(bytes.data()), bytes.size()});
-  if (icons.size() > limit) icons.resize(limit);
-  return icons;
+  return IconsOfFile(path, limit);
 }
 
 int Desktop::SystemMajorVersion() { return 10; }

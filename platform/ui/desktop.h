@@ -54,7 +54,8 @@ class Desktop {
   virtual Window* ForegroundWindow();
   /// Never null. The base's sounds cannot be played.
   virtual std::unique_ptr<Sound> OpenSound(const std::string& path);
-  /// Up to `limit` icons of a file; empty where it has none. The base reads icon files.
+  /// Up to `limit` icons of a file; empty where it has none. The base reads icon files, programs and
+  /// dynamic libraries.
   virtual std::vector<Bitmap> ExtractIcons(const std::string& path, std::size_t limit);
   virtual int SystemMajorVersion();
   /// Pixels from icon to icon in an icon view.

@@ -4,33 +4,22 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/ui/foreign_bytes.h"
+
 namespace platform::ui {
 namespace {
 
-using Bytes = std::span<const std::uint8_t>;
+using Bytes = ForeignBytes;
 
 // Bounds what a few foreign bytes can make us allocate; no picture of ours comes near.
 constexpr std::int64_t kMostSide = 16384;
 constexpr std::int64_t kMostIconSide = 256;
-constexpr std::int64_t kMostIconPixels = 16 << 20;
 
 constexpr std::size_t kFileHeaderSize = 14;
 constexpr std::size_t kInfoHeaderSize = 40;
 constexpr std::size_t kIconDirectorySize = 6;
 constexpr std::size_t kIconEntrySize = 16;
 constexpr std::uint32_t kOpaque = 0xFF000000;
-
-// The callers have checked that the bytes are there.
-std::uint32_t U32(Bytes bytes, std::size_t at) {
-  return static_cast<std::uint32_t>(bytes[at] | bytes[at + 1] << 8 | bytes[at + 2] << 16) |
-         static_cast<std::uint32_t>(bytes[at + 3]) << 24;
-}
-
-unsigned U16(Bytes bytes, std::size_t at) { return static_cast<unsigned>(bytes[at] | bytes[at + 1] << 8); }
-
-Bytes From(Bytes bytes, std::size_t offset) {
-  return offset <= bytes.size() ? bytes.subspan(offset) : Bytes();
-}
 
 // A device-independent bitmap: the header of BMP files and of icon images.
 struct Dib {
@@ -134,18 +123,6 @@ bool ApplyMask(const Dib& dib, Bytes mask, Bitmap& picture) {
   return true;
 }
 
-std::optional<Bitmap> DecodeIconImage(Bytes bytes) {
-  const std::optional<Dib> dib = ReadHeader(bytes, kMostIconSide, 2);
-  if (!dib) return std::nullopt;
-  const Bytes pixels = bytes.subspan(dib->pixels_offset);
-  std::optional<Bitmap> picture = ReadPixels(*dib, pixels);
-  // An image of 32 bits has its own transparency; old ones have zeros there and need the mask.
-  if (!picture || (dib->bits == 32 && HasAlpha(*picture))) return picture;
-  const std::size_t picture_size = dib->RowSize(dib->bits) * static_cast<std::size_t>(dib->height);
-  if (!ApplyMask(*dib, pixels.subspan(picture_size), *picture)) return std::nullopt;
-  return picture;
-}
-
 }  // namespace
 
 Bitmap Bitmap::Part(int x, int y, int width, int height) const {
@@ -173,6 +150,18 @@ std::optional<Bitmap> DecodeBmp(Bytes bytes) {
   return picture;
 }
 
+std::optional<Bitmap> DecodeIconImage(Bytes bytes) {
+  const std::optional<Dib> dib = ReadHeader(bytes, kMostIconSide, 2);
+  if (!dib) return std::nullopt;
+  const Bytes pixels = bytes.subspan(dib->pixels_offset);
+  std::optional<Bitmap> picture = ReadPixels(*dib, pixels);
+  // An image of 32 bits has its own transparency; old ones have zeros there and need the mask.
+  if (!picture || (dib->bits == 32 && HasAlpha(*picture))) return picture;
+  const std::size_t picture_size = dib->RowSize(dib->bits) * static_cast<std::size_t>(dib->height);
+  if (!ApplyMask(*dib, pixels.subspan(picture_size), *picture)) return std::nullopt;
+  return picture;
+}
+
 std::vector<Bitmap> DecodeIco(Bytes bytes) {
   std::vector<Bitmap> icons;
   if (bytes.size() < kIconDirectorySize || U16(bytes, 0) != 0 || U16(bytes, 2) != 1) return icons;
@@ -181,12 +170,11 @@ std::vector<Bitmap> DecodeIco(Bytes bytes) {
   std::int64_t pixels = 0;
   for (std::size_t i = 0; i < count && pixels < kMostIconPixels; ++i) {
     const std::size_t entry = kIconDirectorySize + i * kIconEntrySize;
-    const Bytes image = From(bytes, U32(bytes, entry + 12));
-    const std::size_t size = std::min<std::size_t>(U32(bytes, entry + 8), image.size());
-    std::optional<Bitmap> icon = DecodeIconImage(image.first(size));
-    if (!icon) continue;
-    pixels += std::int64_t{icon->Width()} * icon->Height();
-    icons.push_back(std::move(*icon));
+    const Bytes image = ui::Part(bytes, U32(bytes, entry + 12), U32(bytes, entry + 8));
+    std::optional<Bitmap> icon = DecodeIconImage(image);
+    // An image that cannot be read has cost its bytes; many entries may share it.
+    pixels += icon ? std::int64_t{icon->Width()} * icon->Height() : std::ssize(image);
+    if (icon) icons.push_back(std::move(*icon));
   }
   return icons;
 }

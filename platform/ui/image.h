@@ -35,6 +35,12 @@ class Bitmap {
 /// Nothing where the bytes are no such file or its sizes do not fit its length.
 std::optional<Bitmap> DecodeBmp(std::span<const std::uint8_t> bytes);
 
+/// How many pixels all icons of one file may have together, so that entries that share an image do not multiply.
+inline constexpr std::int64_t kMostIconPixels = 16 << 20;
+
+/// Reads one image of an icon: a DIB and its mask. Nothing where it is none, or is compressed.
+std::optional<Bitmap> DecodeIconImage(std::span<const std::uint8_t> bytes);
+
 /// Reads the pictures of an icon file (ICONDIR, entries of DIB images with their masks), in file order; empty
 /// where the bytes are no icon file. An image that cannot be read is left out.
 std::vector<Bitmap> DecodeIco(std::span<const std::uint8_t> bytes);

@@ -4,42 +4,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "tests/support/icon_bytes.h"
+
 namespace platform::ui {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
+using namespace test_support;  // NOLINT
 using testing::ElementsAre;
-
-void Put(Bytes& bytes, std::uint64_t value, int size) {
-  for (int i = 0; i < size; ++i) bytes.push_back(static_cast<std::uint8_t>(value >> (8 * i)));
-}
-
-void PutZeros(Bytes& bytes, std::size_t count) { bytes.resize(bytes.size() + count); }
-
-struct Picture {
-  std::int32_t width, height;
-  unsigned bits;
-  std::vector<std::uint32_t> palette;
-  Bytes pixels;  // rows as stored, padded
-  unsigned compression = 0;
-};
-
-// BITMAPINFOHEADER, palette and rows.
-Bytes Dib(const Picture& p) {
-  Bytes bytes;
-  Put(bytes, 40, 4);
-  Put(bytes, static_cast<std::uint32_t>(p.width), 4);
-  Put(bytes, static_cast<std::uint32_t>(p.height), 4);
-  Put(bytes, 1, 2);
-  Put(bytes, p.bits, 2);
-  Put(bytes, p.compression, 4);
-  PutZeros(bytes, 12);
-  Put(bytes, p.palette.size(), 4);
-  Put(bytes, 0, 4);
-  for (const std::uint32_t color : p.palette) Put(bytes, color, 4);
-  bytes.insert(bytes.end(), p.pixels.begin(), p.pixels.end());
-  return bytes;
-}
 
 Bytes Bmp(const Picture& p) {
   const Bytes dib = Dib(p);
@@ -48,22 +19,6 @@ Bytes Bmp(const Picture& p) {
   Put(bytes, 0, 4);
   Put(bytes, 14 + 40 + 4 * p.palette.size(), 4);
   bytes.insert(bytes.end(), dib.begin(), dib.end());
-  return bytes;
-}
-
-Bytes Ico(const std::vector<Bytes>& images) {
-  Bytes bytes;
-  Put(bytes, 0, 2);
-  Put(bytes, 1, 2);
-  Put(bytes, images.size(), 2);
-  std::size_t offset = 6 + 16 * images.size();
-  for (const Bytes& image : images) {
-    Put(bytes, 0, 8);
-    Put(bytes, image.size(), 4);
-    Put(bytes, offset, 4);
-    offset += image.size();
-  }
-  for (const Bytes& image : images) bytes.insert(bytes.end(), image.begin(), image.end());
   return bytes;
 }
 
