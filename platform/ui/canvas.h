@@ -39,7 +39,7 @@ class Canvas : public Control {
   enum class Scroll { kLineLeft, kLineRight, kPageLeft, kPageRight, kThumb };
   virtual void OnScroll(Scroll /*what*/, int /*thumb*/) {}
   /// The desktop gave the canvas its size in pixels.
-  void OnSize(int width, int height);
+  virtual void OnSize(int width, int height);
 
  private:
   int width_ = 0, height_ = 0;

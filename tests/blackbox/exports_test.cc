@@ -28,8 +28,14 @@ class QuietDesktop : public platform::ui::Desktop {
     ++messages;
     return platform::ui::Answer::kOk;
   }
+  bool ChooseFile(platform::ui::FileDialog& dialog) override {
+    asked = dialog.title + ": " + dialog.initial_path;
+    if (!chosen.empty()) dialog.OnFileAccepted(chosen);
+    return !chosen.empty();
+  }
   std::set<std::string> titles;
   int messages = 0;
+  std::string chosen, asked;  ///< in file dialogs; "" cancels
 };
 
 /// Every export by name, and how it is called: api.DomainServiceGetCount().
@@ -141,7 +147,7 @@ TEST_F(ExportsTest, EveryFunctionIsFoundUnderItsDecoratedNameOnly) {
 #include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
-  EXPECT_EQ(found, 44);
+  EXPECT_EQ(found, 48);
 }
 
 TEST_F(ExportsTest, NothingElseLeavesTheLibrary) {
@@ -284,6 +290,32 @@ TEST_F(ExportsTest, ABackupManagerGetsAnEntryOfItsOwn) {
   EXPECT_EQ(api_->DomainServiceIsServer(0, manager_), 1U);
   EXPECT_EQ(api_->DomainServiceIsServer(0, backup), 1U);
   EXPECT_EQ(api_->DomainServiceSetBackupServer(kNullGuid), 1U);
+}
+
+TEST_F(ExportsTest, FilesAreChosenIntoTheCallersBuffer) {
+  using Choose = std::function<std::int32_t(char*)>;
+  const std::tuple<Choose, std::string, std::string> rows[] = {
+      {[&](char* path) { return api_->SelectWAVFileDialog(nullptr, path); }, "Select WAV file: ", ""},
+      {[&](char* path) { return api_->SelectWAVFileDialogC(0, path); }, "Select WAV file: ", "."},
+      {[&](char* path) { return api_->SelectProgFileDialog(nullptr, path); },
+       "Select Exe File For Response: ", ""},
+      {[&](char* path) { return api_->SelectIconFileDialog(nullptr, path, nullptr); }, "Select Icon: ", "."}};
+  for (const auto& [choose, title, dot] : rows) {
+    char path[261] = ".";
+    for (const std::string& chosen : {std::string(), "/" + std::string(260, 'x')}) {
+      desktop_.chosen = chosen;
+      EXPECT_EQ(choose(path), 2) << title << chosen;
+      EXPECT_STREQ(path, ".");
+    }
+    EXPECT_EQ(desktop_.asked, title + dot);
+    EXPECT_EQ(std::exchange(desktop_.messages, 0), 1) << "too long";
+    desktop_.chosen = "/no/such/" + std::string(251, 'x');
+    EXPECT_EQ(choose(path), 1);
+    EXPECT_EQ(path, desktop_.chosen);
+    EXPECT_EQ(choose(nullptr), 2);
+    EXPECT_EQ(choose(path), 1);
+    EXPECT_EQ(desktop_.asked, title + desktop_.chosen) << "begins with the file of before";
+  }
 }
 
 TEST_F(ExportsTest, TheIconStripHoldsNineteenDistinctPictures) {
