@@ -20,6 +20,8 @@ StoreSet& TheStores() {
 CAlertSERV_INST_NTFY_SERVDB& EnabledServiceStore() { return OrClosed(TheStores().enabled_services); }
 CAlertSERV_MODEMDB& ModemStore() { return OrClosed(TheStores().modems); }
 CAlert_SRV_CFGDB& ManagerStore() { return OrClosed(TheStores().managers); }
+CAlertMODEM_LOCATIONDB& LocationStore() { return OrClosed(TheStores().locations); }
+CAlertAPAGE_SERVICE_PROVIDERDB& ProviderStore() { return OrClosed(TheStores().providers); }
 CAlertNtfyServDB& ServiceStore() { return OrClosed(TheStores().services); }
 CAlertRespDB& ResponseStore() { return OrClosed(TheStores().responses); }
 CAlertUsrInstServDB& UserLinkStore() { return OrClosed(TheStores().user_links); }

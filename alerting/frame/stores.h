@@ -56,6 +56,8 @@ StoreSet& TheStores();
 CAlertSERV_INST_NTFY_SERVDB& EnabledServiceStore();
 CAlertSERV_MODEMDB& ModemStore();
 CAlert_SRV_CFGDB& ManagerStore();
+CAlertMODEM_LOCATIONDB& LocationStore();
+CAlertAPAGE_SERVICE_PROVIDERDB& ProviderStore();
 CAlertNtfyServDB& ServiceStore();
 CAlertRespDB& ResponseStore();
 CAlertUsrInstServDB& UserLinkStore();

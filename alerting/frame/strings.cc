@@ -11,6 +11,9 @@ platform::Module MakeModule() {
 #define ALERTING_STRING(name, id, text) module.AddString(id, text);
 #include "resources/strings.def"
 #undef ALERTING_STRING
+#define ALERTING_COUNTRY(id, name, code, has_area_codes) module.AddString(id, name);
+#include "resources/countries.def"
+#undef ALERTING_COUNTRY
   module.SetTitle(module.String(kIdsTitle));
   AddEmbeddedResources(module);
   return module;

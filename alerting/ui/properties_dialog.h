@@ -37,6 +37,8 @@ class CPropertiesDialog : public CLibraryDialog {
 
   /// Takes the values out of the controls and stores them; false after a message.
   virtual bool Save() = 0;
+  /// Leaves the dialog clean; false where Save failed.
+  bool SaveIfDirty();
 
   /// The base puts the values into the controls; the dialog is clean then.
   void OnInitDialog() override;
@@ -44,7 +46,6 @@ class CPropertiesDialog : public CLibraryDialog {
 
  private:
   friend struct CPropertiesButtons;
-  bool SaveIfDirty();
 
   ui::Button* apply_ = nullptr;
   bool dirty_ = false;
