@@ -6,18 +6,9 @@
 
 #include "alerting/frame/stores.h"
 #include "alerting/services/guid_hash.h"
-#include "platform/ui/lists.h"
 
-/// Alert managers (the servers that deliver alerts) and the services enabled on each. The managers themselves
-/// are only read here.
+/// The services enabled on each alert manager.
 namespace alerting {
-
-/// Fills the drop-down with the managers' names and selects the one with that identity. A store without any
-/// shows its message.
-void FillAlertManagerCombo(platform::ui::ComboBox& combo, const GUID& selected);
-
-/// Finds a manager by its exact name. False after a message, and `id` as it was, when there is none.
-bool FindAlertManagerByName(const char* name, GUID& id);
 
 /// The manager that takes over when another fails; null for none. Every enabling of a service with a backup
 /// record enables it there too.

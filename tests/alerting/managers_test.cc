@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "alerting/managers/alert_managers.h"
 #include "alerting/managers/config_file.h"
 #include "alerting/managers/enabled_services.h"
 #include "tests/support/service_fixture.h"
