@@ -26,11 +26,24 @@ struct Labelled {
   QWidget* widget;
 };
 
+/// The field in a group box that has the box's title for its label; null where there is none. (The first button of a
+/// group of them bears the group's name too.)
+QWidget* FieldTitledBy(const QGroupBox& box) {
+  const QString title = ToQt(PlainLabel(FromQt(box.title())));
+  const QList<QWidget*> inside = box.findChildren<QWidget*>();
+  const auto field = std::ranges::find_if(inside, [&](const QWidget* child) {
+    return child->accessibleName() == title && qobject_cast<const QAbstractButton*>(child) == nullptr;
+  });
+  return title.isEmpty() || field == inside.end() ? nullptr : *field;
+}
+
 Labelled LabelledBy(QWidget* widget) {
   if (auto* label = qobject_cast<QLabel*>(widget)) {
     return {FromQt(label->text()), label->buddy() != nullptr ? label->buddy() : label};
   }
-  return {WidgetFinder::CaptionOf(*widget), widget};
+  const auto* box = qobject_cast<QGroupBox*>(widget);
+  QWidget* field = box != nullptr ? FieldTitledBy(*box) : nullptr;
+  return {WidgetFinder::CaptionOf(*widget), field != nullptr ? field : widget};
 }
 
 bool InOtherTab(const QWidget& widget, const QWidget& window) {
