@@ -2,13 +2,23 @@
 #include "alerting/api/service_ui_table.h"
 
 #include "alerting/services/service_ui.h"
-#include "alerting/sheets/sheet_service_smtp.h"
+#include "alerting/sheets/service_sheets.h"
 
 namespace alerting {
 
 void InstallServiceUiTable() {
   ServiceUiTable table{};
-  table[kTypeSmtp].property_sheet = RunSheetSMTP;
+  table[kTypeMci].property_sheet = RunSheet<CSheetServiceMCI>;
+  table[kTypeCompuServe].property_sheet = RunSheet<CSheetServiceCIS>;
+  table[kTypeSmtp].property_sheet = RunSheet<CSheetServiceSMTP>;
+  table[kTypeMapi].property_sheet = RunSheet<CSheetServiceMAPI>;
+  table[kTypeVim].property_sheet = RunSheet<CSheetServiceVIM>;
+  table[kTypeWave].property_sheet = RunSheet<CSheetServiceWave>;
+  table[kTypeTts].property_sheet = RunSheet<CSheetServiceTTS>;
+  table[kTypeAlpha].property_sheet = RunSheet<CSheetServiceAlpha>;
+  table[kTypeNumeric].property_sheet = RunSheet<CSheetServiceNum>;
+  table[kTypeGeneric].property_sheet = RunSheet<CSheetServiceGeneric>;
+  table[kTypeProgram].property_sheet = RunSheet<CSheetServiceProg>;
   SetServiceUiTable(table);
 }
 

@@ -2,14 +2,6 @@
 #include "alerting/sheets/mail_general_page.h"
 
 namespace alerting {
-namespace {
-
-constexpr char kTestHint[] = "Press Test to send a test message using this service.";
-
-/// Records keep an empty text as a single blank.
-std::string Shown(const std::string& stored) { return stored == " " ? std::string() : stored; }
-
-}  // namespace
 
 LoginFields::LoginFields(ui::Form& page, std::string login_label)
     : login(page, kIdLogin, std::move(login_label)),
@@ -30,20 +22,16 @@ void CMailGeneralPage::Bind(LoginFields& login) {
   login_ = &login;
 }
 
-ui::LayoutNode CMailGeneralPage::MailLayout(const std::string& description, ui::LayoutNodes fields) {
-  return ui::Column({Frames(description, kTestHint), ui::Group("Notification Service Configuration", fields),
-                     ui::Stretch()});
-}
-
 void CMailGeneralPage::OnInitDialog() {
   const auto max_password = static_cast<std::size_t>(Service().GetMaxPasswordLength());
   login_->login.SetLimit(static_cast<std::size_t>(Service().GetMaxLoginIdLength()));
   login_->password.SetLimit(max_password);
   login_->verify.SetLimit(max_password);
-  const GeneralFields fields = ReadFields();
-  for (BoundText& text : texts_) text.value = Shown((fields.*text.field).value_or(""));
-  SetServiceEnabled(fields.enabled.value_or(0) != 0);
   CGeneralPage::OnInitDialog();
+}
+
+void CMailGeneralPage::TakeFields(const GeneralFields& fields) {
+  for (BoundText& text : texts_) text.value = ShownText((fields.*text.field).value_or(""));
 }
 
 void CMailGeneralPage::Exchange(ui::DataExchange& x) {
@@ -51,11 +39,8 @@ void CMailGeneralPage::Exchange(ui::DataExchange& x) {
   for (BoundText& text : texts_) x.Text(text.edit, text.value);
 }
 
-bool CMailGeneralPage::SaveFields() {
-  GeneralFields fields;
+void CMailGeneralPage::CollectFields(GeneralFields& fields) const {
   for (const BoundText& text : texts_) fields.*text.field = text.value;
-  fields.enabled = IsServiceEnabled() ? 1 : 0;
-  return WriteFields(fields);
 }
 
 }  // namespace alerting

@@ -5,7 +5,6 @@
 #include <string>
 #include <vector>
 
-#include "alerting/services/general_fields.h"
 #include "alerting/sheets/general_page.h"
 #include "platform/ui/edit.h"
 
@@ -20,14 +19,15 @@ struct LoginFields {
   explicit LoginFields(ui::Form& page, std::string login_label = "&Login ID:");
   /// Takes them from the screen; their values are still read and saved.
   void Hide();
+  /// Password and its repetition side by side.
+  ui::LayoutNode PasswordRow() { return ui::Row({ui::Field(password), ui::Field(verify)}); }
 
   ui::Edit login, password, verify;
   std::string login_text, password_text, verify_text;
 };
 
 /// The General page of the six mail services: texts, each bound to one of the service's general fields. A
-/// derived page declares its fields and a LoginFields in tab order, binds them, and lays them out with
-/// MailLayout.
+/// derived page declares its fields and a LoginFields in tab order, binds them, and lays them out with FramesOver.
 class CMailGeneralPage : public CGeneralPage {
  protected:
   using GeneralText = std::optional<std::string> GeneralFields::*;
@@ -38,16 +38,10 @@ class CMailGeneralPage : public CGeneralPage {
   void Bind(ui::Edit& edit, std::string& value, GeneralText field) { texts_.push_back({edit, value, field}); }
   void Bind(LoginFields& login);
 
-  /// The layout that the six share; `fields` fill the group.
-  ui::LayoutNode MailLayout(const std::string& description, ui::LayoutNodes fields);
-
   void OnInitDialog() override;
   void Exchange(ui::DataExchange& x) override;
-  bool SaveFields() override;
-
-  /// The type's own GetGeneralFields and SetGeneralFields.
-  virtual GeneralFields ReadFields() const = 0;
-  virtual bool WriteFields(const GeneralFields& fields) = 0;
+  void TakeFields(const GeneralFields& fields) override;
+  void CollectFields(GeneralFields& fields) const override;
 
  private:
   struct BoundText {
@@ -58,18 +52,6 @@ class CMailGeneralPage : public CGeneralPage {
 
   std::vector<BoundText> texts_;
   LoginFields* login_ = nullptr;
-};
-
-/// The same for one class of service.
-template <class ServiceClass>
-class CMailGeneralPageOf : public CMailGeneralPage {
- protected:
-  using CMailGeneralPage::CMailGeneralPage;
-
- private:
-  ServiceClass& OwnService() const { return static_cast<ServiceClass&>(Service()); }
-  GeneralFields ReadFields() const override { return OwnService().GetGeneralFields(); }
-  bool WriteFields(const GeneralFields& fields) override { return OwnService().SetGeneralFields(fields); }
 };
 
 }  // namespace alerting

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
+#include "alerting/responses/message_field.h"
 #include "alerting/sheets/service_page.h"
-#include "alerting/ui/keyword_edit.h"
 
 namespace alerting {
 
@@ -17,14 +15,10 @@ class CPropPgDefaultMsg : public CServicePage {
   void OnInitDialog() override;
   void Exchange(ui::DataExchange& x) override;
   bool SaveFields() override;
-  void OnFields(CKeywordEdit& editor);
 
-  std::string subject_text_, body_text_;
-  CKeywordEdit subject_;
-  ui::Button subject_fields_;
+  MessageField subject_;
   ui::StaticText subject_note_;
-  CKeywordEdit body_;
-  ui::Button body_fields_;
+  MessageField body_;
   ui::ComboBox priority_;
 };
 

@@ -2,6 +2,7 @@
 #include "alerting/sheets/page_smtp_general.h"
 
 #include "alerting/frame/companions.h"
+#include "alerting/services/ntfy_service_smtp.h"
 
 namespace alerting {
 namespace {
@@ -13,13 +14,13 @@ constexpr std::size_t kMaxServer = 255;
 }  // namespace
 
 CPropPgSMTPGeneral::CPropPgSMTPGeneral()
-    : CMailGeneralPageOf(ctxhelp::kHelpSmtpGeneral),
+    : CMailGeneralPage(ctxhelp::kHelpSmtpGeneral, kGeneralOf<CNtfyServiceSMTP>),
       server_(*this, kIdServer, "&SMTP Server:"),
       browse_(*this, kIdBrowse, "..."),
       login_(*this) {
-  SetLayout(MailLayout("SMTP (Simple Message Transfer Protocol) is the standard Internet email service.",
-                       {ui::Row({ui::Field(server_), ui::Bare(browse_)}), ui::Field(login_.login),
-                        ui::Row({ui::Field(login_.password), ui::Field(login_.verify)})}));
+  SetLayout(FramesOver(
+      "SMTP (Simple Message Transfer Protocol) is the standard Internet email service.",
+      {ui::Row({ui::Field(server_), ui::Bare(browse_)}), ui::Field(login_.login), login_.PasswordRow()}));
   server_.SetLimit(kMaxServer);
   Bind(server_, server_name_, &GeneralFields::smtpServer);
   Bind(login_);
@@ -40,7 +41,7 @@ void CPropPgSMTPGeneral::OnBrowse() {
 /// The server heads the list that "..." offers, whether or not the service takes the values.
 bool CPropPgSMTPGeneral::SaveFields() {
   TheCompanions().agentui->AddIPAddressToMRUList(server_name_.c_str());
-  return CMailGeneralPageOf::SaveFields();
+  return CMailGeneralPage::SaveFields();
 }
 
 }  // namespace alerting

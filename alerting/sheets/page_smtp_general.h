@@ -3,14 +3,13 @@
 
 #include <string>
 
-#include "alerting/services/ntfy_service_smtp.h"
 #include "alerting/sheets/mail_general_page.h"
 
 namespace alerting {
 
 /// General page of Internet Mail: the mail server. The login, which this version does not show, is carried
 /// through a save.
-class CPropPgSMTPGeneral : public CMailGeneralPageOf<CNtfyServiceSMTP> {
+class CPropPgSMTPGeneral : public CMailGeneralPage {
  public:
   CPropPgSMTPGeneral();
 

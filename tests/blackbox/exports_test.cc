@@ -33,8 +33,13 @@ class QuietDesktop : public platform::ui::Desktop {
     if (!chosen.empty()) dialog.OnFileAccepted(chosen);
     return !chosen.empty();
   }
+  int RunModal(platform::ui::Modal& modal) override {
+    windows.push_back(modal.AsWindow().Label());
+    return platform::ui::kOk;
+  }
   std::set<std::string> titles;
   int messages = 0;
+  std::vector<std::string> windows;  ///< captions of those that were opened
   std::string chosen, asked;  ///< in file dialogs; "" cancels
 };
 
@@ -267,7 +272,8 @@ TEST_F(ExportsTest, EachServiceAnswersForItsType) {
   Add<ALRTNPAGESERVICEREC>(11, "Pager");
   Add<ALRTGENPORTSERVICEREC>(12, "Port");
   ASSERT_EQ(api_->DomainServiceGetCount(), 3);
-  EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, 1), 2) << "no sheet of that type yet: as cancelled";
+  for (int index = 0; index < 3; ++index) EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, index), 1);
+  EXPECT_EQ(desktop_.windows, (std::vector<std::string>{"Mail", "Pager", "Port"}));
   EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 0), 0) << "does not dial out";
   EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 1), 2) << "not there yet: as cancelled";
   EXPECT_EQ(api_->DomainServiceGetResponseType(0), 1);

@@ -58,7 +58,7 @@ TEST_F(ContextHelpTest, MissingDamagedAndCircularFilesSaySo) {
 }
 
 TEST(HelpPagesTest, EveryPageHasItsFileAndEveryFileItsPage) {
-  std::set<std::string> files = {"general", "dialog"};  // what pages are like
+  std::set<std::string> files = {"general", "mail-general", "dialog"};  // what pages are like
   std::set<int> numbers;
 #define HELP_PAGE(name, number, file)                                             \
   EXPECT_TRUE(files.insert(file).second&& numbers.insert(number).second) << file; \

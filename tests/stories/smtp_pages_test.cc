@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <set>
-
 #include "tests/stories/smtp_sheet_fixture.h"
 
 namespace stories {
@@ -11,8 +9,6 @@ using platform::ui::Key;
 using testing::ElementsAre;
 
 using SmtpPagesTest = SmtpSheetTest;
-using Labels = std::vector<std::string>;
-
 constexpr char kEnable[] = "&Enable Service";
 constexpr char kPriority[] = "P&riority:";
 constexpr char kSubjectFields[] = "<< Fie&lds...";
@@ -76,13 +72,6 @@ TEST_F(SmtpPagesTest, EveryAccessKeyReachesItsControl) {
     });
   }
   Open();
-}
-
-/// Presses F1 on each control; a text that two controls share is a control without a text of its own.
-void ExpectOwnHelp(Person& p, const Labels& controls) {
-  std::set<std::string> texts = {"", "There is no help on this item."};
-  for (const std::string& label : controls)
-    EXPECT_TRUE(texts.insert(p.HelpOn(label)).second) << "no help of its own on " << label;
 }
 
 TEST_F(SmtpPagesTest, EveryControlHasAHelpTextOfItsOwn) {

@@ -6,7 +6,6 @@
 
 #include "alerting/services/default_message.h"
 #include "alerting/services/ntfy_service_smtp.h"
-#include "alerting/sheets/sheet_service_smtp.h"
 #include "tests/stories/story_test.h"
 #include "tests/support/service_fixture.h"
 
@@ -42,7 +41,7 @@ class SmtpSheetTest : public StoryTest {
 
   void ExpectSheet(desktops::Script::Story story) { Script().ExpectWindow(kSheet, std::move(story)); }
   /// Runs the sheet; what is expected to appear was told before.
-  int Open() { return alerting::RunSheetSMTP(Service(), nullptr); }
+  int Open() { return Service().PropertySheet(nullptr); }
 
   alerting::CNtfyService& Service() { return *test_support::Find(service_); }
   const platform::GUID& ServiceId() const { return service_; }

@@ -4,6 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "desktops/scripted/person.h"
 #include "platform/ui/dialog.h"
 #include "tests/stories/test_desktop.h"
@@ -33,5 +35,14 @@ class StoryTest : public testing::Test {
  private:
   std::unique_ptr<TestDesktop> desktop_ = MakeTestDesktop();
 };
+
+using Labels = std::vector<std::string>;
+
+/// Presses F1 on each control; a text that two controls share is a control without a text of its own.
+inline void ExpectOwnHelp(desktops::Person& p, const Labels& controls) {
+  std::set<std::string> texts = {"", "There is no help on this item."};
+  for (const std::string& label : controls)
+    EXPECT_TRUE(texts.insert(p.HelpOn(label)).second) << "no help of its own on " << label;
+}
 
 }  // namespace stories
