@@ -8,6 +8,7 @@ namespace alerting {
 
 void InstallServiceUiTable() {
   ServiceUiTable table{};
+  table[kTypeMhs].property_sheet = RunSheet<CSheetServiceMHS>;
   table[kTypeMci].property_sheet = RunSheet<CSheetServiceMCI>;
   table[kTypeCompuServe].property_sheet = RunSheet<CSheetServiceCIS>;
   table[kTypeSmtp].property_sheet = RunSheet<CSheetServiceSMTP>;

@@ -8,6 +8,7 @@
 #include "alerting/sheets/enable_pages.h"
 #include "alerting/sheets/mail_pages.h"
 #include "alerting/sheets/page_default_message.h"
+#include "alerting/sheets/page_mhs_general.h"
 #include "alerting/sheets/page_smtp_general.h"
 #include "alerting/sheets/pager_pages.h"
 #include "alerting/sheets/service_sheet.h"
@@ -35,6 +36,7 @@ int RunSheet(CNtfyService& service, ui::Window* parent) {
 }
 
 // clang-format off
+struct CSheetServiceMHS : SheetOf<CPropPgMHSGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceMCI : SheetOf<CPropPgMCIGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceCIS : SheetOf<CPropPgCISGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceSMTP : SheetOf<CPropPgSMTPGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };

@@ -25,6 +25,7 @@ constexpr char kMessageTab[] = "Default Message";
 constexpr char kLogin[] = "&Login ID:";
 constexpr char kPassword[] = "&Password:";
 constexpr char kVerify[] = "&Verify Password:";
+constexpr char kDirectory[] = "&Server/Volume path (MHS Directory):";
 constexpr char kPhone[] = "P&hone #:";
 constexpr char kDelay[] = "&Delay:";
 constexpr char kLength[] = "Te&xt Length:";
@@ -65,6 +66,12 @@ Entries DialedLogin() {
   return entries;
 }
 
+Entries MhsLogin() {
+  Entries entries = Login(277);
+  entries.insert(entries.begin(), {kDirectory, "/mail/post", 16, 261});
+  return entries;
+}
+
 Entries Mail(std::size_t body, std::size_t subject_width) {
   return {{kSubject, "Alert", body + 1025, subject_width}, {kBody, "See to it at <Time>", body, 1025}};
 }
@@ -76,6 +83,7 @@ Entries Body(std::size_t offset, std::size_t width, const char* label = kHalfBod
 const std::vector<SheetRow>& Rows() {
   using namespace alerting;  // NOLINT
   static const std::vector<SheetRow> rows = {
+      {kTypeMhs, MhsLogin(), Mail(375, 257), 1661, {"..."}},
       {kTypeMci, DialedLogin(), Mail(140, 257), 1507},
       {kTypeCompuServe, DialedLogin(), Mail(140, 41), 1291},
       {kTypeSmtp, {{"&SMTP Server:", "mail.example.org", 16, 256}}, Mail(370, 257), 1656},
@@ -110,6 +118,7 @@ class ServiceSheetsTest : public StoryTest {
     Engine().Forget();
   }
   alerting::CNtfyService& Service() { return *test_support::Find(id_); }
+  test_support::FakeNetPath& NetPath() { return library_.netpath; }
   test_support::FailingEngine& Engine() { return *library_.engine; }
   const std::string& Directory() const { return library_.Directory(); }
 
@@ -303,6 +312,61 @@ TEST_F(ServiceSheetsTest, ASingleBlankIsShownAndSavedAsNothing) {
   EXPECT_EQ(FirstDifference(Bytes(), empty_texts), -1);
 }
 
+constexpr char kNoUniversalPath[] =
+    "Unable to create a UNC universal pathname to the file you selected.\nThe product may not operate "
+    "correctly as a "
+    "result.\nRefer to the implementation guide for additional information.";
+constexpr char kUseAnyway[] = "\nDo you wish to use the non-UNC path anyway?";
+
+TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
+  Seed(alerting::kTypeMhs);
+  NetPath().operation13 = 0;
+  NetPath().resolved = "/net/post";
+  Script().ExpectWindow(kSheet, [&](Person& p) {
+    p.PressBeside(kDirectory, "...");
+    EXPECT_EQ(p.Text(kDirectory), "");
+    EXPECT_FALSE(p.IsEnabled("Apply")) << "cancelled";
+    p.PressBeside(kDirectory, "...");
+    EXPECT_EQ(p.Text(kDirectory), "/net/post");
+    NetPath().universal = "\\\\server\\post";
+    p.PressBeside(kDirectory, "...");
+    EXPECT_EQ(p.Text(kDirectory), "\\\\server\\post");
+    p.Press("OK");
+  });
+  Script().ExpectFileDialog("Select directory for post office:", "");
+  Script().ExpectFileDialog("Select directory for post office:", "/tmp");
+  Script().ExpectMessage(kNoUniversalPath);
+  Script().ExpectFileDialog("Select directory for post office:", "/tmp");
+  EXPECT_EQ(Open(), kOk);
+  EXPECT_EQ(Bytes().substr(16, 15), std::string("\\\\server\\post\0", 15));
+}
+
+TEST_F(ServiceSheetsTest, APostOfficeWithoutUniversalFormIsStoredOnlyWhenThePersonAgrees) {
+  Seed(alerting::kTypeMhs);
+  NetPath().operation13 = 0;
+  Expect([&](Person& p) {
+    p.Type(kDirectory, "/mail/post");
+    p.Press("OK");
+    EXPECT_EQ(p.Text(kDirectory), "/mail/post");
+    EXPECT_THAT(Engine().Writes(), IsEmpty());
+    p.Type(kDirectory, "/mail/post");
+    p.Press("OK");
+  });
+  Script().ExpectMessage(std::string(kNoUniversalPath) + kUseAnyway, Answer::kNo);
+  Script().ExpectMessage(std::string(kNoUniversalPath) + kUseAnyway, Answer::kYes);
+  EXPECT_EQ(Open(), kOk);
+  EXPECT_THAT(Bytes(), HasSubstr("/mail/post"));
+}
+
+TEST_F(ServiceSheetsTest, SystemsWithoutAFolderDialogHaveNoButtonForIt) {
+  Seed(alerting::kTypeMhs);
+  Desk().SetSystemMajorVersion(3);
+  Open([](Person& p) {
+    EXPECT_FALSE(p.IsVisible("..."));
+    p.Press("Cancel");
+  });
+}
+
 struct LimitRow {
   std::uint32_t code;
   const char* label;
@@ -312,12 +376,17 @@ struct LimitRow {
 
 TEST_F(ServiceSheetsTest, FieldsHoldAsMuchAsTheirRecords) {
   using namespace alerting;  // NOLINT
-  const LimitRow rows[] = {
-      {kTypeMci, kPhone, '1', 25},        {kTypeCompuServe, kLogin, 'l', 48},
-      {kTypeMapi, kPassword, 'p', 8},     {kTypeMapi, "&Login ID or Profile Name:", 'l', 255},
-      {kTypeVim, kVerify, 'p', 48},       {kTypeNumeric, kDelay, '1', 2},
-      {kTypeAlpha, "&Company:", 'c', 64}, {kTypeAlpha, "&Location:", 'l', 2048},
-      {kTypeAlpha, "P&hone:", '1', 25},   {kTypeAlpha, kLength, '1', 3}};
+  const LimitRow rows[] = {{kTypeMhs, kDirectory, 'd', 260},
+                           {kTypeMci, kPhone, '1', 25},
+                           {kTypeCompuServe, kLogin, 'l', 48},
+                           {kTypeMapi, kPassword, 'p', 8},
+                           {kTypeMapi, "&Login ID or Profile Name:", 'l', 255},
+                           {kTypeVim, kVerify, 'p', 48},
+                           {kTypeNumeric, kDelay, '1', 2},
+                           {kTypeAlpha, "&Company:", 'c', 64},
+                           {kTypeAlpha, "&Location:", 'l', 2048},
+                           {kTypeAlpha, "P&hone:", '1', 25},
+                           {kTypeAlpha, kLength, '1', 3}};
   for (const LimitRow& row : rows) {
     SCOPED_TRACE(row.label);
     Seed(row.code);
