@@ -31,7 +31,7 @@ CPropPgMHSGeneral::CPropPgMHSGeneral()
       login_(*this) {
   SetLayout(FramesOver(
       "MHS (Message Handling System) is Novell's email system.",
-      {ui::Row({ui::Field(directory_), ui::Bare(browse_)}), ui::Field(login_.login), login_.PasswordRow()}));
+      {ui::Row({ui::Over(directory_), ui::Bare(browse_)}), ui::Field(login_.login), login_.PasswordRow()}));
   directory_.SetLimit(kMaxDirectory);
   Bind(directory_, directory_text_, &GeneralFields::mhsDirectory);
   Bind(login_);

@@ -312,6 +312,25 @@ TEST_F(ServiceSheetsTest, ASingleBlankIsShownAndSavedAsNothing) {
   EXPECT_EQ(FirstDifference(Bytes(), empty_texts), -1);
 }
 
+TEST_F(ServiceSheetsTest, TextsThatNoPageShowsAreEmptiedWithASave) {
+  const auto save = [this] {
+    Open([](Person& p) {
+      p.Check(kEnable, false);
+      p.Press("OK");
+    });
+    return Bytes().find("old") == std::string::npos;
+  };
+  Seed(alerting::kTypeWave);
+  Store<alertstore::ALRTWAVESERVICEREC>([](auto& record) {
+    record.text1.Assign("old");
+    record.text2.Assign("old");
+  });
+  EXPECT_TRUE(save());
+  Seed(alerting::kTypeTts);
+  Store<alertstore::ALRTTTSSERVICEREC>([](auto& record) { record.text.Assign("old"); });
+  EXPECT_TRUE(save());
+}
+
 constexpr char kNoUniversalPath[] =
     "Unable to create a UNC universal pathname to the file you selected.\nThe product may not operate "
     "correctly as a "
