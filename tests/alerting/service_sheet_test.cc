@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "alerting/sheets/service_sheet.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "alerting/services/default_message.h"
-#include "alerting/sheets/page_default_message.h"
+#include "alerting/sheets/service_sheets.h"
 #include "desktops/scripted/scripted_desktop.h"
 #include "platform/ui/edit.h"
 #include "tests/support/service_fixture.h"
@@ -123,23 +121,17 @@ constexpr char kNote[] =
     "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
     "truncated.";
 
-class MessageSheet : public CServiceSheet {
- public:
-  explicit MessageSheet(CNtfyService& service) : CServiceSheet("Sheet", nullptr) {
-    Assemble(service, {&page_});
-  }
-
- private:
-  CPropPgDefaultMsg page_;
-};
-
 /// What sets a type's default message page apart from the others'.
 class DefaultMessagePageTest : public SheetTest {
  protected:
   /// Runs the page on a new service of the type; the service's default message after it.
-  DefaultMessage MessageAfter(std::uint32_t code, desktops::Script::Story story) {
+  template <class Page = CPropPgDefaultMsg>
+  DefaultMessage MessageAfter(std::uint32_t code, desktops::Script::Story story,
+                              const DefaultMessage& before = {}) {
     CNtfyService& service = Make(code);
-    MessageSheet sheet(service);
+    service.SetDefaultMessage(before);
+    service.SaveRecords();
+    SheetOf<Page> sheet(service, "Sheet", nullptr, 0);
     Run(sheet, std::move(story));
     DefaultMessage message;
     service.GetDefaultMessage(message);
@@ -164,6 +156,27 @@ TEST_F(DefaultMessagePageTest, MciBodiesAreBrokenIntoLines) {
     p.Press("OK");
   });
   EXPECT_EQ(message.body, std::string(79, 'b') + "\r\n" + std::string(21, 'b'));
+}
+
+TEST_F(DefaultMessagePageTest, ABodyAloneIsSavedWithoutSubjectAndWithThePriorityItHad) {
+  DefaultMessage before;
+  before.body = std::string(300, 'b');
+  before.subject = "%s";
+  before.subjectKeywords[0] = 5;
+  before.priority = 2;
+  const DefaultMessage message = MessageAfter<CPropPgHalfDefaultMsg>(
+      kTypeSnmp,
+      [](Person& p) {
+        EXPECT_EQ(p.Text("&Edit Default Message:"), std::string(255, 'b'));
+        p.Type("&Edit Default Message:", "At <Time>");
+        p.Press("OK");
+      },
+      before);
+  EXPECT_EQ(message.body, "At %s");
+  EXPECT_EQ(message.bodyKeywords[0], 5u);
+  EXPECT_EQ(message.subject, "");
+  EXPECT_EQ(message.subjectKeywords[0], 0u);
+  EXPECT_EQ(message.priority, 2u);
 }
 
 }  // namespace
