@@ -13,12 +13,13 @@ namespace alertstore {
 
 struct Copied {
   std::size_t records = 0;  ///< in all stores
-  std::string
-      set_aside;  ///< where a damaged database was put that had to make room; empty when there was none
+  /// Where a damaged database was put that had to make room; empty when there was none.
+  std::string set_aside;
 };
 
 /// Copies the records as they are at one moment into a single file, which replaces an older copy of that name when it is
-/// whole. kNotFound when there is no database, kInvalidArgument when the name stands for something else than a copy.
+/// whole. kNotFound when there is no database, kCorrupt when it is damaged, kInvalidArgument when the name stands for
+/// something else than a copy.
 Status BackUp(const std::string& file, Copied& copied);
 
 /// Puts the records of a copy in place of those that are there, all in one step; consoles see them with their next read.

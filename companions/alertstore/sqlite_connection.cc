@@ -21,8 +21,22 @@ constexpr auto kBusyLimit = std::chrono::seconds(5);
 constexpr useconds_t kPollMicroseconds = 100;
 constexpr int kFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE | SQLITE_OPEN_NOFOLLOW;
 
-// The file as a URI, whose "?", "#" and "%" have a meaning of their own.
-std::string UriOf(const std::string& file) {
+Status CheckFiles(const std::string& file) {
+  platform::FileError error;
+  for (const char* suffix : {"", "-wal", "-shm", "-journal"})
+    if (!platform::CheckPrivateFile(file + suffix, error)) return Fail(error);
+  return kOk;
+}
+
+Status JournalCannotBeRead(const std::string& file) {
+  return Fail(kReadOnly,
+              file + "-wal holds the last records, and can be read only where files can be made beside it");
+}
+
+}  // namespace
+
+// "?", "#" and "%" have a meaning of their own in a URI.
+std::string SnapshotUri(const std::string& file) {
   std::string uri = "file:";
   for (const char c : file) {
     if (c == '?')
@@ -34,17 +48,8 @@ std::string UriOf(const std::string& file) {
     else
       uri += c;
   }
-  return uri;
+  return uri + "?immutable=1";
 }
-
-Status CheckFiles(const std::string& file) {
-  platform::FileError error;
-  for (const char* suffix : {"", "-wal", "-shm", "-journal"})
-    if (!platform::CheckPrivateFile(file + suffix, error)) return Fail(error);
-  return kOk;
-}
-
-}  // namespace
 
 Status Connection::Open(const std::string& file, std::unique_ptr<Connection>& connection) {
   if (const Status status = CheckFiles(file); status != kOk) return status;
@@ -52,8 +57,8 @@ Status Connection::Open(const std::string& file, std::unique_ptr<Connection>& co
   Status status = opened->OpenFile();
   // Where the journal's files cannot be made the database can be read as long as it has no journal.
   const bool may_make = access(platform::ParentOf(file).c_str(), W_OK) == 0;
-  if (status != kOk && status != kCorrupt && !may_make && !opened->HasJournal())
-    status = opened->OpenSnapshot();
+  if (status != kOk && status != kCorrupt && !may_make)
+    status = opened->HasJournal() ? JournalCannotBeRead(file) : opened->OpenSnapshot();
   if (status == kOk) connection = std::move(opened);
   return status;
 }
@@ -67,7 +72,7 @@ Status Connection::OpenFile() {
 Status Connection::OpenSnapshot() {
   snapshot_ = true;
   MarkOf(file_, mark_);
-  const Status status = OpenUri(UriOf(file_) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  const Status status = OpenUri(SnapshotUri(file_), SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   return status == kOk ? Configure() : status;
 }
 
@@ -104,8 +109,8 @@ Status Connection::CheckVersion() {
   return Fail(kCorrupt, file_ + " was made by a newer version of this program: install that one");
 }
 
-// Two processes that make
-// the database at once get in each other's way without SQLite calling the busy handler, hence the loop.
+// Two processes that make the database at once get in each other's way without SQLite calling the busy handler, hence
+// the loop.
 Status Connection::ConfigureForWriting() {
   for (const char* pragma : {kPageSizePragma, "PRAGMA journal_mode=WAL"}) {
     Status status = RunSql(Get(), pragma);

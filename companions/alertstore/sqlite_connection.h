@@ -12,8 +12,12 @@
 
 namespace alertstore {
 
-/// Keeps a whole record in one page. Counts only for a file without pages.
+/// Keeps a whole record in one page.
+inline constexpr int kPageSize = 8192;
+/// Counts only for a file without pages.
 inline constexpr char kPageSizePragma[] = "PRAGMA page_size=8192";
+/// A file that nobody writes to, as a URI: it is read without locks, and nothing is made beside it.
+std::string SnapshotUri(const std::string& file);
 /// The pages of the database that one console keeps in memory, in KiB: the records of some ten thousand services.
 inline constexpr int kPageCacheKiB = 64 * 1024;
 

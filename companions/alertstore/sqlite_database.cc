@@ -74,6 +74,10 @@ Database::~Database() {
   limiter_.join();
 }
 
+std::unique_lock<std::mutex> Database::LockToClose() {
+  return getpid() == process_ ? std::unique_lock(mutex_) : std::unique_lock<std::mutex>();
+}
+
 Status Database::PrepareDirectory() {
   platform::FileError error;
   return platform::PreparePrivateDirectory(directory_, error) ? kOk : Fail(error);
@@ -128,7 +132,7 @@ Status Database::CreateMissing(const StoreSchema& schema) {
     int version = 0;
     if (const Status status = ReadLayoutVersion(Connection(), version); status != kOk) return status;
     const Status status =
-        version == kLayoutVersion ? kOk : Transaction([this] { return CreateLayout(Connection()); });
+        version >= kLayoutVersion ? kOk : Transaction([this] { return CreateLayout(Connection()); });
     if (status != kOk) return status;
     writable_generation_ = generation_;
   }

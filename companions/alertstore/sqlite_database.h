@@ -31,6 +31,8 @@ class Database {
   Database& operator=(const Database&) = delete;
 
   std::mutex& Mutex() { return mutex_; }
+  /// The mutex for a table that ends. Not locked in a forked child, where the thread that had it may not exist.
+  std::unique_lock<std::mutex> LockToClose();
   sqlite3* Connection() { return connection_ ? connection_->Get() : nullptr; }
   /// Counts the connections: what was learned through another one may be wrong now.
   int Generation() const { return generation_; }

@@ -40,8 +40,8 @@ Status SqliteEngine::Open(const StoreSchema& schema, std::unique_ptr<Table>& tab
     const std::lock_guard lock(mutex_);
     std::shared_ptr<Database> database;
     if (const Status status = OpenDatabase(database); status != kOk) return status;
-    const std::lock_guard database_lock(database->Mutex());
     auto opened = std::make_unique<SqliteTable>(database, schema);
+    const std::lock_guard database_lock(database->Mutex());  // given back before a table that is refused ends
     if (const Status status = opened->Check(); status != kOk) return status;
     table = std::move(opened);
     return kOk;

@@ -49,6 +49,8 @@ SqliteTable::SqliteTable(std::shared_ptr<Database> database, const StoreSchema& 
     finds_.push_back(std::make_unique<KeyedFind>(schema, selector));
 }
 
+SqliteTable::~SqliteTable() { closing_ = database_->LockToClose(); }
+
 template <class Operation>
 Status SqliteTable::Run(Operation operation) {
   return Guarded([&] {

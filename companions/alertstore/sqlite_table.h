@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,7 @@ namespace alertstore {
 class SqliteTable : public Table {
  public:
   SqliteTable(std::shared_ptr<Database> database, const StoreSchema& schema);
+  ~SqliteTable() override;
 
   /// A status when the store's table is there and cannot be read. With the database to itself.
   Status Check();
@@ -62,6 +64,8 @@ class SqliteTable : public Table {
   const StoreSchema schema_;
   FileLock lock_;
 
+  // Held while the statements behind it go: other threads use the connection that they belong to.
+  std::unique_lock<std::mutex> closing_;
   Statement scan_;
   std::vector<std::unique_ptr<KeyedFind>> finds_;
   Statement retrieve_;
