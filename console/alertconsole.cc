@@ -5,11 +5,13 @@
 #include <QMessageBox>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include "console/alertconsole_library.h"
 #include "console/alertconsole_samples.h"
 #include "console/alertconsole_screenshots.h"
 #include "console/alertconsole_window.h"
+#include "desktops/qt/offscreen.h"
 #include "desktops/qt/qt_desktop.h"
 
 namespace {
@@ -54,7 +56,9 @@ int main(int argc, char** argv) {
   if (!options.data.empty()) setenv("ALERTING_DATA", options.data.c_str(), 1);
   if (!options.screenshots.empty() && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
 
+  std::optional<desktops::qt::OffscreenScreen> screen(std::in_place);
   QApplication application(argc, argv);
+  screen.reset();
   desktops::QtDesktop desktop;
   try {
     return Run(options);

@@ -6,22 +6,31 @@
 #include <QVBoxLayout>
 
 #include "desktops/qt/guard.h"
+#include "desktops/qt/icons.h"
 #include "desktops/qt/texts.h"
 
 namespace desktops::qt {
 
 using platform::ui::Change;
+using platform::ui::RadioGroup;
 
 namespace {
 
 // "..." and other short captions make small buttons, which stand beside a field.
 constexpr int kShortCaption = 3;
 
-QWidget* MakeRadioBox(const platform::ui::RadioGroup& model, QWidget* parent) {
-  QWidget* box = model.Label().empty() ? new QWidget(parent) : new QGroupBox(ToQt(model.Label()), parent);
-  auto* column = new QVBoxLayout(box);
-  if (model.Label().empty()) column->setContentsMargins({});
-  for (const std::string& option : model.Options()) column->addWidget(new QRadioButton(ToQt(option), box));
+// The stretch at the end keeps the options together where there is more room.
+QWidget* MakeRadioBox(const RadioGroup& model, QWidget* parent) {
+  const RadioGroup::Arrangement arrangement = model.GetArrangement();
+  const bool framed = !model.Label().empty() && arrangement != RadioGroup::Arrangement::kLabelLeft;
+  QWidget* box = framed ? new QGroupBox(ToQt(model.Label()), parent) : new QWidget(parent);
+  const bool upright = arrangement == RadioGroup::Arrangement::kUpright;
+  auto* line = new QBoxLayout(upright ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight, box);
+  if (!framed) line->setContentsMargins({});
+  // So that a label's access key leads to the options; led to one of them, it would choose it.
+  if (!framed) box->setFocusPolicy(Qt::ClickFocus);
+  for (const std::string& option : model.Options()) line->addWidget(new QRadioButton(ToQt(option), box));
+  line->addStretch();
   return box;
 }
 
@@ -52,10 +61,20 @@ void ButtonAdapter::Refresh(Change change) {
 }
 
 void ButtonAdapter::RefreshLabel() {
+  if (model_.Picture().Width() > 0) return ShowPicture();
   button_->setText(ToQt(model_.Label()));
   const bool is_short = button_->text().size() <= kShortCaption && button_->text() != QLatin1String("OK");
   const int width = button_->fontMetrics().horizontalAdvance(button_->text()) + 20;
   button_->setMaximumWidth(is_short ? width : QWIDGETSIZE_MAX);
+}
+
+void ButtonAdapter::ShowPicture() {
+  const QPixmap picture = QPixmap::fromImage(ToImage(model_.Picture()));
+  button_->setText({});
+  button_->setIcon(picture);
+  button_->setIconSize(picture.size());
+  const char key = platform::ui::AccessKey(model_.Label());
+  if (key != 0) button_->setShortcut(QKeySequence(QStringLiteral("Alt+") + QLatin1Char(key)));
 }
 
 CheckBoxAdapter::CheckBoxAdapter(platform::ui::CheckBox& model, QWidget* parent)
@@ -88,6 +107,8 @@ QWidget* RadioGroupAdapter::FirstFocus() const {
   return chosen != nullptr ? chosen : OwnedWidget();
 }
 
+QWidget* RadioGroupAdapter::LabelBuddy() const { return OwnedWidget(); }
+
 QWidget* RadioGroupAdapter::LastFocus() const {
   return buttons_->buttons().isEmpty() ? OwnedWidget() : buttons_->buttons().last();
 }
@@ -105,6 +126,7 @@ void RadioGroupAdapter::ShowChoice() {
   for (QAbstractButton* button : buttons_->buttons())
     button->setChecked(buttons_->id(button) == model_.Index());
   buttons_->setExclusive(true);
+  if (LabelWidget() != nullptr) OwnedWidget()->setFocusProxy(FirstFocus());
 }
 
 }  // namespace desktops::qt

@@ -27,6 +27,7 @@ class ButtonAdapter : public ControlAdapter {
  private:
   void Refresh(platform::ui::Change change) override;
   void RefreshLabel() override;
+  void ShowPicture();
 
   platform::ui::Button& model_;
   QPushButton* button_;
@@ -44,13 +45,15 @@ class CheckBoxAdapter : public ControlAdapter {
   QCheckBox* box_;
 };
 
-/// A framed box with the label as its caption around the options; without a label the options alone.
+/// A framed box with the label as its caption around the options; the options alone where there is no label or
+/// it stands on their left.
 class RadioGroupAdapter : public ControlAdapter {
  public:
   RadioGroupAdapter(platform::ui::RadioGroup& model, QWidget* parent);
 
   QWidget* FirstFocus() const override;
   QWidget* LastFocus() const override;
+  QWidget* LabelBuddy() const override;
 
  private:
   void Refresh(platform::ui::Change change) override;

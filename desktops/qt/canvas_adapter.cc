@@ -55,8 +55,6 @@ class QtPainter : public platform::ui::Painter {
   const QWidget& styled_;
 };
 
-bool IsArrow(int key) { return key == Qt::Key_Left || key == Qt::Key_Right; }
-
 }  // namespace
 
 CanvasWidget::CanvasWidget(Canvas& model, QWidget* parent) : QAbstractScrollArea(parent), model_(model) {
@@ -110,15 +108,21 @@ void CanvasWidget::resizeEvent(QResizeEvent*) {
   Guarded([&] { model_.OnSize(viewport()->width(), viewport()->height()); });
 }
 
-void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  const QPoint point = event->position().toPoint();
-  Guarded([&] { model_.OnMouseUp(point.x(), point.y()); });
+void CanvasWidget::Tell(const QMouseEvent& event, void (Canvas::*on_mouse)(int, int)) {
+  if (event.button() != Qt::LeftButton) return;
+  const QPoint point = event.position().toPoint();
+  Guarded([&] { (model_.*on_mouse)(point.x(), point.y()); });
 }
+
+void CanvasWidget::mousePressEvent(QMouseEvent* event) { Tell(*event, &Canvas::OnMouseDown); }
+
+void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) { Tell(*event, &Canvas::OnMouseUp); }
+
+void CanvasWidget::mouseDoubleClickEvent(QMouseEvent* event) { Tell(*event, &Canvas::OnDoubleClick); }
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
   if (const auto key = KeyOf(*event)) Guarded([&] { model_.OnKeyDown(*key); });
-  event->setAccepted(IsArrow(event->key()));
+  event->setAccepted(MovesCaret(event->key()));
 }
 
 void CanvasWidget::keyReleaseEvent(QKeyEvent* event) {

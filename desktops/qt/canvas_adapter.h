@@ -17,13 +17,15 @@ class CanvasWidget : public QAbstractScrollArea {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 
  private:
   void OnScrollAction(int action);
-  void TellSize();
+  void Tell(const QMouseEvent& event, void (platform::ui::Canvas::*on_mouse)(int, int));
 
   platform::ui::Canvas& model_;
 };

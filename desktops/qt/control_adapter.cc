@@ -34,7 +34,7 @@ void ControlAdapter::Start() {
 
 void ControlAdapter::SetLabelWidget(QLabel* label) {
   label_ = label;
-  label_->setBuddy(FirstFocus());
+  label_->setBuddy(LabelBuddy());
   OnWindowChanged(control_, Change::kLabel);
   RefreshShown();
 }

@@ -44,6 +44,8 @@ class ControlAdapter : public QObject, public platform::ui::WindowObserver, publ
   /// Where the keyboard focus goes, and the last of the adapter's widgets in tab order.
   virtual QWidget* FirstFocus() const { return widget_; }
   virtual QWidget* LastFocus() const { return widget_; }
+  /// What the label's access key leads to.
+  virtual QWidget* LabelBuddy() const { return FirstFocus(); }
   /// Moves the keyboard focus onto the control.
   virtual void TakeFocus();
 

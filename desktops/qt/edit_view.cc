@@ -46,10 +46,15 @@ bool LineField::event(QEvent* event) {
   return handled;
 }
 
+namespace {
+constexpr int kLeastLines = 8;  // a message of fewer is read through a slit
+}
+
 TextField::TextField(QWidget* parent) : QPlainTextEdit(parent) {
   setTabChangesFocus(true);
   setUndoRedoEnabled(false);
-  setMinimumHeight(fontMetrics().lineSpacing() * 4);
+  const int margins = static_cast<int>(2 * document()->documentMargin());
+  setMinimumHeight(fontMetrics().lineSpacing() * kLeastLines + margins + 2 * frameWidth());
 }
 
 // Replaces the part that differs, so that the view neither jumps nor flickers while someone types.

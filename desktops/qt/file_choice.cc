@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <utility>
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/texts.h"
@@ -50,20 +51,38 @@ void FileChoice::SetStart() {
   const QFileInfo file(ToQt(dialog_.initial_path));
   if (file.isAbsolute() || dialog_.initial_directory.empty()) setDirectory(file.absolutePath());
   selectFile(file.fileName());
+  initial_ = directory().absoluteFilePath(file.fileName());
 }
 
 void FileChoice::AddPreview() {
   preview_ = std::make_unique<FormView>(dialog_, this);
   preview_->LeaveEndingToWindow();
-  preview_->setFixedSize(dialog_.PreviewWidth(), dialog_.PreviewHeight());
-  for (const platform::ui::PlacedControl& placed : dialog_.Preview()) {
-    QWidget* widget = preview_->Add(*placed.control).OwnedWidget();
-    widget->setGeometry(placed.x, placed.y, placed.width, placed.height);
-  }
+  preview_->setMinimumWidth(dialog_.PreviewWidth());
+  preview_->setFixedHeight(dialog_.PreviewHeight());
+  PlaceControls();
   preview_->Start();
   if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
     grid->addWidget(preview_.get(), grid->rowCount(), 0, 1, grid->columnCount());
   }
+}
+
+void FileChoice::PlaceControls() {
+  for (const platform::ui::PlacedControl& placed : dialog_.Preview()) {
+    QWidget* widget = preview_->Add(*placed.control).OwnedWidget();
+    widget->setGeometry(placed.x, placed.y, placed.width, placed.height);
+  }
+}
+
+void FileChoice::resizeEvent(QResizeEvent* event) {
+  QFileDialog::resizeEvent(event);
+  Guarded([&] { dialog_.OnLayout({0, 0, width(), height()}); });
+  if (preview_ != nullptr) PlaceControls();
+}
+
+// The file list is read later and may not have the file; the name field has it at once.
+void FileChoice::showEvent(QShowEvent* event) {
+  QFileDialog::showEvent(event);
+  if (!initial_.isEmpty()) Highlight(std::exchange(initial_, {}));
 }
 
 void FileChoice::Highlight(const QString& path) {

@@ -14,15 +14,21 @@ class FileChoice : public QFileDialog {
  public:
   FileChoice(platform::ui::FileDialog& dialog, QWidget* parent);
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+
  private:
   /// Tells the dialog that another file stands in the name field.
   void Highlight(const QString& path);
   void SetFilters();
   void SetStart();
   void AddPreview();
+  void PlaceControls();
 
   platform::ui::FileDialog& dialog_;
   std::unique_ptr<FormView> preview_;
+  QString initial_;  // until it was told
 };
 
 }  // namespace desktops::qt

@@ -23,6 +23,10 @@ using Kind = LayoutNode::Kind;
 
 // Narrower forms wrap their notes to columns that are hard to read.
 constexpr int kLeastWidth = 340;
+// A field's frame, and room for the caret.
+constexpr int kFieldPadding = 14;
+// Buttons that stand together are alike; longer captions get the room that they need.
+constexpr int kButtonCharacters = 12;
 
 /// Gives a row or column of a grid its share of the room only while the widget in it is shown; a grid would
 /// keep the room free for a hidden one.
@@ -62,6 +66,9 @@ class Builder {
 
  private:
   QLayout* Row(const std::vector<LayoutNode>& children, bool first_labelled);
+  QLayout* Grid(const std::vector<LayoutNode>& rows);
+  int AddToGrid(QGridLayout& grid, int row, int column, const LayoutNode& child);
+  QLayout* Buttons(const std::vector<LayoutNode>& buttons, QBoxLayout::Direction direction);
   void AddToColumn(QGridLayout& grid, int row, const LayoutNode& child, bool only_buttons);
   int AddToRow(QGridLayout& grid, int column, const LayoutNode& child, bool labelled, bool tall);
   void Add(QGridLayout& grid, const LayoutNode& node, int row, int column, int span, Qt::Alignment alignment);
@@ -70,6 +77,7 @@ class Builder {
   QLabel* Label(Control& control);
   QGroupBox* Group(const LayoutNode& node);
   QLabel* Note(const std::string& text);
+  void LimitWidth(const LayoutNode& node);
   void Share(QGridLayout& grid, Qt::Orientation direction, int index, const LayoutNode& node, int share);
 
   FormView& view_;
@@ -131,6 +139,12 @@ void Builder::AddOver(QGridLayout& grid, const LayoutNode& node, int row, int co
   AddEditor(grid, *node.control, row + 1, column, span, {});
 }
 
+void Builder::LimitWidth(const LayoutNode& node) {
+  if (node.characters == 0) return;
+  QWidget* widget = view_.Add(*node.control).OwnedWidget();
+  widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * node.characters + kFieldPadding);
+}
+
 void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column, int span,
                   Qt::Alignment alignment) {
   switch (node.kind) {
@@ -139,6 +153,15 @@ void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column
       break;
     case Kind::kRow:
       grid.addLayout(Row(node.children, true), row, column, 1, span);
+      break;
+    case Kind::kGrid:
+      grid.addLayout(Grid(node.children), row, column, 1, span);
+      break;
+    case Kind::kButtonColumn:
+      grid.addLayout(Buttons(node.children, QBoxLayout::TopToBottom), row, column, 1, span);
+      break;
+    case Kind::kButtonRow:
+      grid.addLayout(Buttons(node.children, QBoxLayout::LeftToRight), row, column, 1, span);
       break;
     case Kind::kGroup:
       grid.addWidget(Group(node), row, column, 1, span);
@@ -150,6 +173,7 @@ void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column
     case Kind::kOver:
     case Kind::kBare:
       AddEditor(grid, *node.control, row, column, span, alignment);
+      LimitWidth(node);
       break;
     case Kind::kStretch:
       break;
@@ -193,6 +217,40 @@ QLayout* Builder::Column(const std::vector<LayoutNode>& children) {
   grid->setColumnStretch(1, 1);
   if (!filled) grid->setRowStretch(row, 1);
   return grid;
+}
+
+// A label and its field take two columns, so that those of all rows stand one under the other.
+int Builder::AddToGrid(QGridLayout& grid, int row, int column, const LayoutNode& child) {
+  if (HasLabelOnLeft(child)) grid.addWidget(Label(*child.control), row, column++);
+  Add(grid, child, row, column, 1, child.characters > 0 ? Qt::AlignLeft : Qt::Alignment());
+  if (IsWide(child) && child.characters == 0) grid.setColumnStretch(column, child.weight);
+  return column + 1;
+}
+
+QLayout* Builder::Grid(const std::vector<LayoutNode>& rows) {
+  auto* grid = new QGridLayout;
+  for (int row = 0; row < static_cast<int>(rows.size()); ++row) {
+    const LayoutNode& node = rows[static_cast<std::size_t>(row)];
+    int column = 0;
+    if (node.kind == Kind::kRow) {
+      for (const LayoutNode& child : node.children) column = AddToGrid(*grid, row, column, child);
+    } else {
+      AddToGrid(*grid, row, column, node);
+    }
+  }
+  return grid;
+}
+
+QLayout* Builder::Buttons(const std::vector<LayoutNode>& buttons, QBoxLayout::Direction direction) {
+  auto* line = new QBoxLayout(direction);
+  if (direction == QBoxLayout::LeftToRight) line->addStretch();
+  for (const LayoutNode& node : buttons) {
+    QWidget* button = view_.Add(*node.control).OwnedWidget();
+    button->setMinimumWidth(button->fontMetrics().averageCharWidth() * kButtonCharacters + kFieldPadding);
+    line->addWidget(button);
+  }
+  if (direction == QBoxLayout::TopToBottom) line->addStretch();
+  return line;
 }
 
 // Places one child of a row from `column` on, in the lower of two lines: the upper is for labels above.

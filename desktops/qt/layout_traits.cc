@@ -34,8 +34,9 @@ bool IsTallControl(const Control& control) {
 }  // namespace
 
 bool CarriesLabel(const Control& control) {
-  return Is<Button>(control) || Is<CheckBox>(control) || Is<StaticText>(control) || Is<RadioGroup>(control) ||
-         Is<Spin>(control);
+  if (const auto* group = dynamic_cast<const RadioGroup*>(&control))
+    return group->GetArrangement() != RadioGroup::Arrangement::kLabelLeft;
+  return Is<Button>(control) || Is<CheckBox>(control) || Is<StaticText>(control) || Is<Spin>(control);
 }
 
 bool HasLabelOnLeft(const LayoutNode& node) {
@@ -45,14 +46,15 @@ bool HasLabelOnLeft(const LayoutNode& node) {
 bool IsButton(const LayoutNode& node) { return node.control != nullptr && Is<Button>(*node.control); }
 
 bool IsWide(const LayoutNode& node) {
-  if (node.control != nullptr) return IsWideControl(*node.control);
+  if (node.control != nullptr) return node.characters == 0 && IsWideControl(*node.control);
   if (node.kind == Kind::kNote || node.kind == Kind::kGroup) return true;
   return std::any_of(node.children.begin(), node.children.end(), IsWide);
 }
 
 bool IsTall(const LayoutNode& node) {
   if (node.control != nullptr) return IsTallControl(*node.control);
-  const bool downwards = node.kind == Kind::kColumn || node.kind == Kind::kGroup;
+  const bool downwards =
+      node.kind == Kind::kColumn || node.kind == Kind::kGroup || node.kind == Kind::kButtonColumn;
   return std::any_of(node.children.begin(), node.children.end(), [&](const LayoutNode& child) {
     return IsTall(child) || (downwards && child.kind == Kind::kStretch);
   });

@@ -1,9 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/list_adapter.h"
 
+#include <QScrollBar>
+#include <QTreeWidget>
+
 namespace desktops::qt {
 
 using platform::ui::Change;
+
+void ShowAllColumns(QTreeWidget& list) {
+  int width = list.verticalScrollBar()->sizeHint().width() + 2 * list.frameWidth();
+  for (int i = 0; i < list.columnCount(); ++i) width += list.columnWidth(i);
+  list.setMinimumWidth(width);
+}
 
 void ListAdapter::Refresh(Change change) {
   if (change == Change::kCurrent && !stale_) ShowCurrent();

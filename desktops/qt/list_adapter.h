@@ -3,7 +3,12 @@
 
 #include "desktops/qt/control_adapter.h"
 
+class QTreeWidget;
+
 namespace desktops::qt {
+
+/// Makes the list so wide that it shows its columns without being scrolled.
+void ShowAllColumns(QTreeWidget& list);
 
 /// What the adapters of lists share. Programs add items one by one, each with a report of its own: the widget
 /// is filled at once when it is made, and later once for all that was added before it is painted again.

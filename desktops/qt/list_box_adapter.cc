@@ -32,7 +32,7 @@ ListBoxAdapter::ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent)
 void ListBoxAdapter::Fill() {
   const QSignalBlocker quiet(list_);
   list_->clear();
-  int columns = 1;
+  int columns = 1 + static_cast<int>(model_.TabPositions().size());
   for (int i = 0; i < model_.Count(); ++i) {
     const QString text = ToQt(model_.ItemText(i));
     const QStringList cells = model_.TabStops() ? text.split('\t') : QStringList{text};
@@ -42,8 +42,18 @@ void ListBoxAdapter::Fill() {
   list_->setColumnCount(columns);
   for (int i = 0; i < columns; ++i) {
     list_->resizeColumnToContents(i);
-    list_->setColumnWidth(i, list_->columnWidth(i) + kColumnGap);
+    list_->setColumnWidth(i, std::max(list_->columnWidth(i) + kColumnGap, AskedWidth(i)));
   }
+  if (!model_.TabPositions().empty()) ShowAllColumns(*list_);
+}
+
+// The width from one tab stop to the next; 0 for the last column, which has none behind it.
+int ListBoxAdapter::AskedWidth(int column) const {
+  const std::vector<int>& stops = model_.TabPositions();
+  const auto index = static_cast<std::size_t>(column);
+  if (index >= stops.size()) return 0;
+  const int start = index == 0 ? 0 : stops[index - 1];
+  return (stops[index] - start) * list_->fontMetrics().averageCharWidth();
 }
 
 void ListBoxAdapter::ShowCurrent() {

@@ -8,7 +8,8 @@
 
 namespace desktops::qt {
 
-/// A list box; where its texts have tab stops, each part is a column as wide as its widest text.
+/// A list box; where its texts have tab stops, each part is a column as wide as its widest text and as the
+/// positions of the stops ask.
 class ListBoxAdapter : public ListAdapter {
  public:
   ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent);
@@ -17,6 +18,7 @@ class ListBoxAdapter : public ListAdapter {
   void Fill() override;
   void ShowCurrent() override;
   void OnSelectionChanged();
+  int AskedWidth(int column) const;
 
   platform::ui::ListBox& model_;
   QTreeWidget* list_;

@@ -86,6 +86,7 @@ void ListViewAdapter::Fill() {
     const int title = report_->header()->fontMetrics().horizontalAdvance(titles[index]);
     report_->setColumnWidth(index++, title + column.margin + kSectionPadding);
   }
+  if (index > 0) ShowAllColumns(*report_);
   for (int row = 0; row < model_.RowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < titles.size(); ++column) cells << ToQt(model_.Cell(row, column));

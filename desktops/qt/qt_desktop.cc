@@ -13,6 +13,7 @@
 #include "desktops/qt/file_choice.h"
 #include "desktops/qt/guard.h"
 #include "desktops/qt/icons.h"
+#include "desktops/qt/input_gate.h"
 #include "desktops/qt/sheet_window.h"
 #include "desktops/qt/sound.h"
 #include "desktops/qt/texts.h"
@@ -84,7 +85,8 @@ QtDesktop::QtDesktop() : before_(SetCurrent(this)) {}
 QtDesktop::~QtDesktop() { SetCurrent(before_); }
 
 int QtDesktop::Exec(QDialog& window) {
-  wait_cursor_.Suspend();
+  const qt::WaitCursorCount::Uncovered uncovered(wait_cursor_);
+  const qt::InputGate taken(true);
   return window.exec();
 }
 
@@ -127,8 +129,9 @@ bool QtDesktop::ChooseFolder(FolderDialog& dialog) {
 
 void QtDesktop::Sleep(std::uint32_t milliseconds) {
   QEventLoop loop;
+  const qt::InputGate shut(false);
   QTimer::singleShot(static_cast<int>(milliseconds), &loop, &QEventLoop::quit);
-  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  loop.exec();
 }
 
 void QtDesktop::Beep() { QApplication::beep(); }

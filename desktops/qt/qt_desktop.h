@@ -22,7 +22,7 @@ class QtDesktop : public platform::ui::Desktop {
   void ShowWaitCursor() override { wait_cursor_.Show(); }
   void HideWaitCursor() override { wait_cursor_.Hide(); }
   void RestoreWaitCursor() override { wait_cursor_.Restore(); }
-  /// Goes on painting and running what was posted; a person's input waits.
+  /// Goes on painting and running what was posted; a person's input is lost.
   void Sleep(std::uint32_t milliseconds) override;
   void Beep() override;
   std::optional<std::string> ClipboardText() override;

@@ -34,6 +34,10 @@ class QtPerson : public Person {
   void DoubleClickItem(const std::string& label, const std::string& item) override;
   void ClickRow(const std::string& label, int row) override;
   void DoubleClickRow(const std::string& label, int row) override;
+  void ClickAt(const std::string& label, int x, int y) override;
+  void DoubleClickAt(const std::string& label, int x, int y) override;
+  void DragOver(const std::string& label, int x, int y, int to_x, int to_y) override;
+  void ScrollCanvas(const std::string& label, platform::ui::Canvas::Scroll what, int thumb) override;
   void StepSpin(const std::string& buddy_label, int direction) override;
   void SelectTab(const std::string& caption) override;
   std::string HelpOn(const std::string& label) override;

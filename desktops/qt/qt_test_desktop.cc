@@ -13,6 +13,7 @@
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/modal_window.h"
+#include "desktops/qt/offscreen.h"
 #include "desktops/qt/qt_person.h"
 #include "desktops/qt/texts.h"
 
@@ -47,6 +48,7 @@ void QtTestDesktop::EnsureApplication() {
   static char* arguments[] = {name, nullptr};
   // Tests put no windows on a developer's screen unless asked to.
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const qt::OffscreenScreen screen;
   // Never destroyed: at the end of the process its windows would outlive what they are drawn with.
   static auto* application = new QApplication(argument_count, arguments);
   static_cast<void>(application);
@@ -128,7 +130,7 @@ bool QtTestDesktop::PlayChoice(QFileDialog& dialog, const Script::Expectation& e
 
 void QtTestDesktop::Sleep(std::uint32_t milliseconds) {
   script.sleeps.push_back(milliseconds);
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  QtDesktop::Sleep(0);
 }
 
 void QtTestDesktop::ShowHelpText(platform::ui::Window* beside, const std::string& text) {

@@ -3,6 +3,7 @@
 
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/texts.h"
@@ -23,6 +24,7 @@ SheetWindow::SheetWindow(PropertySheet& sheet, QWidget* parent)
   whole->addLayout(row);
   AddButtons(*row);
   AddTabs();
+  MakeRoomForPages();
   ShowPage();
   ShowButtons();
 }
@@ -53,6 +55,26 @@ void SheetWindow::AddTabs() {
   }
   tabs_->tabBar()->setVisible(!sheet_.IsWizard());
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { OnTabChosen(index); });
+}
+
+// A sheet does not grow when a larger page is chosen: each page is laid out once for its size, before any is shown. Notes
+// wrap, so the height follows the width that all pages get.
+void SheetWindow::MakeRoomForPages() {
+  std::vector<std::unique_ptr<FormView>> views;
+  QSize room(0, 0);
+  for (PropertyPage* page : sheet_.Pages()) {
+    if (page->Created()) continue;
+    views.push_back(FormView::Laid(*page, this));
+    views.back()->ensurePolished();
+    room.setWidth(std::max(room.width(), views.back()->sizeHint().width()));
+  }
+  for (const auto& view : views) {
+    const bool follows = view->layout() != nullptr && view->layout()->hasHeightForWidth();
+    const int height =
+        follows ? view->layout()->totalHeightForWidth(room.width()) : view->sizeHint().height();
+    room.setHeight(std::max(room.height(), height));
+  }
+  for (int i = 0; i < tabs_->count(); ++i) tabs_->widget(i)->setMinimumSize(room);
 }
 
 void SheetWindow::OnWindowChanged(platform::ui::Window& window, Change change) {

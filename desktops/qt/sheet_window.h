@@ -23,6 +23,7 @@ class SheetWindow : public ModalWindow {
  private:
   void AddButtons(QBoxLayout& row);
   void AddTabs();
+  void MakeRoomForPages();
   void ShowPage();
   void ShowButtons();
   void OnTabChosen(int index);

@@ -3,10 +3,11 @@
 
 #include <QCursor>
 #include <QGuiApplication>
+#include <utility>
 
 namespace desktops::qt {
 
-WaitCursorCount::~WaitCursorCount() { Suspend(); }
+WaitCursorCount::~WaitCursorCount() { TakeAway(); }
 
 void WaitCursorCount::Show() {
   ++depth_;
@@ -15,10 +16,10 @@ void WaitCursorCount::Show() {
 
 void WaitCursorCount::Hide() {
   if (depth_ > 0) --depth_;
-  if (depth_ == 0) Suspend();
+  if (depth_ == 0) TakeAway();
 }
 
-void WaitCursorCount::Suspend() {
+void WaitCursorCount::TakeAway() {
   if (shown_) QGuiApplication::restoreOverrideCursor();
   shown_ = false;
 }
@@ -27,6 +28,17 @@ void WaitCursorCount::Restore() {
   if (shown_ || depth_ == 0) return;
   QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   shown_ = true;
+}
+
+WaitCursorCount::Uncovered::Uncovered(WaitCursorCount& count)
+    : count_(count), depth_(std::exchange(count.depth_, 0)) {
+  count_.TakeAway();
+}
+
+WaitCursorCount::Uncovered::~Uncovered() {
+  count_.TakeAway();
+  count_.depth_ = depth_;
+  count_.Restore();
 }
 
 }  // namespace desktops::qt

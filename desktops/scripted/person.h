@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/ui/control.h"
+#include "platform/ui/canvas.h"
 
 namespace desktops {
 
@@ -56,6 +56,12 @@ class Person {
   virtual void DoubleClickItem(const std::string& label, const std::string& item) = 0;
   virtual void ClickRow(const std::string& label, int row) = 0;
   virtual void DoubleClickRow(const std::string& label, int row) = 0;
+  /// What a person does on a canvas, in its pixels: click, double click, drag from one place to another, and
+  /// scroll; `thumb` is where kThumb lets its scroll bar go.
+  virtual void ClickAt(const std::string& label, int x, int y) = 0;
+  virtual void DoubleClickAt(const std::string& label, int x, int y) = 0;
+  virtual void DragOver(const std::string& label, int x, int y, int to_x, int to_y) = 0;
+  virtual void ScrollCanvas(const std::string& label, platform::ui::Canvas::Scroll what, int thumb = 0) = 0;
   virtual void StepSpin(const std::string& buddy_label, int direction) = 0;
   virtual void SelectTab(const std::string& caption) = 0;
   /// F1 on the control; the text shown, or "".

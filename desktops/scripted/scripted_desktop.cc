@@ -42,6 +42,32 @@ class ScriptedDesktop::Sound : public platform::ui::Sound {
   bool playing_ = false;
 };
 
+namespace {
+
+/// Sets a value for as long as it lives.
+template <typename T>
+class Meanwhile {
+ public:
+  Meanwhile(T& variable, T value) : variable_(variable), before_(std::exchange(variable, value)) {}
+  ~Meanwhile() { variable_ = before_; }
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
+
+ private:
+  T& variable_;
+  T before_;
+};
+
+constexpr platform::ui::Rect kFileDialog{0, 0, 600, 400};
+
+// The file that the dialog opens with; "" for none.
+std::string InitialFile(const FileDialog& dialog) {
+  if (dialog.initial_path.empty()) return {};
+  return std::filesystem::path(dialog.initial_directory) / dialog.initial_path;
+}
+
+}  // namespace
+
 ScriptedDesktop::ScriptedDesktop() : before_(Desktop::SetCurrent(this)) {}
 
 ScriptedDesktop::~ScriptedDesktop() { Desktop::SetCurrent(before_); }
@@ -63,10 +89,13 @@ void ScriptedDesktop::RunPosted() {
 // What others post arrives while the program waits, as it does where windows are painted meanwhile.
 void ScriptedDesktop::Sleep(std::uint32_t milliseconds) {
   script.sleeps.push_back(milliseconds);
+  const Meanwhile sleeping(asleep, true);
   RunPosted();
 }
 
 int ScriptedDesktop::RunModal(Modal& modal) {
+  const Meanwhile uncovered(wait_cursor_depth, 0);
+  const Meanwhile awake(asleep, false);
   open_.push_back(&modal.AsWindow());
   if (!script.Guard([&] { modal.OpenWindow(); })) modal.EndModal(platform::ui::kCancel);
   RunPosted();
@@ -117,13 +146,22 @@ std::string ScriptedDesktop::ChosenPath(const std::string& title, bool must_exis
   return expected.path;
 }
 
-bool ScriptedDesktop::ChooseFile(FileDialog& dialog) {
-  open_.push_back(&dialog);
-  script.Guard([&] { dialog.Create(); });
+void ScriptedDesktop::LayOut(FileDialog& dialog) {
+  script.Guard([&] { dialog.OnLayout(kFileDialog); });
   for (const platform::ui::PlacedControl& placed : dialog.Preview()) {
     auto* canvas = dynamic_cast<platform::ui::Canvas*>(placed.control);
     if (canvas != nullptr) canvas->OnSize(placed.width, placed.height);
   }
+  const std::string initial = InitialFile(dialog);
+  if (!initial.empty()) script.Guard([&] { dialog.SetHighlighted(initial); });
+}
+
+bool ScriptedDesktop::ChooseFile(FileDialog& dialog) {
+  const Meanwhile uncovered(wait_cursor_depth, 0);
+  const Meanwhile awake(asleep, false);
+  open_.push_back(&dialog);
+  script.Guard([&] { dialog.Create(); });
+  LayOut(dialog);
   const std::string path = ChosenPath(dialog.title, dialog.must_exist, &dialog);
   if (!path.empty()) script.Guard([&] { dialog.OnFileAccepted(path); });
   script.Guard([&] { dialog.Destroy(); });

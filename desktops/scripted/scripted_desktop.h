@@ -19,7 +19,10 @@ class ScriptedDesktop : public platform::ui::Desktop {
   Script script;
   std::optional<std::string> clipboard;
   int system_major_version = 10;
+  /// The waits that a person sees: those since the window in front was opened.
   int wait_cursor_depth = 0;
+  /// The program waits in Sleep, where it takes no input.
+  bool asleep = false;
   /// How a message was shown, besides its text, which the script notes.
   struct Shown {
     std::string title;
@@ -60,6 +63,7 @@ class ScriptedDesktop : public platform::ui::Desktop {
 
   void Play(platform::ui::Modal& modal);
   void Cancel(platform::ui::Modal& modal);
+  void LayOut(platform::ui::FileDialog& dialog);
   std::string ChosenPath(const std::string& title, bool must_exist, platform::ui::FileDialog* dialog);
 
   platform::ui::Desktop* before_;

@@ -12,6 +12,7 @@
 namespace desktops {
 
 using platform::ui::Button;
+using platform::ui::Canvas;
 using platform::ui::CheckBox;
 using platform::ui::ComboBox;
 using platform::ui::Control;
@@ -48,15 +49,24 @@ void ScriptedPerson::Fail(const std::string& what) {
   throw PersonError(what + "; on the screen:\n" + Screen());
 }
 
-Form& ScriptedPerson::Shown() {
+Form* ScriptedPerson::Front() {
   if (modal_ != nullptr && modal_->Ended()) Fail("The window has ended");
-  Form* form = sheet_ != nullptr ? sheet_->ActivePage() : form_;
+  return sheet_ != nullptr ? sheet_->ActivePage() : form_;
+}
+
+Form& ScriptedPerson::Shown() {
+  Form* form = Front();
   if (form == nullptr) Fail("The sheet shows no page");
   return *form;
 }
 
+Control* ScriptedPerson::Look(const std::string& label) {
+  const Form* form = Front();
+  return form != nullptr ? FindControl(*form, label) : nullptr;
+}
+
 Control& ScriptedPerson::Find(const std::string& label) {
-  Control* control = FindControl(Shown(), label);
+  Control* control = Look(label);
   if (control == nullptr) Fail("No control \"" + label + "\"");
   return *control;
 }
@@ -67,6 +77,7 @@ void ScriptedPerson::RequireReach(const Control& control) {
 }
 
 void ScriptedPerson::Do(const std::function<void()>& action) {
+  if (desktop_.asleep) return;
   desktop_.script.Guard(action);
   desktop_.RunPosted();
 }
@@ -106,8 +117,14 @@ void ScriptedPerson::Type(const std::string& label, const std::string& text) {
 void ScriptedPerson::TypeHere(const std::string& text) { TypeCharacters(text); }
 
 void ScriptedPerson::Press(Key key) {
-  Form& form = Shown();
-  Do([&] { PressKey(form, key); });
+  Form* form = Front();
+  Do([&] { form != nullptr ? PressKey(*form, key) : PressSheetKey(key); });
+}
+
+// Without a page the keyboard is with the sheet itself.
+void ScriptedPerson::PressSheetKey(Key key) {
+  if (key == Key::kEnter) sheet_->OnButton(sheet_->DefaultButton());
+  if (key == Key::kEscape) sheet_->OnCloseRequest();
 }
 
 void ScriptedPerson::ClickInText(const std::string& label, std::size_t position) {
@@ -144,7 +161,7 @@ void ScriptedPerson::Focus(const std::string& label) {
 }
 
 void ScriptedPerson::Press(const std::string& button) {
-  const bool on_form = FindControl(Shown(), button) != nullptr;
+  const bool on_form = Look(button) != nullptr;
   const auto of_sheet = FindSheetButton(button);
   if (!on_form && sheet_ != nullptr && of_sheet) return PressSheetButton(*of_sheet, button);
   Button& pressed = Touch<Button>(button);
@@ -165,9 +182,9 @@ void ScriptedPerson::PressBeside(const std::string& label, const std::string& bu
 }
 
 void ScriptedPerson::AccessKey(char key) {
-  Form& form = Shown();
+  Form* form = Front();
   bool found = false;
-  Do([&] { found = PressAccessKey(form, key); });
+  Do([&] { found = form != nullptr && PressAccessKey(*form, key); });
   if (!found && !PressSheetAccessKey(key)) Fail(std::string("Nothing has the access key ") + key);
 }
 
@@ -233,6 +250,28 @@ void ScriptedPerson::DoubleClickRow(const std::string& label, int row) {
   Do([&] { list.OnDoubleClickAt(row); });
 }
 
+void ScriptedPerson::ClickAt(const std::string& label, int x, int y) { DragOver(label, x, y, x, y); }
+
+void ScriptedPerson::DoubleClickAt(const std::string& label, int x, int y) {
+  ClickAt(label, x, y);
+  Canvas& canvas = Touch<Canvas>(label);
+  Click(canvas, [&] { canvas.OnDoubleClick(x, y); });
+}
+
+void ScriptedPerson::DragOver(const std::string& label, int x, int y, int to_x, int to_y) {
+  Canvas& canvas = Touch<Canvas>(label);
+  Click(canvas, [&] {
+    canvas.OnMouseDown(x, y);
+    canvas.OnMouseUp(to_x, to_y);
+  });
+}
+
+// A scroll bar takes no focus.
+void ScriptedPerson::ScrollCanvas(const std::string& label, Canvas::Scroll what, int thumb) {
+  Canvas& canvas = Touch<Canvas>(label);
+  Do([&] { canvas.OnScroll(what, thumb); });
+}
+
 void ScriptedPerson::StepSpin(const std::string& buddy_label, int direction) {
   Spin* spin = FindSpin(Shown(), buddy_label);
   if (spin == nullptr) Fail("No spin beside \"" + buddy_label + "\"");
@@ -241,7 +280,7 @@ void ScriptedPerson::StepSpin(const std::string& buddy_label, int direction) {
 }
 
 void ScriptedPerson::SelectTab(const std::string& caption) {
-  Shown();
+  Front();
   const std::vector<std::string> tabs = Tabs();
   const auto found = std::ranges::find(tabs, caption);
   if (found == tabs.end()) Fail("No tab \"" + caption + "\"");
@@ -261,7 +300,7 @@ std::string ScriptedPerson::HelpOn(const std::string& label) {
 }
 
 void ScriptedPerson::CloseWindow() {
-  Shown();
+  Front();
   if (modal_ == nullptr) Fail("Only the script closes a file dialog");
   Do([&] { modal_->OnCloseRequest(); });
 }

@@ -35,6 +35,10 @@ class ScriptedPerson : public Person {
   void DoubleClickItem(const std::string& label, const std::string& item) override;
   void ClickRow(const std::string& label, int row) override;
   void DoubleClickRow(const std::string& label, int row) override;
+  void ClickAt(const std::string& label, int x, int y) override;
+  void DoubleClickAt(const std::string& label, int x, int y) override;
+  void DragOver(const std::string& label, int x, int y, int to_x, int to_y) override;
+  void ScrollCanvas(const std::string& label, platform::ui::Canvas::Scroll what, int thumb) override;
   void StepSpin(const std::string& buddy_label, int direction) override;
   void SelectTab(const std::string& caption) override;
   std::string HelpOn(const std::string& label) override;
@@ -56,8 +60,12 @@ class ScriptedPerson : public Person {
 
  private:
   [[noreturn]] void Fail(const std::string& what);
-  /// The dialog, or the sheet's current page. Fails when the window has ended.
+  /// The dialog, or the sheet's current page; null in a sheet without pages. Fails when the window has ended.
+  platform::ui::Form* Front();
+  /// The same where there has to be one.
   platform::ui::Form& Shown();
+  /// The control in front with exactly that label, or null.
+  platform::ui::Control* Look(const std::string& label);
   /// The control with that label, whatever its state.
   platform::ui::Control& Find(const std::string& label);
   /// The control of that kind with that label, for looking at.
@@ -72,9 +80,11 @@ class ScriptedPerson : public Person {
   void TypeCharacters(const std::string& text);
   void PressSheetButton(platform::ui::SheetButton button, const std::string& label);
   bool PressSheetAccessKey(char key);
+  void PressSheetKey(platform::ui::Key key);
   /// Moves the focus to the control, as a click does, and runs what the click sets off.
   void Click(platform::ui::Control& control, const std::function<void()>& action);
-  /// Runs what a person sets off, and then what was posted meanwhile.
+  /// Runs what a person sets off, and then what was posted meanwhile. Nothing comes of it while the program
+  /// waits.
   void Do(const std::function<void()>& action);
 
   ScriptedDesktop& desktop_;

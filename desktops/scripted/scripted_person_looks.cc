@@ -33,9 +33,9 @@ std::pair<std::size_t, std::size_t> ScriptedPerson::Selection(const std::string&
 }
 
 bool ScriptedPerson::IsVisible(const std::string& label) {
-  const Control* control = FindControl(Shown(), label);
+  const Control* control = Look(label);
   if (control != nullptr) return control->Visible();
-  if (HasText(Shown().Layout(), label)) return true;
+  if (Front() != nullptr && HasText(Front()->Layout(), label)) return true;
   const auto button = FindSheetButton(label);
   if (sheet_ == nullptr || !button) Fail("No control \"" + label + "\"");
   return sheet_->ButtonVisible(*button);
@@ -43,8 +43,7 @@ bool ScriptedPerson::IsVisible(const std::string& label) {
 
 bool ScriptedPerson::IsEnabled(const std::string& label) {
   const auto button = FindSheetButton(label);
-  if (sheet_ != nullptr && button && FindControl(Shown(), label) == nullptr)
-    return sheet_->ButtonEnabled(*button);
+  if (sheet_ != nullptr && button && Look(label) == nullptr) return sheet_->ButtonEnabled(*button);
   return Find(label).Enabled();
 }
 
@@ -69,7 +68,7 @@ std::vector<std::string> ScriptedPerson::Tabs() {
 }
 
 std::string ScriptedPerson::FocusedLabel() {
-  const Control* control = Shown().FocusedControl();
+  const Control* control = Front() != nullptr ? Front()->FocusedControl() : nullptr;
   return control != nullptr ? control->Label() : "";
 }
 

@@ -3,14 +3,11 @@
 
 #include "platform/ui/control.h"
 #include "platform/ui/image.h"
+#include "platform/ui/rect.h"
 
 namespace platform::ui {
 
 enum class SystemColor { kWindow, kWindowText, kHighlight, kHighlightText };
-
-struct Rect {
-  int x, y, width, height;
-};
 
 /// What a canvas paints on; given by the desktop.
 class Painter {
@@ -21,7 +18,8 @@ class Painter {
   virtual void Draw(const Bitmap& picture, int x, int y) = 0;
 };
 
-/// A control that paints itself, with an optional horizontal scroll bar. Derived classes override the events.
+/// A control that paints itself, with an optional horizontal scroll bar. Derived classes override the events;
+/// arrow keys and the focus arrive as at every control.
 class Canvas : public Control {
  public:
   Canvas(Form& form, int id, std::string label) : Control(form, id, std::move(label)) {}
@@ -35,7 +33,10 @@ class Canvas : public Control {
   void Repaint() { Notify(Change::kRepaint); }
 
   virtual void OnPaint(Painter&) {}
+  /// The left button; a double click comes after the press and release of its first click.
+  virtual void OnMouseDown(int /*x*/, int /*y*/) {}
   virtual void OnMouseUp(int /*x*/, int /*y*/) {}
+  virtual void OnDoubleClick(int /*x*/, int /*y*/) {}
   enum class Scroll { kLineLeft, kLineRight, kPageLeft, kPageRight, kThumb };
   virtual void OnScroll(Scroll /*what*/, int /*thumb*/) {}
   /// The desktop gave the canvas its size in pixels.

@@ -35,6 +35,11 @@ void Button::SetDefault(bool is_default) {
   Notify(Change::kStyle);
 }
 
+void Button::SetPicture(const Bitmap& picture) {
+  picture_ = picture;
+  Notify(Change::kLabel);
+}
+
 void Button::OnClick() {
   if (WithinReach() && on_click_) on_click_();
 }

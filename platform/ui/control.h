@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/ui/image.h"
 #include "platform/ui/window.h"
 
 namespace platform::ui {
@@ -90,11 +91,15 @@ class Button : public Control {
   bool IsDefault() const { return is_default_; }
   /// Makes this the form's default button in place of any other.
   void SetDefault(bool is_default);
+  /// Shows the picture in place of the text, which stays the button's name and keeps its access key.
+  void SetPicture(const Bitmap& picture);
+  const Bitmap& Picture() const { return picture_; }
   /// A person pressed it; ignored while it is disabled or hidden.
   virtual void OnClick();
 
  private:
   std::function<void()> on_click_;
+  Bitmap picture_;
   bool is_default_ = false;
 };
 
@@ -113,7 +118,14 @@ class CheckBox : public Control {
 /// A group of radio buttons; index -1 when none is chosen. The label is the group's caption.
 class RadioGroup : public Control {
  public:
+  /// Options one under the other or side by side, with the label as a caption around them; or side by side
+  /// behind the label.
+  enum class Arrangement { kUpright, kSideBySide, kLabelLeft };
+
   RadioGroup(Form& form, int id, std::string label, std::vector<std::string> options);
+  /// Before the window is made.
+  void SetArrangement(Arrangement arrangement) { arrangement_ = arrangement; }
+  Arrangement GetArrangement() const { return arrangement_; }
   const std::vector<std::string>& Options() const { return options_; }
   int Index() const { return index_; }
   /// -1 or a valid index; anything else counts as -1.
@@ -123,6 +135,7 @@ class RadioGroup : public Control {
 
  private:
   std::vector<std::string> options_;
+  Arrangement arrangement_ = Arrangement::kUpright;
   int index_ = -1;
 };
 

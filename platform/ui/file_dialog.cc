@@ -18,6 +18,7 @@ void FileDialog::SetPreviewSize(int width, int height) {
 }
 
 void FileDialog::Place(Control& control, int x, int y, int width, int height) {
+  std::erase_if(placed_, [&control](const PlacedControl& placed) { return placed.control == &control; });
   placed_.push_back({&control, x, y, width, height});
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/ui/form.h"
+#include "platform/ui/rect.h"
 
 namespace platform::ui {
 
@@ -40,7 +41,10 @@ class FileDialog : public Form {
   int PreviewHeight() const { return preview_height_; }
   const std::vector<PlacedControl>& Preview() const { return placed_; }
 
-  /// Told by the desktop. Highlighted: another file name stands in the dialog. Accepted: the name was taken.
+  /// Told by the desktop when the dialog opens and when it is resized: the whole dialog, in its own
+  /// coordinates. The preview area spans its width below the file list; controls may be placed anew.
+  virtual void OnLayout(const Rect& /*dialog*/) {}
+  /// Told by the desktop, for the file that the dialog opens with too. Highlighted: another file name stands in the dialog. Accepted: the name was taken.
   virtual void OnFileHighlighted(const std::string& /*path*/) {}
   virtual void OnFileAccepted(const std::string& path) { path_ = path; }
   /// The file highlighted now, or "".
@@ -49,6 +53,7 @@ class FileDialog : public Form {
 
  protected:
   void SetPreviewSize(int width, int height);
+  /// Gives the control its rectangle in the preview area, in place of one that it had.
   void Place(Control& control, int x, int y, int width, int height);
 
  private:

@@ -75,7 +75,7 @@ int ItemList::FindData(ItemData data) const {
 }
 
 void ItemList::OnChoose(int index) {
-  if (!WithinReach() || !InRange(index, items_.size())) return;
+  if (!WithinReach() || index == current_ || !InRange(index, items_.size())) return;
   Select(index);
   ChangedByPerson();
 }
@@ -107,6 +107,12 @@ void ComboBox::OnTextEdited(std::string_view text) {
   // Also when nothing changed: a widget may show more than the limit allows.
   SetText(text);
   if (changed) ChangedByPerson();
+}
+
+void ListBox::SetTabStops(std::vector<int> average_characters) {
+  tab_stops_ = true;
+  tab_positions_ = std::move(average_characters);
+  Notify(Change::kItems);
 }
 
 void ListBox::OnDoubleClick(int index) {

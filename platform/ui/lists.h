@@ -44,7 +44,7 @@ class ItemList : public Control {
   int FindBytes(std::string_view text) const;
   int FindData(ItemData data) const;
 
-  /// A person chose an item.
+  /// A person chose an item; no change when it is the current one already.
   virtual void OnChoose(int index);
 
  private:
@@ -89,12 +89,17 @@ class ListBox : public ItemList {
       : ItemList(form, id, std::move(label), sorted), tab_stops_(tab_stops) {}
 
   bool TabStops() const { return tab_stops_; }
+  /// Where the second column and those after it start, counted in average characters from the left. Without
+  /// positions a column is as wide as its texts.
+  void SetTabStops(std::vector<int> average_characters);
+  const std::vector<int>& TabPositions() const { return tab_positions_; }
   void SetOnDoubleClick(std::function<void()> handler) { on_double_click_ = std::move(handler); }
   /// A person double-clicked the item, which is chosen first.
   void OnDoubleClick(int index);
 
  private:
   bool tab_stops_;
+  std::vector<int> tab_positions_;
   std::function<void()> on_double_click_;
 };
 

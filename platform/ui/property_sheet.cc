@@ -18,9 +18,7 @@ void PropertyPage::SetModified(bool changed) {
 void PropertyPage::OnEnter() {
   const bool own_button = dynamic_cast<Button*>(FocusedControl()) != nullptr || DefaultButton() != nullptr;
   if (own_button || sheet_ == nullptr) return Form::OnEnter();
-  if (!sheet_->IsWizard()) return sheet_->OnButton(SheetButton::kOk);
-  const bool finish = sheet_->ButtonEnabled(SheetButton::kFinish);
-  sheet_->OnButton(finish ? SheetButton::kFinish : SheetButton::kNext);
+  sheet_->OnButton(sheet_->DefaultButton());
 }
 
 void PropertyPage::OnEscape() {
@@ -104,6 +102,11 @@ bool PropertySheet::ButtonEnabled(SheetButton button) const {
     default:
       return true;
   }
+}
+
+SheetButton PropertySheet::DefaultButton() const {
+  if (!wizard_) return SheetButton::kOk;
+  return ButtonEnabled(SheetButton::kFinish) ? SheetButton::kFinish : SheetButton::kNext;
 }
 
 void PropertySheet::SetWizardButtons(std::uint32_t flags) {

@@ -72,6 +72,8 @@ class PropertySheet : public Window, public Modal {
 
   bool ButtonEnabled(SheetButton button) const;
   bool ButtonVisible(SheetButton button) const;
+  /// The one that Enter presses: OK; in a wizard Finish where it can be pressed, else Next.
+  SheetButton DefaultButton() const;
   std::uint32_t WizardButtons() const { return wizard_buttons_; }
   void SetWizardButtons(std::uint32_t flags) override;
 

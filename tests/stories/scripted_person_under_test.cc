@@ -11,6 +11,8 @@ class ScriptedTestDesktop : public TestDesktop {
   void ClearClipboard() override { desktop_.clipboard.reset(); }
   void SetSystemMajorVersion(int version) override { desktop_.system_major_version = version; }
   std::string LastHelpText() override { return desktop_.last_help_text; }
+  std::string PlayingSound() override { return desktop_.playing_sound; }
+  void FinishSound() override { desktop_.FinishSound(); }
 
  private:
   desktops::ScriptedDesktop desktop_;

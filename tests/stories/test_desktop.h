@@ -20,6 +20,10 @@ class TestDesktop {
   virtual void SetSystemMajorVersion(int version) = 0;
   /// The help text shown last, or "".
   virtual std::string LastHelpText() = 0;
+  /// The file of the sound that is playing, or "". Every existing file can be played.
+  virtual std::string PlayingSound() = 0;
+  /// The sound that is playing comes to its end.
+  virtual void FinishSound() = 0;
 };
 
 std::unique_ptr<TestDesktop> MakeTestDesktop();

@@ -12,7 +12,7 @@ using platform::GUID;
 using platform::kNullGuid;
 
 void FakeDbConfig::GetQEVDataDirectory(char* buffer, std::size_t size) {
-  if (size > 0) buffer[0] = '\0';
+  if (size > data_directory.size()) std::strcpy(buffer, data_directory.c_str());
 }
 
 void FakeAgentUi::DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) {

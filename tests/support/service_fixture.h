@@ -32,6 +32,7 @@ class FakeDbConfig : public dbconfig::DbConfig {
   std::uint32_t CreateAlertServerConfigFile(std::uint32_t) override { return ++files_written, result; }
   std::uint32_t IsConversionComplete() override { return polls_until_complete-- <= 0; }
 
+  std::string data_directory;
   int files_written = 0;
   std::uint32_t result = 0;
   /// How many more times the conversion is still under way.
