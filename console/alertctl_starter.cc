@@ -85,6 +85,20 @@ std::size_t AddNamed(Store& store, const Json& list, dbconfig::Fields fields) {
   return added;
 }
 
+/// Companies have no unique names, so that these examples are told apart by the identities that they bring.
+std::size_t AddProviders(const Json& list) {
+  CAlertAPAGE_SERVICE_PROVIDERDB store;
+  Open(store);
+  std::size_t added = 0;
+  for (const Json& starter : list) {
+    ALRTAPAGE_SERVICE_PROVIDER_REC record{};
+    record.guid = IdIn(starter, "id");
+    SetFields(reinterpret_cast<char*>(&record), dbconfig::kProviderFields, starter["settings"]);
+    if (AddedNow(store.AddWithIdentity(record), "\"" + std::string(record.company.View()) + "\"")) ++added;
+  }
+  return added;
+}
+
 template <class Specific>
 Status AddSpecific(CAlertNtfyServDB& services, const dbconfig::ServiceType& type, const Json& service) {
   Specific record{};
@@ -215,6 +229,7 @@ Added Starter::Run() {
     added_.locations = AddNamed(locations, ReadStarterFile("locations.json"), dbconfig::kLocationFields);
     CAlertSERV_MODEMDB modem_types(kModemTypeFile);
     added_.modem_types = AddNamed(modem_types, ReadStarterFile("modem-types.json"), dbconfig::kModemFields);
+    added_.paging_providers = AddProviders(ReadStarterFile("providers.json"));
   }
   for (const dbconfig::ServiceType& type : dbconfig::ServiceTypes()) {
     const auto is_type = [&](const Json& starter) { return starter["type"] == type.key; };

@@ -3,6 +3,7 @@
 
 #include "alerting/services/service_ui.h"
 #include "alerting/sheets/service_sheets.h"
+#include "alerting/telephony/set_pager_provider_dlg.h"
 
 namespace alerting {
 
@@ -20,6 +21,7 @@ void InstallServiceUiTable() {
   table[kTypeNumeric].property_sheet = RunSheet<CSheetServiceNum>;
   table[kTypeGeneric].property_sheet = RunSheet<CSheetServiceGeneric>;
   table[kTypeProgram].property_sheet = RunSheet<CSheetServiceProg>;
+  table[kTypeAlpha].choose_provider = RunSetPagerProvider;
   SetServiceUiTable(table);
 }
 

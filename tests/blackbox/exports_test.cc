@@ -152,7 +152,7 @@ TEST_F(ExportsTest, EveryFunctionIsFoundUnderItsDecoratedNameOnly) {
 #include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
-  EXPECT_EQ(found, 48);
+  EXPECT_EQ(found, 54);
 }
 
 TEST_F(ExportsTest, NothingElseLeavesTheLibrary) {
@@ -322,6 +322,19 @@ TEST_F(ExportsTest, FilesAreChosenIntoTheCallersBuffer) {
     EXPECT_EQ(choose(path), 1);
     EXPECT_EQ(desktop_.asked, title + desktop_.chosen) << "begins with the file of before";
   }
+}
+
+TEST_F(ExportsTest, DialingHasItsWindowsAndFourFunctionsDoNothing) {
+  char rule[] = "rule";
+  EXPECT_EQ(api_->DialingPropertiesDialog(nullptr, nullptr), 1);
+  EXPECT_EQ(api_->DialingPropertiesDialog(nullptr, "Nowhere"), 1);
+  EXPECT_EQ(api_->RulesDialog(nullptr, rule, nullptr, nullptr), 1);
+  EXPECT_THAT(desktop_.windows, testing::ElementsAre("Dialing Properties", "Dialing Properties", "Dialing Rules"));
+  EXPECT_STREQ(rule, "rule");
+  EXPECT_EQ(api_->SetPhoneNumberDialog(0, 1, 2, 3, 4), 2);
+  EXPECT_EQ(api_->ChooseIPDialog(0, 1), 2);
+  EXPECT_EQ(api_->ChooseCommunityDialog(0, 1), 2);
+  EXPECT_EQ(api_->ModemSettingsDialog(0, 1, 2, 3), 2);
 }
 
 TEST_F(ExportsTest, TheIconStripHoldsNineteenDistinctPictures) {

@@ -19,8 +19,8 @@ TEST_F(AlertctlTest, InitSetsUpOnceAndThenChangesNothing) {
   const json first = RunJson({"init"});
   EXPECT_EQ(first["changed"], true);
   EXPECT_EQ(first["added"],
-            json::parse(R"({"alertManagers": 1, "locations": 1, "modemTypes": 6, "services": 13,
-                                            "testResponses": 13})"));
+            json::parse(R"({"alertManagers": 1, "locations": 1, "modemTypes": 6,
+                                            "pagingProviders": 4, "services": 13, "testResponses": 13})"));
   const std::string before = ConfigFile();
   const Ran again = Run({"init"});
   EXPECT_EQ(again.code, 0);
@@ -35,9 +35,10 @@ TEST_F(AlertctlSiteTest, InitCompletesARunThatWasCutShort) {
   ASSERT_EQ(Opened(services).DBAlertRecDelete(program), kOk);
   ASSERT_EQ(Opened(responses).DBAlertRecDelete(*GUID::Parse("3217DA57-ADD1-11CF-8137-000000000001")), kOk);
   DeleteFirst<CAlertMODEM_LOCATIONDB>();
+  DeleteFirst<CAlertAPAGE_SERVICE_PROVIDERDB>();
 
   EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "locations": 1, "modemTypes": 0,
-                                                        "services": 1, "testResponses": 1})"));
+                                                        "pagingProviders": 1, "services": 1, "testResponses": 1})"));
   EXPECT_EQ(ServiceOfType(14).serviceId, program);
   EXPECT_EQ(RunJson({"manager", "list"})[0]["services"].size(), 13u) << "one entry a service, none twice";
 }
