@@ -14,16 +14,21 @@ constexpr char kExamples[] =
 Result Init() {
   const Added added = AddStarterData();
   const std::string directory = platform::DataDirectory();
-  const Json counts = {{"alertManagers", added.managers}, {"locations", added.locations},
-                       {"modemTypes", added.modem_types}, {"pagingProviders", added.paging_providers},
-                       {"services", added.services},      {"testResponses", added.test_responses}};
-  const std::string text = added.Any() ? "Added to " + directory + ": " + Count(added.services, "service") +
-                                             ", " + Count(added.test_responses, "test response") + ", " +
-                                             Count(added.managers, "alert manager") + ", " +
-                                             Count(added.modem_types, "modem type") + ", " +
-                                             Count(added.paging_providers, "example paging provider") + ", " +
-                                             Count(added.locations, "location") + ".\n"
-                                       : "Nothing to add: " + directory + " is set up already.\n";
+  const Json counts = {{"alertManagers", added.managers},
+                       {"computers", added.computers},
+                       {"locations", added.locations},
+                       {"modemTypes", added.modem_types},
+                       {"pagingProviders", added.paging_providers},
+                       {"services", added.services},
+                       {"testResponses", added.test_responses}};
+  const std::string text =
+      added.Any()
+          ? "Added to " + directory + ": " + Count(added.services, "service") + ", " +
+                Count(added.test_responses, "test response") + ", " + Count(added.managers, "alert manager") +
+                ", " + Count(added.computers, "computer") + ", " + Count(added.modem_types, "modem type") +
+                ", " + Count(added.paging_providers, "example paging provider") + ", " +
+                Count(added.locations, "location") + ".\n"
+          : "Nothing to add: " + directory + " is set up already.\n";
   return {{{"directory", directory}, {"changed", added.Any()}, {"added", counts}}, text};
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "companions/alertrecords/test_response.h"
+#include "companions/alertstore/computers.h"
 #include "companions/alertstore/stores.h"
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
@@ -136,6 +137,7 @@ class Starter {
   void OpenStores();
   void LoadServices();
   void AddManager();
+  void AddThisComputer();
   void AddService(const Json& service, const dbconfig::ServiceType& type);
   void EnableHere(const ALRTNTFYSERV& common);
   void AddTestResponse(const Json& service, const ALRTNTFYSERV& common);
@@ -175,6 +177,12 @@ void Starter::AddManager() {
   }
   if (AddedNow(managers_.DBAlertRecAdd(manager, manager_), "this machine as alert manager"))
     ++added_.managers;
+}
+
+/// For those who browse for a computer; the list begins with this one.
+void Starter::AddThisComputer() {
+  if (AddedNow(AddComputer(GUID::Generate(), platform::HostName()), "this machine as a computer"))
+    ++added_.computers;
 }
 
 void Starter::EnableHere(const ALRTNTFYSERV& common) {
@@ -225,6 +233,7 @@ Added Starter::Run() {
   LoadServices();
   if (first_of_type_.size() < dbconfig::ServiceTypes().size()) {
     AddManager();
+    AddThisComputer();
     CAlertMODEM_LOCATIONDB locations;
     added_.locations = AddNamed(locations, ReadStarterFile("locations.json"), dbconfig::kLocationFields);
     CAlertSERV_MODEMDB modem_types(kModemTypeFile);

@@ -8,6 +8,7 @@ namespace alertctl {
 /// How many records of each kind were added.
 struct Added {
   std::size_t managers = 0;
+  std::size_t computers = 0;
   std::size_t locations = 0;
   std::size_t modem_types = 0;
   std::size_t paging_providers = 0;
@@ -15,7 +16,7 @@ struct Added {
   std::size_t test_responses = 0;
 
   bool Any() const {
-    return managers + locations + modem_types + paging_providers + services + test_responses > 0;
+    return managers + computers + locations + modem_types + paging_providers + services + test_responses > 0;
   }
 };
 

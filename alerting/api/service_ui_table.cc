@@ -10,6 +10,7 @@ namespace alerting {
 void InstallServiceUiTable() {
   ServiceUiTable table{};
   table[kTypeMhs].property_sheet = RunSheet<CSheetServiceMHS>;
+  table[kTypeSnmp].property_sheet = RunSheet<CSheetServiceSNMP>;
   table[kTypeMci].property_sheet = RunSheet<CSheetServiceMCI>;
   table[kTypeCompuServe].property_sheet = RunSheet<CSheetServiceCIS>;
   table[kTypeSmtp].property_sheet = RunSheet<CSheetServiceSMTP>;

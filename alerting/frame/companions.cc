@@ -11,7 +11,10 @@ Companions RealCompanions() {
   static const std::unique_ptr<agentui::AgentUi> real_agentui = agentui::MakeAgentUi();
   static const std::unique_ptr<ctxhelp::ContextHelp> real_ctxhelp = ctxhelp::MakeContextHelp();
   static const std::unique_ptr<netpath::NetPath> real_netpath = netpath::MakeNetPath();
-  return {real_dbconfig.get(), real_agentui.get(), real_ctxhelp.get(), real_netpath.get()};
+  static const std::unique_ptr<minibrowse::MiniBrowser> real_minibrowse = minibrowse::MakeMiniBrowser();
+  static const std::unique_ptr<objmodel::ObjectModel> real_objmodel = objmodel::MakeObjectModel();
+  return {real_dbconfig.get(), real_agentui.get(),    real_ctxhelp.get(),
+          real_netpath.get(),  real_minibrowse.get(), real_objmodel.get()};
 }
 
 Companions& InUse() {
@@ -26,10 +29,10 @@ const Companions& TheCompanions() { return InUse(); }
 Companions SetCompanions(Companions companions) {
   const Companions real = RealCompanions();
   const Companions before = InUse();
-  InUse() = {companions.dbconfig ? companions.dbconfig : real.dbconfig,
-             companions.agentui ? companions.agentui : real.agentui,
-             companions.ctxhelp ? companions.ctxhelp : real.ctxhelp,
-             companions.netpath ? companions.netpath : real.netpath};
+  const auto or_real = [](auto* other, auto* own) { return other != nullptr ? other : own; };
+  InUse() = {or_real(companions.dbconfig, real.dbconfig),     or_real(companions.agentui, real.agentui),
+             or_real(companions.ctxhelp, real.ctxhelp),       or_real(companions.netpath, real.netpath),
+             or_real(companions.minibrowse, real.minibrowse), or_real(companions.objmodel, real.objmodel)};
   return before;
 }
 

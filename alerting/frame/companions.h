@@ -4,7 +4,9 @@
 #include "companions/agentui/agentui.h"
 #include "companions/ctxhelp/ctxhelp.h"
 #include "companions/dbconfig/dbconfig.h"
+#include "companions/minibrowse/minibrowse.h"
 #include "companions/netpath/netpath.h"
+#include "companions/objmodel/objmodel.h"
 
 namespace alerting {
 
@@ -15,6 +17,8 @@ struct Companions {
   agentui::AgentUi* agentui;
   ctxhelp::ContextHelp* ctxhelp;
   netpath::NetPath* netpath;
+  minibrowse::MiniBrowser* minibrowse;
+  objmodel::ObjectModel* objmodel;
 };
 
 /// The components in use: the real ones until SetCompanions put others there.

@@ -31,6 +31,10 @@ CAlertUSR_MHSDB& UserStore() {
   return OrClosed(TheStores().mhs_users);
 }
 template <>
+CAlertUSR_SNMPDB& UserStore() {
+  return OrClosed(TheStores().snmp_managers);
+}
+template <>
 CAlertUSR_MCIDB& UserStore() {
   return OrClosed(TheStores().mci_users);
 }

@@ -10,6 +10,7 @@
 #include "alerting/sheets/page_default_message.h"
 #include "alerting/sheets/page_mhs_general.h"
 #include "alerting/sheets/page_smtp_general.h"
+#include "alerting/sheets/page_snmp_general.h"
 #include "alerting/sheets/pager_pages.h"
 #include "alerting/sheets/service_sheet.h"
 
@@ -37,6 +38,7 @@ int RunSheet(CNtfyService& service, ui::Window* parent) {
 
 // clang-format off
 struct CSheetServiceMHS : SheetOf<CPropPgMHSGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
+struct CSheetServiceSNMP : SheetOf<CPropPgSNMPGeneral, CPropPgHalfDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceMCI : SheetOf<CPropPgMCIGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceCIS : SheetOf<CPropPgCISGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };
 struct CSheetServiceSMTP : SheetOf<CPropPgSMTPGeneral, CPropPgDefaultMsg> { using SheetOf::SheetOf; };

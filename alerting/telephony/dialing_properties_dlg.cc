@@ -63,8 +63,7 @@ ui::LayoutNode CDialingPropertiesDlg::WhereIAm() {
 ui::LayoutNode CDialingPropertiesDlg::HowIDial() {
   return ui::Group(
       "How I dial from this location:",
-      {ui::Row({ui::Field(local_field_), ui::Note("for local,"), ui::Bare(long_distance_field_),
-                ui::Note("for long distance.")}),
+      {ui::Row({ui::Field(local_field_), ui::Note("for local,"), ui::Before(long_distance_field_)}),
        ui::Row({ui::Field(call_waiting_box_), ui::Bare(disable_field_)}), ui::Field(dialing_group_)});
 }
 

@@ -23,6 +23,7 @@ CSetPagerProviderDlg::CSetPagerProviderDlg(ui::Window* parent, const ALRTAPAGESE
       service_(service),
       list_(*this, kIdList, "&Available Alphanumeric Service Provider:", false, true),
       buttons_(*this) {
+  list_.SetTabStops({19, 44, 56, 69, 81});
   SetLayout(ui::Column({ui::Over(list_), buttons_.Row()}));
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "companions/alertstore/named_objects.h"
 #include "companions/alertstore/schema.h"
 #include "companions/alertstore/status.h"
 #include "platform/base/guid.h"
@@ -19,12 +20,9 @@ Status QevGetUserName(const platform::GUID& user, std::uint32_t size, char* buff
 
 // The table of console users, for the command line that administers it.
 
-struct ConsoleUser {
-  platform::GUID id;
-  std::string name;
-};
+using ConsoleUser = NamedObject;
 
-inline constexpr std::size_t kMaxConsoleUserName = 64;
+inline constexpr std::size_t kMaxConsoleUserName = kMaxObjectName;
 
 /// How the store keeps them.
 const StoreSchema& ConsoleUserSchema();

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "companions/alertstore/computers.h"
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/selectors.h"
 #include "companions/alertstore/stores.h"
@@ -258,6 +259,7 @@ std::vector<StoreSchema> SiteSchemas() {
                 ALRT_SRV_CFGREC, ALRTSERV_INST_NTFY_SERVREC>();
   schemas.push_back(CAlertSERV_MODEMDB(kModemTypeFile).Schema());
   schemas.push_back(ConsoleUserSchema());
+  schemas.push_back(ComputerSchema());
   return schemas;
 }
 

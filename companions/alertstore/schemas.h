@@ -10,7 +10,7 @@ namespace alertstore {
 
 // The schema of each record's store; defined in schemas.cc.
 
-/// The schemas of all stores of a site: those below, the modem types and the console users.
+/// The schemas of all stores of a site: those below, the modem types, the console users and the computers.
 std::vector<StoreSchema> SiteSchemas();
 
 template <>

@@ -14,7 +14,7 @@
 namespace alertstore {
 
 /// Counts the changes of the layout; kept in the database, so that one of a newer program is recognised.
-inline constexpr int kLayoutVersion = 2;
+inline constexpr int kLayoutVersion = 3;
 
 /// The table name of a store, quoted for a statement.
 std::string TableName(const StoreSchema& schema);

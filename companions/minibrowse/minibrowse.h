@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "platform/base/guid.h"
 
@@ -21,5 +22,8 @@ class MiniBrowser {
   virtual const platform::GUID* dlgMiniBrowser(platform::GUID* result, platform::GUID class_id,
                                                std::uint32_t zero, platform::ui::Window* parent) = 0;
 };
+
+/// The real component: offers the computers of the site in a list.
+std::unique_ptr<MiniBrowser> MakeMiniBrowser();
 
 }  // namespace minibrowse

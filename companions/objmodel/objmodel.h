@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 
 #include "platform/base/guid.h"
 
@@ -29,5 +30,8 @@ class ObjectModel {
                                                  platform::GUID property, char* buffer,
                                                  std::uint32_t size) = 0;
 };
+
+/// The real component: knows the computers of the site, by name.
+std::unique_ptr<ObjectModel> MakeObjectModel();
 
 }  // namespace objmodel

@@ -170,6 +170,7 @@ void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column
       grid.addWidget(Note(node.text), row, column, 1, span);
       break;
     case Kind::kField:
+    case Kind::kBefore:
     case Kind::kOver:
     case Kind::kBare:
       AddEditor(grid, *node.control, row, column, span, alignment);
@@ -264,6 +265,7 @@ int Builder::AddToRow(QGridLayout& grid, int column, const LayoutNode& child, bo
     Add(grid, child, 1, column, 1, IsTall(child) || IsWide(child) ? Qt::Alignment() : top);
   }
   if (child.kind == Kind::kStretch || IsWide(child)) Share(grid, Qt::Horizontal, column, child, child.weight);
+  if (child.kind == Kind::kBefore) grid.addWidget(Label(*child.control), 1, ++column, top);
   return column + 1;
 }
 

@@ -21,6 +21,7 @@ struct LayoutNode {
     kGroup,   ///< a framed box with `text` as its caption ("" for a frame alone) around its children, as a
               ///< column
     kField,   ///< a control with its label on the left (buttons and check boxes carry their own text)
+    kBefore,  ///< a control with its label behind it, in a row
     kOver,    ///< a control with its label above it
     kBare,    ///< a control without its label
     kNote,    ///< a static text that wraps, `text`
@@ -50,6 +51,7 @@ inline LayoutNode Group(std::string caption, LayoutNodes children) {
   return {LayoutNode::Kind::kGroup, nullptr, std::move(caption), children};
 }
 inline LayoutNode Field(Control& control) { return {LayoutNode::Kind::kField, &control, {}, {}}; }
+inline LayoutNode Before(Control& control) { return {LayoutNode::Kind::kBefore, &control, {}, {}}; }
 inline LayoutNode Over(Control& control) { return {LayoutNode::Kind::kOver, &control, {}, {}}; }
 inline LayoutNode Bare(Control& control) { return {LayoutNode::Kind::kBare, &control, {}, {}}; }
 inline LayoutNode Note(std::string text) { return {LayoutNode::Kind::kNote, nullptr, std::move(text), {}}; }

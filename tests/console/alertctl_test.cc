@@ -19,7 +19,7 @@ TEST_F(AlertctlTest, InitSetsUpOnceAndThenChangesNothing) {
   const json first = RunJson({"init"});
   EXPECT_EQ(first["changed"], true);
   EXPECT_EQ(first["added"],
-            json::parse(R"({"alertManagers": 1, "locations": 1, "modemTypes": 6,
+            json::parse(R"({"alertManagers": 1, "computers": 1, "locations": 1, "modemTypes": 6,
                                             "pagingProviders": 4, "services": 13, "testResponses": 13})"));
   const std::string before = ConfigFile();
   const Ran again = Run({"init"});
@@ -37,7 +37,7 @@ TEST_F(AlertctlSiteTest, InitCompletesARunThatWasCutShort) {
   DeleteFirst<CAlertMODEM_LOCATIONDB>();
   DeleteFirst<CAlertAPAGE_SERVICE_PROVIDERDB>();
 
-  EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "locations": 1, "modemTypes": 0,
+  EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "computers": 0, "locations": 1, "modemTypes": 0,
                                                         "pagingProviders": 1, "services": 1, "testResponses": 1})"));
   EXPECT_EQ(ServiceOfType(14).serviceId, program);
   EXPECT_EQ(RunJson({"manager", "list"})[0]["services"].size(), 13u) << "one entry a service, none twice";

@@ -26,7 +26,7 @@ LibraryUnderTest::LibraryUnderTest()
   SetEngine(nullptr);
   engine = std::make_shared<FailingEngine>(CurrentEngine());
   SetEngine(engine);
-  before_ = alerting::SetCompanions({&dbconfig, &agentui, nullptr, &netpath});
+  before_ = alerting::SetCompanions({&dbconfig, &agentui, nullptr, &netpath, nullptr, nullptr});
   alerting::Load();
 }
 

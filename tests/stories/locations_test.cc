@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/telephony/locations.h"
+
+#include "alerting/telephony/dialing_properties_dlg.h"
+#include "alerting/telephony/dialing_rules_dlg.h"
+#include "alerting/telephony/set_pager_provider_dlg.h"
+#include "tests/stories/story_test.h"
+#include "tests/support/service_fixture.h"
+
+namespace stories {
+namespace {
+
+using alertstore::ALRTMODEM_LOCATION;
+using desktops::Person;
+using platform::ui::Answer;
+using test_support::StoreOp;
+using testing::ElementsAre;
+
+constexpr char kDialog[] = "Dialing Properties";
+constexpr char kFrom[] = "I am &dialing from:";
+constexpr char kAreaCode[] = "The area &code is:";
+constexpr char kCountry[] = "&I am in:";
+constexpr char kOutside[] = "To access an &outside line, first dial:";
+constexpr char kLongDistance[] = "for long distance.";
+constexpr char kCallWaiting[] = "This location has call &waiting.  To disable it, dial:";
+constexpr char kDisable[] = "To disable call waiting, dial:";
+constexpr char kUses[] = "The phone system at this location uses";
+constexpr char kNoLocations[] =
+    "No records in the modem location database. You will need to add a location (using the New button) in "
+    "order to "
+    "use a modem.";
+constexpr char kDelete[] =
+    "Are you sure you want to delete the location?  This operation is immediate and cannot be canceled "
+    "later.";
+
+class LocationsTest : public StoryTest {
+ protected:
+  void SetUp() override { alerting::EnsureStoresOpen(); }
+  void Add(const char* name) {
+    platform::GUID id{};
+    ASSERT_TRUE(alerting::CreateLocation(name, id));
+  }
+  static ALRTMODEM_LOCATION Stored(const char* name) {
+    ALRTMODEM_LOCATION location{};
+    EXPECT_TRUE(alerting::ReadLocation(name, location)) << name;
+    return location;
+  }
+  int Run(desktops::Script::Story story) {
+    Script().ExpectWindow(kDialog, std::move(story));
+    return alerting::CDialingPropertiesDlg(nullptr).RunModal();
+  }
+
+  test_support::LibraryUnderTest library_;
+};
+
+TEST_F(LocationsTest, EveryFieldIsStoredAtItsOffset) {
+  Add("Office");
+  EXPECT_EQ(Run([](Person& p) {
+              EXPECT_EQ(p.Text(kCountry), "United States of America");
+              EXPECT_EQ(p.ChosenOption(kUses), "&Tone dialing");
+              p.Type(kAreaCode, "80x1 2345678901");
+              p.Choose(kCountry, "Germany");
+              p.Type(kOutside, "9,");
+              p.Paste(kLongDistance, "(555) 12-34 x9");
+              EXPECT_EQ(p.Text(kLongDistance), "(555)12-349");
+              EXPECT_FALSE(p.IsEnabled(kDisable));
+              p.Check(kCallWaiting, true);
+              p.Type(kDisable, "*70");
+              p.ChooseOption(kUses, "&Pulse dialing");
+              p.Press("OK");
+            }),
+            platform::ui::kOk);
+  const ALRTMODEM_LOCATION stored = Stored("Office");
+  EXPECT_EQ(stored.areaCode.View(), "80123456789");
+  EXPECT_EQ(stored.localAccess.View(), "9,");
+  EXPECT_EQ(stored.longDistanceAccess.View(), "(555)12-349");
+  EXPECT_EQ(stored.callWaitingDisable.View(), "*70");
+  EXPECT_EQ(stored.hasCallWaiting, 1u);
+  EXPECT_EQ(stored.toneDialing, 0u);
+  EXPECT_EQ(stored.countryCode, 49u);
+}
+
+TEST_F(LocationsTest, ACountryWithoutAreaCodesTakesThemAway) {
+  Add("Office");
+  Run([](Person& p) {
+    p.Type(kAreaCode, "801");
+    p.Choose(kCountry, "Singapore");
+    EXPECT_EQ(p.Text(kAreaCode), "");
+    EXPECT_FALSE(p.IsEnabled(kAreaCode));
+    p.Choose(kCountry, "Afghanistan");
+    EXPECT_TRUE(p.IsEnabled(kAreaCode));
+    p.Press("Cancel");
+  });
+  EXPECT_EQ(Stored("Office").areaCode.View(), "");
+}
+
+TEST_F(LocationsTest, ChoosingAnotherLocationStoresTheOneBefore) {
+  Add("Home");
+  Add("Office");
+  Script().ExpectWindow(kDialog, [&](Person& p) {
+    p.Type(kOutside, "9");
+    p.Choose(kFrom, "Home");
+    EXPECT_EQ(Stored("Office").localAccess.View(), "9");
+    EXPECT_EQ(p.Text(kOutside), "");
+    p.Type(kOutside, "0");
+    library_.engine->FailAll("ModemLocationDB.dat", StoreOp::kUpdate);
+    p.Choose(kFrom, "Office");
+    EXPECT_EQ(p.Text(kFrom), "Home") << "whose settings still stand in the fields";
+    EXPECT_EQ(p.Text(kOutside), "0");
+    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+    library_.engine->FailNone();
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage("Unable to update the modem location database record.");
+  alerting::CDialingPropertiesDlg(nullptr, "Office").RunModal();
+  EXPECT_EQ(Stored("Home").localAccess.View(), "");
+}
+
+TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
+  Add("Office");
+  Script().ExpectWindow(kDialog, [&](Person& p) {
+    p.Press("&New...");
+    p.Press("&New...");
+    EXPECT_THAT(p.Items(kFrom), ElementsAre("Home", "Office"));
+    EXPECT_EQ(p.Text(kFrom), "Home");
+    p.Press("&Remove");
+    p.Press("&Remove");
+    library_.engine->FailAll("ModemLocationDB.dat", StoreOp::kDelete);
+    p.Press("&Remove");
+    library_.engine->FailNone();
+    p.Press("&Remove");
+    EXPECT_THAT(p.Items(kFrom), testing::IsEmpty());
+    p.Press("Cancel");
+  });
+  for (const char* name : {"Home", "Office"}) {
+    Script().ExpectWindow("Enter Name of Location", [name](Person& p) {
+      EXPECT_FALSE(p.IsEnabled("OK"));
+      p.Type("&Name:", name);
+      p.Press("OK");
+    });
+  }
+  Script().ExpectMessage("You cannot create a location with the same name as an existing location.");
+  Script().ExpectMessage(kDelete, Answer::kNo);
+  for (int i = 0; i < 2; ++i) Script().ExpectMessage(kDelete, Answer::kYes);
+  Script().ExpectMessage("Unable to delete record from modem locations database.");
+  Script().ExpectMessage(kDelete, Answer::kYes);
+  Script().ExpectMessage(kNoLocations);
+  alerting::CDialingPropertiesDlg(nullptr).RunModal();
+}
+
+TEST_F(LocationsTest, RulesAreCopiedBackOnOkAlone) {
+  char same[40] = "1", distance[40] = "2", abroad[40] = "3";
+  for (const char* button : {"Cancel", "OK"}) {
+    Script().ExpectWindow("Dialing Rules", [button](Person& p) {
+      EXPECT_EQ(p.Text("&Long distance calls:"), "2");
+      p.Type("&Calls within the same area code:", "#9!@x");
+      p.Type("&International calls:", "");
+      p.Press(button);
+    });
+    alerting::CDialingRulesDlg(nullptr, same, distance, abroad).RunModal();
+    EXPECT_STREQ(same, button == std::string("OK") ? "#9!@" : "1");
+  }
+  EXPECT_STREQ(abroad, "");
+}
+
+TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
+  const platform::GUID service = test_support::SeedService(alerting::kTypeAlpha, "Pager", 0xA5);
+  alerting::CNtfyService& pager = *test_support::Find(service);
+  const auto run = [&](desktops::Script::Story story) {
+    Script().ExpectWindow("Set Alphanumeric Pager Service Provider", std::move(story));
+    return alerting::RunSetPagerProvider(pager, nullptr);
+  };
+  Script().ExpectMessage("The service provider database is empty (has no records).");
+  EXPECT_EQ(run([](Person& p) {
+              p.Press("OK");
+              p.Press("Cancel");
+            }),
+            platform::ui::kCancel);
+
+  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
+  provider.company.Assign("Example Paging");
+  provider.regionB.Assign("North");
+  provider.phone.Assign("555-0123");
+  provider.baudRate = 2400;
+  provider.maxTextLength = 240;
+  platform::GUID id{};
+  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
+  library_.engine->FailAll("ApageNtfyServDB.dat", StoreOp::kUpdate);
+  Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [&](Person& p) {
+    p.Press("OK");
+    library_.engine->FailNone();
+    p.Press("OK");
+  });
+  Script().ExpectMessage("Unable to update the notification service-specific database record.");
+  EXPECT_EQ(alerting::RunSetPagerProvider(pager, nullptr), platform::ui::kOk);
+  std::string expected = test_support::StoredSpecific(alerting::kTypeAlpha,
+                                                      test_support::StoredCommon(service).specificRecordId);
+  const std::string stored = expected;
+  test_support::PutText(expected, 16, 2049, " North");
+  test_support::PutU32(expected, 2322, 240);
+  test_support::PutText(expected, 2326, 65, "Example Paging");
+  test_support::PutText(expected, 2391, 26, "555-0123");
+  test_support::PutU32(expected, 3783, 2400);
+  for (const std::size_t offset : {3787u, 3791u, 3795u}) test_support::PutU32(expected, offset, 0);
+  EXPECT_EQ(stored, expected);
+  EXPECT_EQ(stored[4100], '\xA5') << "what the provider says nothing of stays";
+}
+
+}  // namespace
+}  // namespace stories

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/managers/snmp_managers.h"
+
+#include "alerting/managers/snmp_manager_dlg.h"
+#include "companions/alertstore/computers.h"
+#include "tests/stories/story_test.h"
+#include "tests/support/service_fixture.h"
+
+namespace stories {
+namespace {
+
+using alerting::CSnmpManagerDlg;
+using alertstore::ALRTUSR_SNMPSERVICEREC;
+using desktops::Person;
+using test_support::StoreOp;
+using testing::ElementsAre;
+
+constexpr char kAdd[] = "Add SNMP Manager";
+constexpr char kProperties[] = "SNMP Manager Properties";
+constexpr char kMachine[] = "&Machine Name:";
+constexpr char kCommunity[] = "&Community:";
+constexpr char kAddress[] = "&Network Address:";
+constexpr char kComment[] = "C&omment:";
+
+class SnmpManagerTest : public StoryTest {
+ protected:
+  static auto& Store() { return alerting::UserStore<alertstore::CAlertUSR_SNMPDB>(); }
+  void SetUp() override { alerting::EnsureStoresOpen(); }
+
+  std::vector<ALRTUSR_SNMPSERVICEREC> Stored() {
+    return test_support::RecordsOf(Store(), alertstore::kSnmpManagerByIdentity);
+  }
+  ALRTUSR_SNMPSERVICEREC AddManager(const std::string& address) {
+    ALRTUSR_SNMPSERVICEREC manager{};
+    platform::GUID id{};
+    std::memset(&manager, 0xA5, sizeof manager);
+    manager.address.Assign(address);
+    manager.computer.Assign("OLD");
+    EXPECT_EQ(Store().DBAlertRecAdd(manager, id), alertstore::kOk);
+    return manager;
+  }
+  int Run(const char* caption, ALRTUSR_SNMPSERVICEREC* manager, desktops::Script::Story story) {
+    Script().ExpectWindow(caption, std::move(story));
+    return CSnmpManagerDlg(nullptr, manager).RunModal();
+  }
+
+  test_support::LibraryUnderTest library_;
+};
+
+TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
+  ASSERT_EQ(alertstore::AddComputer(platform::GUID::Generate(), "OPERATIONS"), alertstore::kOk);
+  library_.agentui.chosen_address = "192.0.2.25";
+  Script().ExpectWindow(kAdd, [](Person& p) {
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.PressBeside(kMachine, "...");
+    EXPECT_EQ(p.Text(kMachine), "OPERATIONS");
+    p.Type(kAddress, "1");
+    EXPECT_TRUE(p.IsEnabled("OK"));
+    p.Type(kAddress, "");
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.PressBeside(kAddress, "...");
+    EXPECT_TRUE(p.IsEnabled("OK"));
+    p.Type(kCommunity, std::string(70, 'c'));
+    p.Type(kComment, "on call");
+    p.Press("OK");
+  });
+  Script().ExpectWindow("Choose Computer", [](Person& p) { p.Press("OK"); });
+  CSnmpManagerDlg dialog(nullptr, nullptr);
+  EXPECT_EQ(dialog.RunModal(), platform::ui::kOk);
+  ASSERT_EQ(Stored().size(), 1u);
+  const std::string bytes(reinterpret_cast<const char*>(&Stored()[0]), sizeof(ALRTUSR_SNMPSERVICEREC));
+  std::string expected(2309, '\0');
+  expected.replace(0, 16, bytes, 0, 16);
+  test_support::PutText(expected, 97, 65, "OPERATIONS");
+  test_support::PutText(expected, 162, 29, "192.0.2.25");
+  test_support::PutText(expected, 191, 2049, "on call");
+  test_support::PutU32(expected, 2240, 1);
+  test_support::PutText(expected, 2244, 65, std::string(64, 'c'));
+  EXPECT_EQ(bytes, expected);
+  EXPECT_EQ(dialog.Record().guid, Stored()[0].guid);
+  EXPECT_THAT(library_.agentui.recorded, ElementsAre("192.0.2.25", std::string(64, 'c')));
+}
+
+TEST_F(SnmpManagerTest, AChangedManagerKeepsTheBytesThatAreNotShown) {
+  ALRTUSR_SNMPSERVICEREC manager = AddManager("192.0.2.1");
+  manager.community.Assign("");
+  EXPECT_EQ(Run(kProperties, &manager,
+                [](Person& p) {
+                  EXPECT_EQ(p.Text(kAddress), "192.0.2.1");
+                  EXPECT_EQ(p.Text(kMachine), "OLD");
+                  p.Type(kMachine, "NEW");
+                  p.Type(kComment, "");
+                  p.Press("OK");
+                }),
+            platform::ui::kOk);
+  const ALRTUSR_SNMPSERVICEREC stored = Stored()[0];
+  EXPECT_EQ(stored.computer.View(), "NEW");
+  EXPECT_EQ(stored.enabled, 0xA5A5A5A5u);
+  EXPECT_EQ(stored.unused16[80], 0xA5);
+  EXPECT_THAT(library_.agentui.recorded, ElementsAre("192.0.2.1")) << "no community";
+  EXPECT_EQ(Run(kProperties, &manager,
+                [](Person& p) {
+                  p.Type(kMachine, "CANCELLED");
+                  p.Press("Cancel");
+                }),
+            platform::ui::kCancel);
+  EXPECT_EQ(Stored()[0].computer.View(), "NEW");
+}
+
+TEST_F(SnmpManagerTest, AFailedWriteKeepsTheDialogAndItsInput) {
+  struct Case {
+    const char* caption;
+    const char* message;
+    StoreOp op;
+  };
+  ALRTUSR_SNMPSERVICEREC manager = AddManager("192.0.2.1");
+  for (const Case& c :
+       {Case{kAdd, "Unable to add a record to the SNMP Managers database.", StoreOp::kAdd},
+        {kProperties, "Unable to update a record in the SNMP Managers database.", StoreOp::kUpdate},
+        {kProperties, "Unable to update a record in the SNMP Managers database.", StoreOp::kLock}}) {
+    library_.engine->FailAll("UsrSnmpDB.dat", c.op);
+    Script().ExpectWindow(c.caption, [&](Person& p) {
+      p.Type(kAddress, "192.0.2.9");
+      p.Press("OK");
+      EXPECT_EQ(p.Text(kAddress), "192.0.2.9");
+      EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+      p.Press("Cancel");
+    });
+    Script().ExpectMessage(c.message);
+    CSnmpManagerDlg(nullptr, c.caption == kAdd ? nullptr : &manager).RunModal();
+    library_.engine->FailNone();
+    EXPECT_EQ(Stored().size(), 1u);
+    EXPECT_EQ(Stored()[0].address.View(), "192.0.2.1");
+  }
+}
+
+TEST_F(SnmpManagerTest, TheListShowsTheFirstHundred) {
+  platform::ui::Dialog dialog(nullptr, "List");
+  platform::ui::ListView list(dialog, 1, "List");
+  EXPECT_FALSE(alerting::FillSnmpManagerList(list, true));
+  for (int i = 0; i < 101; ++i) AddManager("192.0.2." + std::to_string(i));
+  EXPECT_FALSE(alerting::FillSnmpManagerList(list, false)) << "as last loaded";
+  EXPECT_TRUE(alerting::FillSnmpManagerList(list, true));
+  EXPECT_EQ(list.RowCount(), 100);
+  EXPECT_EQ(list.Cell(99, 0), "192.0.2.99");
+  EXPECT_EQ(alerting::SnmpManagerOfRow(list, 100), nullptr);
+}
+
+}  // namespace
+}  // namespace stories
