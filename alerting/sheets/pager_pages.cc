@@ -38,7 +38,7 @@ CPropPgNumericPageGeneral::CPropPgNumericPageGeneral()
       delay_(*this, kIdDelay, "&Delay:", 0, 60, 2) {
   SetLayout(FramesOver("Numeric pagers can send a message consisting only of numbers 0-9, *, and #.",
                        {ui::Note("Set the number of seconds for the modem to wait after dialing."),
-                        ui::Row({ui::Field(delay_.edit), ui::Stretch()})}));
+                        ui::Row({delay_.Place(), ui::Stretch()})}));
 }
 
 void CPropPgNumericPageGeneral::Exchange(ui::DataExchange& x) {
@@ -54,8 +54,8 @@ CPropPgAlphaGeneral2::CPropPgAlphaGeneral2()
       phone_(*this, kIdPhone, "P&hone:"),
       set_provider_(*this, kIdSetProvider, "&Set service provider") {
   SetLayout(FramesOver("Alphanumeric pagers can receive messages consiting of text and numbers.",
-                       {ui::Row({ui::Column({ui::Field(company_), ui::Field(location_)}),
-                                 ui::Column({ui::Field(text_length_.edit), ui::Field(phone_)})}),
+                       {ui::Grid({ui::Row({ui::Field(company_), text_length_.Place()}),
+                                  ui::Row({ui::Field(location_), ui::Field(phone_)})}),
                         ui::Row({ui::Bare(set_provider_), ui::Stretch()})}));
   company_.SetLimit(kMaxCompany);
   location_.SetLimit(kMaxLocation);

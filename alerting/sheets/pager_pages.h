@@ -18,7 +18,9 @@ struct NumberField {
   NumberField(ui::Form& page, int id, std::string label, int lower, int upper, std::size_t digits);
 
   void Exchange(ui::DataExchange& x, std::uint32_t& value);
+  ui::LayoutNode Place() { return ui::Characters(kCharacters, ui::Field(edit)); }
 
+  static constexpr int kCharacters = 6;
   ui::Edit edit;
   ui::Spin spin;
 };
