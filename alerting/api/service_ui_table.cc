@@ -19,10 +19,10 @@ void InstallServiceUiTable() {
   table[kTypeWave].property_sheet = RunSheet<CSheetServiceWave>;
   table[kTypeTts].property_sheet = RunSheet<CSheetServiceTTS>;
   table[kTypeAlpha].property_sheet = RunSheet<CSheetServiceAlpha>;
+  table[kTypeAlpha].choose_provider = RunSetPagerProvider;
   table[kTypeNumeric].property_sheet = RunSheet<CSheetServiceNum>;
   table[kTypeGeneric].property_sheet = RunSheet<CSheetServiceGeneric>;
   table[kTypeProgram].property_sheet = RunSheet<CSheetServiceProg>;
-  table[kTypeAlpha].choose_provider = RunSetPagerProvider;
   SetServiceUiTable(table);
 }
 

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/alerting.h"
-#include "alerting/services/default_message.h"
-#include "alerting/services/service_ui.h"
 #include "companions/dbconfig/dbconfig.h"
 #include "platform/base/paths.h"
 #include "tests/stories/story_test.h"
@@ -482,34 +480,31 @@ TEST_F(ServiceSheetsTest, NumbersWrapAroundTheirEndsAndAreRefusedBeyondThem) {
   }
 }
 
-/// Stands in for the dialog that chooses a paging provider, which stores what was chosen.
-int StoreProvider(alerting::CNtfyService& service, platform::ui::Window*) {
-  auto record = *static_cast<alertstore::ALRTAPAGESERVICEREC*>(service.GetSpecificRecord());
-  record.providerCompany.Assign("Chosen");
-  record.providerLocation.Assign(" ");
-  record.maxTextLength = 40;
-  auto* store = alerting::ServiceStore().SpecificStore<alertstore::ALRTAPAGESERVICEREC>();
-  return store->DBAlertRecUpdate(record) == alertstore::kOk ? kOk : kCancel;
-}
-
 TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
   Seed(alerting::kTypeAlpha);
-  alerting::ServiceUiTable table{};
-  table[alerting::kTypeAlpha] = alerting::ServiceUiOf(alerting::kTypeAlpha);
-  table[alerting::kTypeAlpha].choose_provider = StoreProvider;
-  alerting::SetServiceUiTable(table);
-  Open([](Person& p) {
+  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
+  provider.company.Assign("Chosen");
+  provider.maxTextLength = 40;
+  platform::GUID id{};
+  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
+  Expect([](Person& p) {
     p.Type("&Company:", "Mine");
     p.Type(kLength, "30");
     p.Press("&Set service provider");
+    EXPECT_EQ(p.Text("&Company:"), "Mine") << "cancelled";
+    p.Press("&Set service provider");
     EXPECT_EQ(p.Text("&Company:"), "Chosen");
-    EXPECT_EQ(p.Text("&Location:"), "");
+    EXPECT_EQ(p.Text("&Location:"), "") << "stored as a blank";
     EXPECT_EQ(p.Text(kLength), "40");
     p.SelectTab(kMessageTab);
     p.Type(kHalfBody, std::string(50, 'b'));
     EXPECT_EQ(p.Text(kHalfBody).size(), 40u) << "as long as the new provider takes";
     p.Press("Cancel");
   });
+  for (const char* button : {"Cancel", "OK"})
+    Script().ExpectWindow("Set Alphanumeric Pager Service Provider",
+                          [button](Person& p) { p.Press(button); });
+  EXPECT_EQ(Open(), kCancel);
   EXPECT_THAT(Bytes(), HasSubstr("Chosen"));
 }
 
