@@ -23,6 +23,8 @@ void InstallServiceUiTable() {
   table[kTypeNumeric].property_sheet = RunSheet<CSheetServiceNum>;
   table[kTypeGeneric].property_sheet = RunSheet<CSheetServiceGeneric>;
   table[kTypeProgram].property_sheet = RunSheet<CSheetServiceProg>;
+  for (const TypeCode code : {kTypeMci, kTypeCompuServe, kTypeAlpha, kTypeNumeric, kTypeGeneric})
+    table[code].backup_modem_sheet = RunSheet<CSheetServiceModem>;
   SetServiceUiTable(table);
 }
 

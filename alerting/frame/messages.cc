@@ -16,6 +16,13 @@ bool Fail(int string_id, platform::ui::Window* parent) {
   return false;
 }
 
+bool Ask(int string_id, platform::ui::Window* parent) {
+  const platform::ModuleScope scope(TheModule());
+  return platform::ui::MessageBox(Text(string_id), platform::ui::Buttons::kYesNo,
+                                  platform::ui::MessageIcon::kQuestion,
+                                  parent) == platform::ui::Answer::kYes;
+}
+
 void ShowErrorCode(std::uint32_t status) {
   char text[64];
   std::snprintf(text, sizeof(text), Text(kIdsErrorCode).c_str(), status);

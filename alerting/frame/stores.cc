@@ -19,6 +19,7 @@ StoreSet& TheStores() {
 
 CAlertSERV_INST_NTFY_SERVDB& EnabledServiceStore() { return OrClosed(TheStores().enabled_services); }
 CAlertSERV_MODEMDB& ModemStore() { return OrClosed(TheStores().modems); }
+CAlertSERV_MODEMDB& ModemTypeStore() { return OrClosed(TheStores().modem_types); }
 CAlert_SRV_CFGDB& ManagerStore() { return OrClosed(TheStores().managers); }
 CAlertMODEM_LOCATIONDB& LocationStore() { return OrClosed(TheStores().locations); }
 CAlertAPAGE_SERVICE_PROVIDERDB& ProviderStore() { return OrClosed(TheStores().providers); }

@@ -55,6 +55,7 @@ StoreSet& TheStores();
 // kStoreClosed to everything, so that nothing crashes between CloseDBs and the next OpenDBs.
 CAlertSERV_INST_NTFY_SERVDB& EnabledServiceStore();
 CAlertSERV_MODEMDB& ModemStore();
+CAlertSERV_MODEMDB& ModemTypeStore();
 CAlert_SRV_CFGDB& ManagerStore();
 CAlertMODEM_LOCATIONDB& LocationStore();
 CAlertAPAGE_SERVICE_PROVIDERDB& ProviderStore();

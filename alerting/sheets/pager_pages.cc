@@ -3,6 +3,7 @@
 
 #include "alerting/services/ntfy_service_num.h"
 #include "alerting/services/service_ui.h"
+#include "alerting/sheets/service_sheets.h"
 #include "platform/ui/modal.h"
 
 namespace alerting {
@@ -86,6 +87,7 @@ void CPropPgAlphaGeneral2::OnSetProvider() {
   Service().ReloadRecords();
   ReadProvider();
   UpdateData(false);
+  if (auto* sheet = dynamic_cast<CSheetServiceAlpha*>(OwnSheet())) sheet->RefreshModemPage();
 }
 
 bool CPropPgAlphaGeneral2::SaveFields() {

@@ -209,12 +209,22 @@ TEST_F(ServiceSheetsTest, WhatIsEnteredOnEveryPageReachesTheStoreAndTheConfigura
   }
 }
 
+Labels TabsOf(const SheetRow& row) {
+  Labels tabs{"General"};
+  if (!row.message.empty()) tabs.push_back(kMessageTab);
+  constexpr std::uint32_t kDialing[] = {alerting::kTypeMci, alerting::kTypeCompuServe, alerting::kTypeAlpha,
+                                        alerting::kTypeNumeric, alerting::kTypeGeneric};
+  if (std::find(std::begin(kDialing), std::end(kDialing), row.code) != std::end(kDialing))
+    tabs.push_back("Modems");
+  return tabs;
+}
+
 TEST_F(ServiceSheetsTest, CancelWritesNothingAndEveryControlHasItsHelp) {
   for (const SheetRow& row : Rows()) {
     SCOPED_TRACE(alerting::GetServiceTypeName(row.code));
     Seed(row.code);
     const int result = Open([&](Person& p) {
-      EXPECT_EQ(p.Tabs(), row.message.empty() ? Labels{"General"} : (Labels{"General", kMessageTab}));
+      EXPECT_EQ(p.Tabs(), TabsOf(row));
       TypeAll(p, row.general);
       Labels controls = row.buttons;
       controls.insert(controls.end(), {kEnable, "&Test"});

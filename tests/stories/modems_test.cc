@@ -1,0 +1,423 @@
+// SPDX-License-Identifier: MIT
+#include "alerting/sheets/service_sheets.h"
+#include "alerting/telephony/locations.h"
+#include "alerting/telephony/manage_modem_types_dlg.h"
+#include "alerting/telephony/modem_lists.h"
+#include "alerting/telephony/modem_properties_dlg.h"
+#include "alerting/telephony/new_modem_dlgs.h"
+#include "tests/stories/story_test.h"
+#include "tests/support/service_fixture.h"
+
+namespace stories {
+namespace {
+
+using alertstore::ALRTSERV_MODEM;
+using desktops::Person;
+using platform::GUID;
+using platform::ui::Answer;
+using test_support::StoreOp;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+constexpr char kModem[] = "Modem Properties";
+constexpr char kNoModems[] =
+    "No records in the modem database. You will need to add a location (using the New button) in order to "
+    "use a modem.";
+constexpr char kPage[] = "Modems";
+
+class ModemsTest : public StoryTest {
+ protected:
+  void SetUp() override {
+    alerting::EnsureStoresOpen();
+    ASSERT_TRUE(alerting::CreateLocation("Office", office_));
+    alertstore::ALRT_SRV_CFGREC manager{};
+    manager.managerName.Assign("ALPHA");
+    ASSERT_EQ(alerting::ManagerStore().DBAlertRecAdd(manager, alpha_), alertstore::kOk);
+    type_ = Add(alerting::ModemTypeStore(), "Courier", [](ALRTSERV_MODEM& type) {
+      type.initString.Assign("AT&F1");
+      type.hangupString.Assign("ATH0");
+      type.dialPrefix.Assign("ATDT");
+      type.baudRate = 9600;
+      type.comPort = 2;
+      type.capabilities = 3;
+    });
+    modem_ = Add(alerting::ModemStore(), "Modem", [&](ALRTSERV_MODEM& modem) {
+      modem.baudRate = 1200;
+      modem.comPort = 1;
+      modem.managerGuid = alpha_;
+      modem.managerName.Assign("ALPHA");
+      modem.locationGuid = office_;
+      modem.modemTypeGuid = type_;
+      modem.reserved[7] = 0xA5;
+    });
+  }
+
+  template <class Store, class Fill>
+  static GUID Add(Store& store, const char* name, Fill fill) {
+    ALRTSERV_MODEM record{};
+    GUID id{};
+    fill(record);
+    record.name.Assign(name);
+    EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk) << name;
+    return id;
+  }
+  static std::string Bytes(alerting::ModemStoreOf store, const GUID& id) {
+    ALRTSERV_MODEM record{};
+    EXPECT_TRUE(alerting::FindModemOrFirst(store, id, record));
+    return {reinterpret_cast<const char*>(&record), sizeof record};
+  }
+  int Edit(desktops::Script::Story story) {
+    Script().ExpectWindow(kModem, std::move(story));
+    return alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+  }
+
+  test_support::LibraryUnderTest library_;
+  GUID office_{}, alpha_{}, type_{}, modem_{};
+};
+
+TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
+  std::string expected = Bytes(alerting::ModemStore, modem_);
+  Script().ExpectWindow(kModem, [](Person& p) {
+    EXPECT_EQ(p.Text("&Type:"), "Courier");
+    EXPECT_EQ(p.Text("I am dialing &from"), "Office");
+    EXPECT_FALSE(p.IsEnabled("&Apply"));
+    p.Press("Ad&vanced");
+    EXPECT_TRUE(p.IsEnabled("&Apply"));
+    p.Choose("&Port:", "COM4:");
+    p.Choose("&Baud rate:", "57600");
+    p.Type("&Comment:", "in the rack");
+    p.Check("&Enable", true);
+    p.Check("&Online Service", true);
+    p.Check("&Numeric Pager", true);
+    EXPECT_FALSE(p.IsVisible("&Voice"));
+    p.Press("OK");
+  });
+  Script().ExpectWindow("Modem Advanced Properties", [](Person& p) {
+    p.Type("&Initialization string:", "ATZ");
+    p.Type("&Hangup string:", "+++ATH");
+    p.Type("Dialing &prefix string:", "ATDP");
+    p.Type("Dialing &suffix string:", ";");
+    p.Type("&Escape string:", "+++");
+    p.Type("&Alpha pager initialization string:", std::string(300, 'A'));
+    p.Press("OK");
+  });
+  EXPECT_EQ(alerting::CModemPropertiesDlg(nullptr, platform::kNullGuid).RunModal(), platform::ui::kOk);
+  test_support::PutText(expected, 162, 2049, "in the rack");
+  test_support::PutU32(expected, 2211, 1);
+  test_support::PutText(expected, 2215, 256, "ATZ");
+  test_support::PutText(expected, 2471, 36, "+++ATH");
+  test_support::PutText(expected, 2507, 36, "ATDP");
+  test_support::PutText(expected, 2543, 36, ";");
+  test_support::PutText(expected, 2579, 36, std::string(35, 'A'));
+  test_support::PutU32(expected, 2615, 57600);
+  test_support::PutU32(expected, 2619, 4);
+  test_support::PutU32(expected, 2623, 1 + 4);
+  test_support::PutText(expected, 2627, 36, "+++");
+  EXPECT_EQ(Bytes(alerting::ModemStore, modem_), expected);
+}
+
+TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
+  Edit([](Person& p) {
+    p.Check("&Numeric Pager", true);
+    p.Check("Direct Po&rt I/O", true);
+    EXPECT_FALSE(p.IsChecked("&Numeric Pager"));
+    EXPECT_FALSE(p.IsEnabled("A&lpha Pager"));
+    p.Press("&Apply");
+    EXPECT_FALSE(p.IsEnabled("&Apply"));
+    p.Check("Direct Po&rt I/O", false);
+    EXPECT_TRUE(p.IsEnabled("A&lpha Pager"));
+    p.Press("Cancel");
+  });
+  ALRTSERV_MODEM stored{};
+  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, modem_, stored));
+  EXPECT_EQ(stored.capabilities, 16u) << "what was applied stays after Cancel";
+  const GUID other = Add(alerting::ModemTypeStore(), "Zoom", [](ALRTSERV_MODEM& type) {
+    type.initString.Assign("ATX4");
+    type.baudRate = 300;
+  });
+  Edit([](Person& p) {
+    p.Choose("&Type:", "Zoom");
+    p.Press("OK");
+  });
+  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, modem_, stored));
+  EXPECT_EQ(stored.name.View(), "Zoom");
+  EXPECT_EQ(stored.initString.View(), "ATX4");
+  EXPECT_EQ(stored.modemTypeGuid, other);
+  EXPECT_EQ(stored.baudRate, 1200u);
+}
+
+TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
+  const std::string before = Bytes(alerting::ModemStore, modem_);
+  ASSERT_TRUE(alerting::DeleteLocation("Office"));
+  GUID home{};
+  ASSERT_TRUE(alerting::CreateLocation("Home", home));
+  Script().ExpectWindow(kModem, [&](Person& p) {
+    p.Type("&Comment:", "kept");
+    p.Press("OK");
+    p.Choose("I am dialing &from", "Home");
+    library_.engine->FailAll("ModemDB.dat", StoreOp::kUpdate);
+    p.Press("OK");
+    library_.engine->FailAll("ModemDB.dat", StoreOp::kLock);
+    p.Press("&Apply");
+    library_.engine->FailNone();
+    ASSERT_EQ(alerting::ManagerStore().DBAlertRecDelete(alpha_), alertstore::kOk);
+    p.Press("OK");
+    EXPECT_EQ(p.Text("&Comment:"), "kept");
+    EXPECT_TRUE(p.IsEnabled("&Apply"));
+    EXPECT_THAT(library_.engine->HeldLocks(), IsEmpty());
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage("You must select a location for the modem before you update the record.");
+  for (int i = 0; i < 2; ++i) Script().ExpectMessage("Unable to update the modem database record.");
+  Script().ExpectMessage("No records in the Alert Manager database.");
+  Script().ExpectMessage("You must select an alert manager for the modem before you update the record.");
+  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+  EXPECT_EQ(Bytes(alerting::ModemStore, modem_), before);
+}
+
+TEST_F(ModemsTest, LocationsAreMadeAndEditedFromAModem) {
+  Script().ExpectWindow(kModem, [](Person& p) {
+    p.Press("Ne&w...");
+    EXPECT_EQ(p.Text("I am dialing &from"), "Home");
+    p.Press("E&dit...");
+    EXPECT_EQ(p.Text("I am dialing &from"), "Office");
+    EXPECT_TRUE(p.IsEnabled("&Apply"));
+    p.Press("Cancel");
+  });
+  Script().ExpectWindow("Enter Name of Location", [](Person& p) {
+    p.Type("&Name:", "Home");
+    p.Press("OK");
+  });
+  Script().ExpectWindow("Dialing Properties", [](Person& p) { p.Press("OK"); });
+  Script().ExpectWindow("Dialing Properties", [](Person& p) {
+    EXPECT_EQ(p.Text("I am &dialing from:"), "Home");
+    p.Choose("I am &dialing from:", "Office");
+    p.Press("OK");
+  });
+  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+}
+
+TEST_F(ModemsTest, ANewModemTakesAProposedNameAndItsTypesSettings) {
+  for (const char* name : {"Courier", "Courier (2)"}) Add(alerting::ModemStore(), name, [](auto&) {});
+  Script().ExpectWindow("Create new modem", [&](Person& p) {
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.Choose("&Select modem type for the new modem:", "Courier");
+    EXPECT_EQ(p.Text("&Enter name for new modem:"), "Courier (3)");
+    p.Type("&Enter name for new modem:", "Modem");
+    p.Press("OK");
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.Type("&Enter name for new modem:", "Mine");
+    library_.engine->FailAll("ModemDB.dat", StoreOp::kAdd);
+    p.Press("OK");
+    library_.engine->FailNone();
+    p.Type("&Enter name for new modem:", "Mine!");
+    p.Press("OK");
+  });
+  Script().ExpectMessage(
+      "You cannot create a modem with the same name as an existing modem.  Try changing the name of the "
+      "modem to one "
+      "that is not in use.");
+  Script().ExpectMessage("Unable to add record to the modem database.");
+  alerting::CNewModemDlg dialog(nullptr);
+  ASSERT_EQ(dialog.RunModal(), platform::ui::kOk);
+  ALRTSERV_MODEM made{};
+  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, dialog.Modem(), made));
+  EXPECT_EQ(made.name.View(), "Mine!");
+  EXPECT_EQ(made.modemTypeGuid, type_);
+  EXPECT_EQ(made.dialPrefix.View(), "ATDT");
+  EXPECT_EQ(made.baudRate, 9600u);
+}
+
+TEST_F(ModemsTest, TypesAreMadeChangedAndRemovedAtOnce) {
+  Script().ExpectWindow("Manage Modem Types", [&](Person& p) {
+    EXPECT_FALSE(p.IsEnabled("&Remove"));
+    p.Press("&New...");
+    p.Press("&New...");
+    EXPECT_THAT(p.Items("&Modem Types:"), ElementsAre("Courier", "Mine"));
+    p.Choose("&Modem Types:", "Courier");
+    p.Press("&Remove");
+    library_.engine->FailAll("QModemDB.dat", StoreOp::kDelete);
+    p.Choose("&Modem Types:", "Courier");
+    p.Press("&Remove");
+    library_.engine->FailNone();
+    p.Choose("&Modem Types:", "Courier");
+    p.Press("&Remove");
+    EXPECT_THAT(p.Items("&Modem Types:"), ElementsAre("Mine"));
+    p.Press("Close");
+  });
+  for (const char* name : {"Mine", "Courier"}) {
+    Script().ExpectWindow("Create new modem type", [name](Person& p) {
+      p.Type("&Enter name of the new type:", name);
+      EXPECT_FALSE(p.IsEnabled("OK"));
+      p.Choose("&Select modem type to use as a basis for the new type:", "Courier");
+      p.Press("OK");
+    });
+    if (std::string(name) == "Mine") {
+      Script().ExpectWindow("Modem Type Properties", [](Person& p) {
+        EXPECT_EQ(p.Text("&Type:"), "Mine");
+        EXPECT_FALSE(p.IsEnabled("&Type:"));
+        p.Check("Po&rt", true);
+        p.Choose("&Machine:", "ALPHA");
+        p.Press("OK");
+      });
+    }
+  }
+  Script().ExpectMessage("You cannot create a modem type with the same name as an existing modem type.");
+  constexpr char kRemove[] =
+      "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
+      "later.";
+  Script().ExpectMessage(kRemove, Answer::kNo);
+  Script().ExpectMessage(kRemove, Answer::kYes);
+  Script().ExpectMessage("Unable to delete record in the modem database.");
+  Script().ExpectMessage(kRemove, Answer::kYes);
+  alerting::CManageModemTypesDlg(nullptr).RunModal();
+  ALRTSERV_MODEM mine{};
+  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemTypeStore, platform::kNullGuid, mine));
+  EXPECT_EQ(mine.name.View(), "Mine");
+  EXPECT_EQ(mine.capabilities, 16u);
+  EXPECT_EQ(mine.managerName.View(), "ALPHA");
+}
+
+TEST_F(ModemsTest, ListsEndAtTheirRoom) {
+  platform::ui::Dialog dialog(nullptr, "Lists");
+  platform::ui::ListView list(dialog, 1, "List");
+  platform::ui::ComboBox types(dialog, 2, "Types", true), rates(dialog, 3, "Rates");
+  for (int i = 0; i < 256; ++i) Add(alerting::ModemStore(), ("M" + std::to_string(i)).c_str(), [](auto&) {});
+  alerting::FillModemListCtrl(list, modem_);
+  EXPECT_EQ(list.RowCount(), 256);
+  EXPECT_EQ(list.SelectedRow(), 0);
+  alerting::FillBaudRateCombo(rates, 9600, 19200);
+  EXPECT_EQ(rates.Text(), "9600");
+  EXPECT_EQ(rates.Count(), 9);
+  alerting::FillModemTypeCombo(types, "courier");
+  EXPECT_EQ(types.Current(), -1) << "names are compared byte by byte";
+  ASSERT_TRUE(alerting::DeleteModemType(type_));
+  Script().ExpectMessage(kNoModems);
+  alerting::FillModemTypeCombo(types);
+}
+
+class ModemPageTest : public ModemsTest {
+ protected:
+  void SetUp() override {
+    ModemsTest::SetUp();
+    service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager");
+  }
+  /// Opens the sheet at its Modems page.
+  template <class Sheet>
+  void Open(desktops::Script::Story story) {
+    Script().ExpectWindow("Pager", [story](Person& p) {
+      p.SelectTab(kPage);
+      story(p);
+    });
+    alerting::RunSheet<Sheet>(*test_support::Find(service_), nullptr);
+  }
+  std::string Stored(bool backup) {
+    const auto common = test_support::StoredCommon(service_);
+    return test_support::StoredSpecific(alerting::kTypeNumeric,
+                                        backup ? common.backupSpecificRecordId : common.specificRecordId);
+  }
+
+  GUID service_{};
+};
+
+TEST_F(ModemPageTest, TheChosenModemAndLineGoIntoTheRecord) {
+  service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager", 0xA5);
+  test_support::Find(service_);  // makes the backup record
+  std::string expected = Stored(false);
+  Script().ExpectWindow("Pager", [](Person& p) {
+    p.Type("&Delay:", "12");
+    p.SelectTab(kPage);
+    EXPECT_THAT(p.Rows(kPage), ElementsAre(ElementsAre("Modem", "ALPHA", "COM1", "1200")));
+    EXPECT_FALSE(p.IsEnabled("&Properties"));
+    EXPECT_EQ(p.ChosenOption("Data Bits"), "") << "a stored value outside the table";
+    p.Type("&Script File:", "dial.scr");
+    p.Press("OK");
+    p.ClickRow(kPage, 0);
+    EXPECT_TRUE(p.IsEnabled("&Properties"));
+    p.Choose("&Baud Rate:", "2400");
+    p.ChooseOption("Data Bits", "&7");
+    p.ChooseOption("Parity", "&Even");
+    p.ChooseOption("Stop Bits", "&2");
+    p.Press("OK");
+  });
+  Script().ExpectMessage("You must select a modem before you update the record.");
+  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+  test_support::PutU32(expected, 2065, 12);
+  test_support::PutText(expected, 2069, 65, "Modem");
+  expected.replace(2134, 16, reinterpret_cast<const char*>(&modem_), 16);
+  test_support::PutText(expected, 3170, 261, "dial.scr");
+  test_support::PutU32(expected, 3431, 2400);
+  test_support::PutU32(expected, 3435, 7);
+  test_support::PutU32(expected, 3439, 2);
+  test_support::PutU32(expected, 3443, 2);
+  for (const auto& [offset, width] : {std::pair{3447u, 256u}, {3703u, 36u}, {3743u, 36u}})
+    test_support::PutText(expected, offset, width, "");
+  expected.replace(3739, 4, 4, '\0');
+  EXPECT_EQ(Stored(false), expected);
+}
+
+TEST_F(ModemPageTest, TheBackupLinkIsTheOtherRecord) {
+  test_support::Find(service_);
+  const std::string primary = Stored(false);
+  Open<alerting::CSheetServiceModem>([](Person& p) {
+    p.ClickRow(kPage, 0);
+    p.Press("OK");
+  });
+  EXPECT_EQ(Stored(false), primary);
+  EXPECT_EQ(Stored(true).substr(2134, 16), std::string(reinterpret_cast<const char*>(&modem_), 16));
+}
+
+TEST_F(ModemPageTest, ModemsAreMadeChangedAndRemovedAtOnceWhateverBecomesOfTheSheet) {
+  Script().ExpectWindow("Pager", [](Person& p) {
+    p.SelectTab(kPage);
+    p.Press("Ne&w...");
+    EXPECT_EQ(p.Rows(kPage).size(), 2u);
+    p.DoubleClickRow(kPage, 0);
+    p.ClickRow(kPage, 1);
+    p.Press(platform::ui::Key::kDelete);
+    p.ClickRow(kPage, 1);
+    p.Press("&Delete");
+    EXPECT_EQ(p.Rows(kPage).size(), 1u);
+    EXPECT_FALSE(p.IsEnabled("&Delete"));
+    p.Press("&Manage Modem Types");
+    p.Press("Cancel");
+  });
+  Script().ExpectWindow("Create new modem", [](Person& p) {
+    p.Choose("&Select modem type for the new modem:", "Courier");
+    p.Press("OK");
+  });
+  for (int i = 0; i < 2; ++i) Script().ExpectWindow(kModem, [](Person& p) { p.Press("Cancel"); });
+  constexpr char kDelete[] =
+      "Are you sure you want to delete the modem?  This operation is immediate and cannot be canceled later.";
+  Script().ExpectMessage(kDelete, Answer::kNo);
+  Script().ExpectMessage(kDelete, Answer::kYes);
+  Script().ExpectWindow("Manage Modem Types", [](Person& p) { p.Press("Close"); });
+  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+}
+
+TEST_F(ModemPageTest, AModemThatIsGoneIsToldAndPagersHaveNoScript) {
+  Script().ExpectWindow("Pager", [&](Person& p) {
+    p.SelectTab(kPage);
+    p.ClickRow(kPage, 0);
+    ASSERT_TRUE(alerting::DeleteModem(modem_));
+    p.Press("OK");
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(
+      "Unable to find the corresponding  record in the modem database.  Try selecting a different modem.");
+  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+
+  service_ = test_support::SeedService(alerting::kTypeAlpha, "Pager");
+  alerting::TheServices().RemoveAll();
+  Script().ExpectWindow("Pager", [](Person& p) {
+    p.Type("Te&xt Length:", "80");
+    p.SelectTab(kPage);
+    EXPECT_FALSE(p.IsVisible("&Script File:"));
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(kNoModems);
+  alerting::RunSheet<alerting::CSheetServiceAlpha>(*test_support::Find(service_), nullptr);
+}
+
+}  // namespace
+}  // namespace stories
