@@ -95,8 +95,10 @@ void Tour::LookLater(int visit) {
 void Tour::Look() {
   QWidget* front = QApplication::activeModalWidget();
   if (front == nullptr) return;
-  while (!stops_.empty() && stops_.back().window != front && !stops_.back().window->isVisible())
-    stops_.pop_back();
+  const auto is_over = [front](const Stop& stop) {
+    return stop.window != front && (stop.window.isNull() || !stop.window->isVisible());
+  };
+  while (!stops_.empty() && is_over(stops_.back())) stops_.pop_back();
   if (stops_.empty() || stops_.back().window != front) return Arrive(*front);
   Stop& stop = stops_.back();
   if (!stop.pictured) return TakePage(stop);
@@ -139,6 +141,6 @@ bool Tour::NextPage(Stop& stop) {
   return true;
 }
 
-void Tour::Leave(Stop& stop) { QMetaObject::invokeMethod(stop.window, "close", Qt::QueuedConnection); }
+void Tour::Leave(Stop& stop) { QMetaObject::invokeMethod(stop.window.data(), "close", Qt::QueuedConnection); }
 
 }  // namespace alertconsole

@@ -3,6 +3,7 @@
 
 #include <QDir>
 #include <QObject>
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 #include <functional>
@@ -28,7 +29,7 @@ class Tour : public QObject {
  private:
   /// A window in front: which of its pages and buttons are still to be gone through.
   struct Stop {
-    QWidget* window;
+    QPointer<QWidget> window;  // null once it is gone: a front window may close two at a time
     QString name;
     int page = 0;
     int button = 0;
