@@ -37,9 +37,15 @@ void CManageModemTypesDlg::OnInitDialog() {
   CLibraryDialog::OnInitDialog();
 }
 
-void CManageModemTypesDlg::Refill() {
-  FillModemTypeList(types_);
+void CManageModemTypesDlg::Refill(std::string_view select_name) {
+  FillModemTypeList(types_, select_name);
   EnableButtons();
+}
+
+// Another window with a list of types took the room of the identities behind this one: they are taken anew, or a button
+// would act on another type than the one shown. An empty list has none.
+void CManageModemTypesDlg::RefillKeepingSelection() {
+  if (types_.Count() > 0) Refill(std::string(types_.ItemText(types_.Current())));
 }
 
 void CManageModemTypesDlg::EnableButtons() {
@@ -50,9 +56,9 @@ void CManageModemTypesDlg::EnableButtons() {
 void CManageModemTypesDlg::OnNew() {
   CNewModemTypeDlg dialog(this);
   GUID type{};
-  const bool asked = dialog.RunModal() == ui::kOk;
-  if (asked && !CreateModemType(dialog.Name(), dialog.Basis(), type)) return;
-  if (asked) CModemTypePropertiesDlg(this, type).RunModal();
+  if (dialog.RunModal() != ui::kOk || !CreateModemType(dialog.Name(), dialog.Basis(), type))
+    return RefillKeepingSelection();
+  CModemTypePropertiesDlg(this, type).RunModal();
   Refill();
 }
 
@@ -63,14 +69,11 @@ void CManageModemTypesDlg::OnRemove() {
   Refill();
 }
 
-// The dialog has a list of types of its own, so the identities behind this one are taken anew.
 void CManageModemTypesDlg::OnProperties() {
   GUID type{};
   if (!GetSelectedGuid(types_, type)) return;
-  const std::string name = types_.ItemText(types_.Current());
   CModemTypePropertiesDlg(this, type).RunModal();
-  FillModemTypeList(types_, name);
-  EnableButtons();
+  RefillKeepingSelection();
 }
 
 }  // namespace alerting

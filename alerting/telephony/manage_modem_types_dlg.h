@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string_view>
+
 #include "alerting/ui/library_dialog.h"
 #include "platform/ui/lists.h"
 
@@ -16,7 +18,8 @@ class CManageModemTypesDlg : public CLibraryDialog {
   void OnNew();
   void OnRemove();
   void OnProperties();
-  void Refill();
+  void Refill(std::string_view select_name = {});
+  void RefillKeepingSelection();
   void EnableButtons();
 
   ui::ListBox types_;

@@ -278,6 +278,30 @@ TEST_F(ModemsTest, TypesAreMadeChangedAndRemovedAtOnce) {
   EXPECT_EQ(mine.managerName.View(), "ALPHA");
 }
 
+// Another console changes the types between two fills of lists: what a list shows is what its buttons act on.
+TEST_F(ModemsTest, RemoveTakesTheTypeThatIsShown) {
+  for (const char* name : {"Second", "Third"}) Add(alerting::ModemTypeStore(), name, [](auto&) {});
+  Script().ExpectWindow("Manage Modem Types", [&](Person& p) {
+    ASSERT_TRUE(alerting::DeleteModemType(type_));
+    p.Press("&New...");
+    p.Choose("&Modem Types:", "Second");
+    p.Press("&Remove");
+    EXPECT_THAT(p.Items("&Modem Types:"), ElementsAre("Third"));
+    p.Press("Close");
+  });
+  Script().ExpectWindow("Create new modem type", [](Person& p) {
+    p.Type("&Enter name of the new type:", "Third");
+    p.Choose("&Select modem type to use as a basis for the new type:", "Second");
+    p.Press("OK");
+  });
+  Script().ExpectMessage("You cannot create a modem type with the same name as an existing modem type.");
+  Script().ExpectMessage(
+      "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
+      "later.",
+      Answer::kYes);
+  alerting::CManageModemTypesDlg(nullptr).RunModal();
+}
+
 TEST_F(ModemsTest, ListsEndAtTheirRoom) {
   platform::ui::Dialog dialog(nullptr, "Lists");
   platform::ui::ListView list(dialog, 1, "List");
