@@ -27,6 +27,7 @@ enum ControlId {
 // What a modem can do. Direct port I/O stands alone.
 constexpr std::uint32_t kCapNumericPager = 1, kCapAlphaPager = 2, kCapOnlineService = 4, kCapVoice = 8,
                         kCapDirectPort = 16;
+constexpr std::uint32_t kCapDialing = kCapNumericPager | kCapAlphaPager | kCapOnlineService | kCapVoice;
 
 }  // namespace
 
@@ -70,7 +71,8 @@ void CModemDialog::OnInitDialog() {
 
 void CModemDialog::Show(const ALRTSERV_MODEM& modem) {
   comment_text_ = modem.comment.View();
-  capabilities_ = modem.capabilities;
+  const bool is_direct = (modem.capabilities & kCapDirectPort) != 0;
+  capabilities_ = is_direct ? kCapDirectPort : modem.capabilities & kCapDialing;
   enabled_value_ = modem.enabled != 0;
   port_number_ = modem.comPort;
   baud_rate_ = modem.baudRate;
@@ -78,7 +80,7 @@ void CModemDialog::Show(const ALRTSERV_MODEM& modem) {
   FillComPortCombo(port_, modem.comPort);
   FillAlertManagerCombo(machine_, modem.managerGuid);
   ShowOwn(modem);
-  if (capabilities_ == kCapDirectPort) EnableOtherCapabilities();
+  if (is_direct) EnableOtherCapabilities();
 }
 
 void CModemDialog::Exchange(ui::DataExchange& x) {

@@ -146,6 +146,16 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
   EXPECT_EQ(stored.baudRate, 1200u);
 }
 
+TEST_F(ModemsTest, ADirectPortShowsNoOtherUseWhateverItsRecordSays) {
+  modem_ = Add(alerting::ModemStore(), "Port", [](ALRTSERV_MODEM& modem) { modem.capabilities = 16 + 1; });
+  Edit([](Person& p) {
+    EXPECT_TRUE(p.IsChecked("Direct Po&rt I/O"));
+    EXPECT_FALSE(p.IsChecked("&Numeric Pager"));
+    EXPECT_FALSE(p.IsEnabled("&Numeric Pager"));
+    p.Press("Cancel");
+  });
+}
+
 TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
   const std::string before = Bytes(alerting::ModemStore, modem_);
   ASSERT_TRUE(alerting::DeleteLocation("Office"));
