@@ -126,7 +126,8 @@ void CPropPgModem::OnDelete() {
 void CPropPgModem::OnBrowseScript() {
   UpdateData(true);
   CScriptOpenDialog dialog(this, settings_.scriptFile);
-  if (dialog.RunModal() != ui::kOk) return;
+  dialog.default_extension.clear();  // a script may have any name
+  if (dialog.Choose() != ui::kOk) return;
   settings_.scriptFile = dialog.Path();
   UpdateData(false);
   MarkModified();
