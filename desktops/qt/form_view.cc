@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QWhatsThis>
+#include <algorithm>
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/help_menu.h"
@@ -55,8 +56,17 @@ void FormView::Start() {
   for (Control* control : form_.Controls()) {
     if (ControlAdapter* adapter = Find(*control)) adapter->Start();
   }
+  SetWidths();
   SetTabOrder();
   FocusCurrent();
+}
+
+void FormView::SetWidths() {
+  for (const std::vector<QWidget*>& buttons : equally_wide_) {
+    int widest = 0;
+    for (const QWidget* button : buttons) widest = std::max(widest, button->sizeHint().width());
+    for (QWidget* button : buttons) button->setMinimumWidth(widest);
+  }
 }
 
 void FormView::FocusCurrent() {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 #include "desktops/qt/control_adapter.h"
 #include "platform/ui/form.h"
@@ -29,6 +30,8 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
   /// The control's adapter, made on the first call.
   ControlAdapter& Add(platform::ui::Control& control);
   ControlAdapter* Find(const platform::ui::Control& control) const;
+  /// Makes buttons as wide as the widest of them, once they have their texts.
+  void KeepEqualWidths(std::vector<QWidget*> buttons) { equally_wide_.push_back(std::move(buttons)); }
   /// Begins to observe the form and its controls; sets the tab order and the first focus.
   void Start();
   void FocusCurrent();
@@ -50,9 +53,11 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
   void OnFocusChanged(QWidget* now);
   void AskHelp(platform::ui::HelpEvent::Kind kind, platform::ui::Control* control);
   void SetTabOrder();
+  void SetWidths();
 
   platform::ui::Form& form_;
   std::map<const platform::ui::Control*, std::unique_ptr<ControlAdapter>> adapters_;
+  std::vector<std::vector<QWidget*>> equally_wide_;
   std::function<void()> on_caption_;
   bool ends_itself_ = true;
 };

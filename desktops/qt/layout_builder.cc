@@ -2,10 +2,12 @@
 #include "desktops/qt/layout_builder.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QStyle>
 #include <algorithm>
 
 #include "desktops/qt/form_view.h"
@@ -25,8 +27,13 @@ using Kind = LayoutNode::Kind;
 constexpr int kLeastWidth = 340;
 // A field's frame, and room for the caret.
 constexpr int kFieldPadding = 14;
-// Buttons that stand together are alike; longer captions get the room that they need.
-constexpr int kButtonCharacters = 12;
+
+// The width of a field that shows so many average characters; a combo box has its arrow beside them.
+int FieldWidth(const QWidget& field, int characters) {
+  const bool has_arrow = qobject_cast<const QComboBox*>(&field) != nullptr;
+  const int arrow = has_arrow ? field.style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  return field.fontMetrics().averageCharWidth() * characters + kFieldPadding + arrow;
+}
 
 /// Gives a row or column of a grid its share of the room only while the widget in it is shown; a grid would
 /// keep the room free for a hidden one.
@@ -72,12 +79,12 @@ class Builder {
   void AddToColumn(QGridLayout& grid, int row, const LayoutNode& child, bool only_buttons);
   int AddToRow(QGridLayout& grid, int column, const LayoutNode& child, bool labelled, bool tall);
   void Add(QGridLayout& grid, const LayoutNode& node, int row, int column, int span, Qt::Alignment alignment);
-  void AddEditor(QGridLayout& grid, Control& control, int row, int column, int span, Qt::Alignment alignment);
+  void AddEditor(QGridLayout& grid, const LayoutNode& node, int row, int column, int span,
+                 Qt::Alignment alignment);
   void AddOver(QGridLayout& grid, const LayoutNode& node, int row, int column, int span);
   QLabel* Label(Control& control);
   QGroupBox* Group(const LayoutNode& node);
   QLabel* Note(const std::string& text);
-  void LimitWidth(const LayoutNode& node);
   void Share(QGridLayout& grid, Qt::Orientation direction, int index, const LayoutNode& node, int share);
 
   FormView& view_;
@@ -115,10 +122,15 @@ void Builder::Share(QGridLayout& grid, Qt::Orientation direction, int index, con
 }
 
 // A spin control has no place of its own: it goes where its buddy goes.
-void Builder::AddEditor(QGridLayout& grid, Control& control, int row, int column, int span,
+void Builder::AddEditor(QGridLayout& grid, const LayoutNode& node, int row, int column, int span,
                         Qt::Alignment alignment) {
+  Control& control = *node.control;
   if (dynamic_cast<platform::ui::Spin*>(&control) != nullptr) return;
   QWidget* widget = view_.Add(control).OwnedWidget();
+  if (node.characters > 0) {
+    widget->setFixedWidth(FieldWidth(*widget, node.characters));
+    alignment |= Qt::AlignLeft;
+  }
   platform::ui::Spin* spin = SpinOf(control);
   if (spin == nullptr) {
     grid.addWidget(widget, row, column, 1, span, alignment);
@@ -136,13 +148,7 @@ void Builder::AddOver(QGridLayout& grid, const LayoutNode& node, int row, int co
   if (!CarriesLabel(*node.control) && !node.control->Label().empty()) {
     grid.addWidget(Label(*node.control), row, column, 1, span);
   }
-  AddEditor(grid, *node.control, row + 1, column, span, {});
-}
-
-void Builder::LimitWidth(const LayoutNode& node) {
-  if (node.characters == 0) return;
-  QWidget* widget = view_.Add(*node.control).OwnedWidget();
-  widget->setFixedWidth(widget->fontMetrics().averageCharWidth() * node.characters + kFieldPadding);
+  AddEditor(grid, node, row + 1, column, span, {});
 }
 
 void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column, int span,
@@ -173,8 +179,7 @@ void Builder::Add(QGridLayout& grid, const LayoutNode& node, int row, int column
     case Kind::kBefore:
     case Kind::kOver:
     case Kind::kBare:
-      AddEditor(grid, *node.control, row, column, span, alignment);
-      LimitWidth(node);
+      AddEditor(grid, node, row, column, span, alignment);
       break;
     case Kind::kStretch:
       break;
@@ -186,12 +191,12 @@ void Builder::AddToColumn(QGridLayout& grid, int row, const LayoutNode& child, b
   const bool labelled_row =
       child.kind == Kind::kRow && !child.children.empty() && HasLabelOnLeft(child.children.front());
   if (HasLabelOnLeft(child) || labelled_row) {
-    Control& control = labelled_row ? *child.children.front().control : *child.control;
-    grid.addWidget(Label(control), row, 0, IsTall(child) ? Qt::AlignTop : Qt::Alignment());
+    const LayoutNode& field = labelled_row ? child.children.front() : child;
+    grid.addWidget(Label(*field.control), row, 0, IsTall(child) ? Qt::AlignTop : Qt::Alignment());
     if (labelled_row) {
       grid.addLayout(Row(child.children, false), row, 1);
     } else {
-      AddEditor(grid, control, row, 1, 1, {});
+      AddEditor(grid, field, row, 1, 1, {});
     }
   } else if (child.kind == Kind::kOver) {
     AddOver(grid, child, row, 0, 2);
@@ -223,7 +228,7 @@ QLayout* Builder::Column(const std::vector<LayoutNode>& children) {
 // A label and its field take two columns, so that those of all rows stand one under the other.
 int Builder::AddToGrid(QGridLayout& grid, int row, int column, const LayoutNode& child) {
   if (HasLabelOnLeft(child)) grid.addWidget(Label(*child.control), row, column++);
-  Add(grid, child, row, column, 1, child.characters > 0 ? Qt::AlignLeft : Qt::Alignment());
+  Add(grid, child, row, column, 1, IsButton(child) ? Qt::AlignLeft : Qt::Alignment());
   if (IsWide(child) && child.characters == 0) grid.setColumnStretch(column, child.weight);
   return column + 1;
 }
@@ -245,11 +250,15 @@ QLayout* Builder::Grid(const std::vector<LayoutNode>& rows) {
 QLayout* Builder::Buttons(const std::vector<LayoutNode>& buttons, QBoxLayout::Direction direction) {
   auto* line = new QBoxLayout(direction);
   if (direction == QBoxLayout::LeftToRight) line->addStretch();
+  std::vector<QWidget*> alike;
   for (const LayoutNode& node : buttons) {
-    QWidget* button = view_.Add(*node.control).OwnedWidget();
-    button->setMinimumWidth(button->fontMetrics().averageCharWidth() * kButtonCharacters + kFieldPadding);
-    line->addWidget(button);
+    if (node.control == nullptr) {
+      line->addStretch();
+    } else {
+      line->addWidget(alike.emplace_back(view_.Add(*node.control).OwnedWidget()));
+    }
   }
+  view_.KeepEqualWidths(std::move(alike));
   if (direction == QBoxLayout::TopToBottom) line->addStretch();
   return line;
 }

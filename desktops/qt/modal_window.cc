@@ -2,7 +2,9 @@
 #include "desktops/qt/modal_window.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "desktops/qt/guard.h"
@@ -26,6 +28,22 @@ void ModalWindow::OnWindowChanged(platform::ui::Window& window, Change change) {
   if (change == Change::kEnded) done(modal_.Result());
 }
 
+QSize ModalWindow::WantedSize() {
+  constexpr int kTitleBarButtons = 150;
+  ensurePolished();
+  // What was put in meanwhile has only asked for its room so far.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  const int caption = fontMetrics().horizontalAdvance(windowTitle()) + kTitleBarButtons;
+  QSize size = sizeHint().expandedTo({caption, 0});
+  if (layout()->hasHeightForWidth()) size.setHeight(layout()->totalHeightForWidth(size.width()));
+  return size.boundedTo(screen()->availableSize());
+}
+
+void ModalWindow::setVisible(bool visible) {
+  if (visible && !testAttribute(Qt::WA_Resized)) resize(WantedSize());
+  QDialog::setVisible(visible);
+}
+
 void ModalWindow::reject() {
   Guarded([&] { modal_.OnCloseRequest(); });
 }
@@ -40,7 +58,8 @@ void ModalWindow::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Escape) {
     reject();
   } else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) button->click();
+    auto* button = qobject_cast<QPushButton*>(focusWidget());
+    button != nullptr ? button->click() : PressDefault();
   } else {
     event->ignore();
   }

@@ -19,12 +19,19 @@ class ModalWindow : public QDialog, public platform::ui::WindowObserver, public 
   QWidget* OwnedWidget() const override { return const_cast<ModalWindow*>(this); }
   platform::ui::Window& ShownWindow() const override { return modal_.AsWindow(); }
   void OnWindowChanged(platform::ui::Window& window, platform::ui::Change change) override;
+  /// Opens the window at the size that its contents want. The toolkit's own way keeps a third of the screen
+  /// free and cuts what is in the window for it.
+  void setVisible(bool visible) override;
   /// What QDialog calls to dismiss itself.
   void reject() override;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// The size at which nothing is cut; wrapped texts are as high as they are at that width.
+  QSize WantedSize();
+  /// Enter was pressed while neither a control nor a button has the keyboard.
+  virtual void PressDefault() {}
 
  private:
   platform::ui::Modal& modal_;

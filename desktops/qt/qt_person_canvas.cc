@@ -47,8 +47,11 @@ void QtPerson::DragOver(const std::string& label, int x, int y, int to_x, int to
 
 void QtPerson::ScrollCanvas(const std::string& label, Canvas::Scroll what, int thumb) {
   QScrollBar* bar = ReachableAs<QAbstractScrollArea>(label).horizontalScrollBar();
-  if (what == Canvas::Scroll::kThumb) bar->setSliderPosition(thumb);
-  bar->triggerAction(ActionOf(what));
+  if (what == Canvas::Scroll::kThumb) {
+    bar->setSliderPosition(thumb);  // which the bar tells by itself
+  } else {
+    bar->triggerAction(ActionOf(what));
+  }
   Settle();
 }
 

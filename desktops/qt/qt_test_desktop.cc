@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include "desktops/qt/cut_controls.h"
 #include "desktops/qt/guard.h"
 #include "desktops/qt/modal_window.h"
 #include "desktops/qt/offscreen.h"
@@ -126,6 +127,18 @@ bool QtTestDesktop::PlayChoice(QFileDialog& dialog, const Script::Expectation& e
   QtPerson person(dialog, last_help_text);
   script.Run(expected.story, person);
   return true;
+}
+
+std::vector<std::string> QtTestDesktop::CutControls() const {
+  QCoreApplication::sendPostedEvents();
+  QCoreApplication::processEvents();
+  const QWidget* front = QApplication::activeModalWidget();
+  return front != nullptr ? qt::CutControls(*front) : std::vector<std::string>{"there is no window"};
+}
+
+bool QtTestDesktop::ShowsWaitCursor() const {
+  const QCursor* cursor = QGuiApplication::overrideCursor();
+  return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
 }
 
 void QtTestDesktop::Sleep(std::uint32_t milliseconds) {

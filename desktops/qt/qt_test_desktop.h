@@ -27,6 +27,10 @@ class QtTestDesktop : public QtDesktop {
   std::string last_help_text;
   int system_major_version = 10;
 
+  /// What is cut in the window in front.
+  std::vector<std::string> CutControls() const;
+  bool ShowsWaitCursor() const;
+
   platform::ui::Answer ShowMessage(const platform::ui::Message& message) override;
   /// What others post arrives meanwhile, as it does while a real desktop sleeps.
   void Sleep(std::uint32_t milliseconds) override;

@@ -44,7 +44,6 @@ void SheetWindow::AddButtons(QBoxLayout& row) {
     row.addWidget(widget);
     buttons_[button] = widget;
   }
-  buttons_[SheetButton::kOk]->setDefault(true);
 }
 
 void SheetWindow::AddTabs() {
@@ -53,6 +52,8 @@ void SheetWindow::AddTabs() {
     (new QVBoxLayout(place))->setContentsMargins({});
     tabs_->addTab(place, ToQt(page->Label()));
   }
+  tabs_->setVisible(tabs_->count() > 0);
+  tabs_->setUsesScrollButtons(false);  // all tabs are in view
   tabs_->tabBar()->setVisible(!sheet_.IsWizard());
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { OnTabChosen(index); });
 }
@@ -94,7 +95,7 @@ FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
     view->SetOnCaption([this, &page, index] { tabs_->setTabText(index, ToQt(page.Label())); });
     place->layout()->addWidget(view.get());
     view->show();
-    if (isVisible()) resize(size().expandedTo(sizeHint()));
+    if (isVisible()) resize(size().expandedTo(WantedSize()));
   }
   return *view;
 }
@@ -115,6 +116,12 @@ void SheetWindow::ShowButtons() {
     widget->setVisible(sheet_.ButtonVisible(button));
     widget->setEnabled(sheet_.ButtonEnabled(button));
   }
+  const PropertyPage* page = sheet_.ActivePage();
+  if (page == nullptr || page->DefaultButton() == nullptr) buttons_[sheet_.DefaultButton()]->setDefault(true);
+}
+
+void SheetWindow::PressDefault() {
+  Guarded([&] { sheet_.OnButton(sheet_.DefaultButton()); });
 }
 
 // The page in front may refuse to let go, with a message; until that is decided it stays in front.

@@ -24,6 +24,7 @@ class SheetWindow : public ModalWindow {
   void AddButtons(QBoxLayout& row);
   void AddTabs();
   void MakeRoomForPages();
+  void PressDefault() override;
   void ShowPage();
   void ShowButtons();
   void OnTabChosen(int index);

@@ -58,6 +58,13 @@ std::string SelectedText(const QTreeWidget& list) {
   return selected.isEmpty() ? std::string() : WidgetFinder::RowText(*selected.first());
 }
 
+// A button that shows a picture has its key without a letter to read it from.
+bool PictureHasKey(const QWidget& widget, char key) {
+  const auto* button = qobject_cast<const QAbstractButton*>(&widget);
+  if (button == nullptr || !button->text().isEmpty()) return false;
+  return button->shortcut() == QKeySequence(QStringLiteral("Alt+") + QLatin1Char(key));
+}
+
 QRect InWindow(const QWidget& widget) {
   return QRect(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
 }
@@ -90,7 +97,8 @@ std::string WidgetFinder::RowText(const QTreeWidgetItem& row) {
 bool WidgetFinder::HasAccessKey(char key) const {
   const std::vector<QWidget*> widgets = Widgets();
   return std::any_of(widgets.begin(), widgets.end(), [key](const QWidget* widget) {
-    return widget->isVisible() && widget->isEnabled() && platform::ui::AccessKey(CaptionOf(*widget)) == key;
+    const bool has_key = platform::ui::AccessKey(CaptionOf(*widget)) == key || PictureHasKey(*widget, key);
+    return widget->isVisible() && widget->isEnabled() && has_key;
   });
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tests/desktops/qt_window_test.h"
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -8,6 +10,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTemporaryDir>
@@ -16,6 +19,7 @@
 #include <new>
 
 #include "desktops/qt/canvas_adapter.h"
+#include "desktops/qt/cut_controls.h"
 #include "desktops/qt/guard.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/file_dialog.h"
@@ -88,6 +92,40 @@ TEST_F(QtWindowTest, ShowingAndFillingReportNothing) {
     EXPECT_EQ(person.SelectedRow("&Report:"), 3);
   });
   EXPECT_EQ(dialog.changes, 0);
+}
+
+TEST_F(QtWindowTest, WhatIsCutIsFound) {
+  FullDialog dialog;
+  Show(dialog, [&](Person&) {
+    EXPECT_THAT(Desk().CutControls(), testing::IsEmpty());
+    Widget<QCheckBox>().setFixedWidth(20);
+    Widget<QComboBox>().setFixedWidth(30);
+    Settle();
+    Widget<QLineEdit>().move(-5, 0);
+    EXPECT_THAT(CutControls(*QApplication::activeModalWidget()),
+                testing::UnorderedElementsAre("\"Box\" is too small", "\"Combo:\" has its text cut",
+                                              "\"Name:\" stands outside"));
+  });
+}
+
+TEST_F(QtWindowTest, FieldsAndButtonsHaveTheWidthsAskedFor) {
+  class : public ReportingDialog {
+   public:
+    Edit code{*this, 1, "&Code:"};
+    Button add{*this, 2, "Add"}, remove{*this, 3, "Remove every one of them"};
+    void Arrange() {
+      SetLayout(Column({Note("Room for a wide field."), Characters(5, Field(code)),
+                        ButtonRow({Stretch(), Bare(add), Bare(remove)})}));
+    }
+  } dialog;
+  dialog.Arrange();
+  Show(dialog, [&](Person&) {
+    const int character = Widget<QLineEdit>().fontMetrics().averageCharWidth();
+    EXPECT_GE(Widget<QLineEdit>().width(), 5 * character);
+    EXPECT_LT(Widget<QLineEdit>().width(), 10 * character);
+    const auto buttons = QApplication::activeModalWidget()->findChildren<QPushButton*>();
+    EXPECT_EQ(buttons[0]->width(), buttons[1]->width());
+  });
 }
 
 TEST_F(QtWindowTest, ALabelIsHiddenAndDisabledWithItsControl) {
@@ -233,15 +271,37 @@ TEST_F(QtWindowTest, ATabStaysInFrontWhileItsPageDecides) {
   EXPECT_EQ(held.in_front, 0);
 }
 
+TEST_F(QtWindowTest, AWizardShowsWhatEnterPresses) {
+  PropertyPage page("Page");
+  PropertySheet wizard("Wizard", nullptr);
+  wizard.AddPage(page);
+  wizard.SetWizardMode();
+  const auto shown_default = [] {
+    for (auto* button : QApplication::activeModalWidget()->findChildren<QPushButton*>()) {
+      if (button->isDefault() && button->isVisible()) return button->text().toStdString();
+    }
+    return std::string();
+  };
+  Desk().script.ExpectWindow("Wizard", [&](Person& person) {
+    EXPECT_EQ(shown_default(), "&Next >");
+    wizard.SetWizardButtons(kWizardBack | kWizardFinish);
+    EXPECT_EQ(shown_default(), "Finish");
+    person.Press("Cancel");
+  });
+  wizard.RunModal();
+}
+
 /// Keeps the names it hears of.
 class ListeningFileDialog : public FileDialog {
  public:
   ListeningFileDialog() : FileDialog(nullptr) { title = "Open"; }
   void OnFileHighlighted(const std::string& path) override { heard.push_back(path); }
+  void OnLayout(const Rect& whole) override { width = whole.width; }
   std::vector<std::string> heard;
+  int width = 0;
 };
 
-TEST_F(QtWindowTest, AFileThatIsClickedIsHighlighted) {
+TEST_F(QtWindowTest, AFileThatIsClickedIsHighlightedAndASizeIsTold) {
   QTemporaryDir folder;
   const QString path = folder.filePath("sound.wav");
   QFile file(path);
@@ -252,6 +312,9 @@ TEST_F(QtWindowTest, AFileThatIsClickedIsHighlighted) {
     auto& list = *QApplication::activeModalWidget()->findChild<QListView*>("listView");
     ASSERT_TRUE(QTest::qWaitFor([&] { return list.model()->rowCount(list.rootIndex()) == 1; }));
     list.setCurrentIndex(list.model()->index(0, 0, list.rootIndex()));
+    QApplication::activeModalWidget()->resize(901, 500);
+    Settle();
+    EXPECT_EQ(dialog.width, 901);
   });
   EXPECT_EQ(dialog.RunModal(), kCancel);
   EXPECT_THAT(dialog.heard, testing::ElementsAre(path.toStdString()));

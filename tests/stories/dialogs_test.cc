@@ -201,6 +201,11 @@ class PreviewDialog : public FileDialog {
         [this] { log.push_back("play " + std::filesystem::path(Highlighted()).filename().string()); });
   }
 
+  // The button stays at the right edge.
+  void OnLayout(const Rect& whole) override {
+    area = whole;
+    Place(play, whole.width - 100, 10, 80, 30);
+  }
   void OnFileHighlighted(const std::string& path) override {
     if (path == wanted) log.push_back("highlighted");
   }
@@ -209,6 +214,7 @@ class PreviewDialog : public FileDialog {
     FileDialog::OnFileAccepted(path);
   }
 
+  Rect area{};
   std::string wanted;
   std::vector<std::string> log;
 
@@ -232,6 +238,18 @@ TEST_F(FileDialogsTest, AFileIsPreviewedAndChosen) {
   EXPECT_EQ(dialog.Path(), file_);
   EXPECT_EQ(dialog.log.front(), "highlighted");
   EXPECT_THAT(dialog.log, testing::IsSupersetOf({"play beep.wav", "accepted"}));
+}
+
+TEST_F(FileDialogsTest, ADialogOpensWithItsFileAndKnowsItsSize) {
+  PreviewDialog dialog;
+  dialog.wanted = dialog.initial_path = file_;
+  Script().ExpectFileDialog("Select Sound", "", [&](Person& p) {
+    EXPECT_GT(dialog.area.width, 300);
+    p.Press("Play");
+  });
+  EXPECT_EQ(dialog.RunModal(), kCancel);
+  EXPECT_EQ(dialog.log.front(), "highlighted");
+  EXPECT_EQ(dialog.log.back(), "play beep.wav");
 }
 
 TEST_F(FileDialogsTest, AFolderIsChosen) {

@@ -45,6 +45,8 @@ class QtStoriesDesktop : public TestDesktop {
   void ClearClipboard() override { QGuiApplication::clipboard()->clear(); }
   void SetSystemMajorVersion(int version) override { desktop_.system_major_version = version; }
   std::string LastHelpText() override { return desktop_.last_help_text; }
+  std::vector<std::string> CutControls() override { return desktop_.CutControls(); }
+  bool ShowsWaitCursor() override { return desktop_.ShowsWaitCursor(); }
   std::string PlayingSound() override { return desktop_.sound.playing; }
   void FinishSound() override { std::exchange(desktop_.sound, {}).finished(); }
 

@@ -11,6 +11,8 @@ class ScriptedTestDesktop : public TestDesktop {
   void ClearClipboard() override { desktop_.clipboard.reset(); }
   void SetSystemMajorVersion(int version) override { desktop_.system_major_version = version; }
   std::string LastHelpText() override { return desktop_.last_help_text; }
+  std::vector<std::string> CutControls() override { return {}; }
+  bool ShowsWaitCursor() override { return desktop_.wait_cursor_depth > 0; }
   std::string PlayingSound() override { return desktop_.playing_sound; }
   void FinishSound() override { desktop_.FinishSound(); }
 

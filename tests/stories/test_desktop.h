@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "desktops/scripted/script.h"
 
@@ -20,6 +21,9 @@ class TestDesktop {
   virtual void SetSystemMajorVersion(int version) = 0;
   /// The help text shown last, or "".
   virtual std::string LastHelpText() = 0;
+  /// What is cut in the window in front; nothing where no pixels are shown.
+  virtual std::vector<std::string> CutControls() = 0;
+  virtual bool ShowsWaitCursor() = 0;
   /// The file of the sound that is playing, or "". Every existing file can be played.
   virtual std::string PlayingSound() = 0;
   /// The sound that is playing comes to its end.
