@@ -40,11 +40,14 @@ void ListBoxAdapter::Fill() {
     list_->addTopLevelItem(new QTreeWidgetItem(cells));
   }
   list_->setColumnCount(columns);
+  const bool shows_all = !model_.TabPositions().empty();
   for (int i = 0; i < columns; ++i) {
     list_->resizeColumnToContents(i);
+    // A last column takes what room is left, and would be scrolled for more than that.
+    if (i + 1 == columns && !shows_all) break;
     list_->setColumnWidth(i, std::max(list_->columnWidth(i) + kColumnGap, AskedWidth(i)));
   }
-  if (!model_.TabPositions().empty()) ShowAllColumns(*list_);
+  if (shows_all) ShowAllColumns(*list_);
 }
 
 // The width from one tab stop to the next; 0 for the last column, which has none behind it.

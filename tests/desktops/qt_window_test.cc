@@ -128,6 +128,21 @@ TEST_F(QtWindowTest, FieldsAndButtonsHaveTheWidthsAskedFor) {
   });
 }
 
+TEST_F(QtWindowTest, AListBoxWithRoomIsNotScrolled) {
+  for (const std::vector<int>& stops : {std::vector<int>{}, std::vector<int>{9, 40}}) {
+    ReportingDialog dialog;
+    ListBox list(dialog, 1, "&List:");
+    if (!stops.empty()) list.SetTabStops(stops);
+    list.Add(stops.empty() ? "one" : "one\ttwo\tthe last of three");
+    Show(dialog, [&](Person&) {
+      const auto& widget = Widget<QTreeWidget>();
+      EXPECT_EQ(widget.horizontalScrollBar()->maximum(), 0);
+      if (stops.empty()) return;
+      EXPECT_EQ(widget.columnViewportPosition(2), 40 * widget.fontMetrics().averageCharWidth());
+    });
+  }
+}
+
 TEST_F(QtWindowTest, ALabelIsHiddenAndDisabledWithItsControl) {
   FullDialog dialog;
   Show(dialog, [&](Person&) {
