@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/ui/icon_open_dialog.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "alerting/frame/strings.h"
@@ -9,6 +10,8 @@ namespace alerting {
 namespace {
 
 constexpr int kIdIconStrip = 100;
+constexpr int kUsualWidth = 640, kUsualHeight = 420;
+constexpr int kPreviewHeight = kUsualHeight - kUsualHeight * 26 / 35;
 
 }  // namespace
 
@@ -16,11 +19,17 @@ CIconOpenDialog::CIconOpenDialog(ui::Window* parent, std::string initial, std::u
     : CPathDialog(parent, std::move(initial), {kIdsIconFilters, kIdsIconExtension, kIdsIconTitle}),
       index_(index),
       strip_(*this, kIdIconStrip, index != nullptr ? *index : 0) {
-  // The strip takes the lower part of a dialog of this size.
-  constexpr int kWidth = 640, kHeight = 420, kTop = kHeight * 26 / 35;
   if (!CanPreview()) return;
-  SetPreviewSize(kWidth, kHeight - kTop);
-  Place(strip_, kWidth / 100 + 1, 0, kWidth * 49 / 50, kHeight * 3 / 14);
+  SetPreviewSize(kUsualWidth, kPreviewHeight);
+  CIconOpenDialog::OnLayout({0, 0, kUsualWidth, kUsualHeight});
+}
+
+// The strip stands at 26 of 35 parts of the dialog's height and is 3 of 14 parts high, within the preview area, which
+// takes the lowest 9 parts of a dialog of the usual size.
+void CIconOpenDialog::OnLayout(const ui::Rect& dialog) {
+  const int top = std::max(dialog.height * 26 / 35 - (dialog.height - kPreviewHeight), 0);
+  const int height = std::min(dialog.height * 3 / 14, kPreviewHeight - top);
+  if (HasPreview()) Place(strip_, dialog.width / 100 + 1, top, dialog.width * 49 / 50, height);
 }
 
 // The same name may be told twice; it would select the first icon again.

@@ -12,6 +12,7 @@ class CIconOpenDialog : public CPathDialog {
   /// `index` is the icon to begin with, and gets the one chosen when a file is accepted. It may be null.
   CIconOpenDialog(ui::Window* parent, std::string initial, std::uint32_t* index);
 
+  void OnLayout(const ui::Rect& dialog) override;
   void OnFileHighlighted(const std::string& path) override;
   void OnFileAccepted(const std::string& path) override;
   const CIconStrip& Strip() const { return strip_; }

@@ -8,6 +8,11 @@ namespace {
 
 constexpr int kIdPlay = 100, kIdStop = 101;
 
+void ShowIcon(ui::Button& button, const char* resource) {
+  const std::vector<ui::Bitmap> icons = ui::DecodeIco(TheModule().Resource(resource));
+  if (!icons.empty()) button.SetPicture(icons.front());
+}
+
 }  // namespace
 
 CWaveOpenDialog::CWaveOpenDialog(ui::Window* parent, std::string initial)
@@ -25,6 +30,8 @@ CWaveOpenDialog::CWaveOpenDialog(ui::Window* parent, std::string initial)
 
 void CWaveOpenDialog::OnInitDialog() {
   CPathDialog::OnInitDialog();
+  ShowIcon(play_button_, "icons/play.ico");
+  ShowIcon(stop_button_, "icons/stop.ico");
   OnStop();
 }
 

@@ -2,7 +2,7 @@
 #include "desktops/qt/file_choice.h"
 
 #include <QFileInfo>
-#include <QGridLayout>
+#include <QLayout>
 #include <QLineEdit>
 #include <utility>
 
@@ -57,16 +57,15 @@ void FileChoice::SetStart() {
 void FileChoice::AddPreview() {
   preview_ = std::make_unique<FormView>(dialog_, this);
   preview_->LeaveEndingToWindow();
-  preview_->setMinimumWidth(dialog_.PreviewWidth());
-  preview_->setFixedHeight(dialog_.PreviewHeight());
+  setMinimumWidth(dialog_.PreviewWidth());
+  // Below the layout, not in it: the area takes the dialog's whole width, without the layout's margins.
+  layout()->setContentsMargins(layout()->contentsMargins() + QMargins(0, 0, 0, dialog_.PreviewHeight()));
   PlaceControls();
   preview_->Start();
-  if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
-    grid->addWidget(preview_.get(), grid->rowCount(), 0, 1, grid->columnCount());
-  }
 }
 
 void FileChoice::PlaceControls() {
+  preview_->setGeometry(0, height() - dialog_.PreviewHeight(), width(), dialog_.PreviewHeight());
   for (const platform::ui::PlacedControl& placed : dialog_.Preview()) {
     QWidget* widget = preview_->Add(*placed.control).OwnedWidget();
     widget->setGeometry(placed.x, placed.y, placed.width, placed.height);

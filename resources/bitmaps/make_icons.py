@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""Writes service_icons.bmp and the three icon files from the pictures below.
+"""Writes service_icons.bmp and the icon files from the pictures below.
 
 The strip is a bitmap of 16 colours, 343 x 18 pixels: 19 pictures of 18 x 18 side by side and one column more.
 Magenta is the background, which whoever draws the strip leaves out. An icon is a picture drawn at 16 x 16, each of
@@ -417,6 +417,16 @@ def inner(picture):
     return "\n".join(row[1:17] for row in rows_of(picture)[1:17])
 
 
+def play():
+    """A triangle that points to the right."""
+    return "\n".join((5 * "." + min(max(0, 2 * min(y, 15 - y) - 2), 11) * "G").ljust(16, ".") for y in range(16))
+
+
+def stop():
+    """A square."""
+    return "\n".join([16 * "."] * 3 + ["..." + 10 * "R" + "..."] * 10 + [16 * "."] * 3)
+
+
 def main():
     here = pathlib.Path(__file__).resolve().parent
     assert len(PICTURES) == 19
@@ -426,6 +436,8 @@ def main():
     write_icon(icons / "mail.ico", inner(by_name["mail"]))
     write_icon(icons / "pager.ico", pager("d", "c", ALPHA, 16))
     write_icon(icons / "numeric_pager.ico", pager("B", "g", NUMBERS, 16))
+    write_icon(icons / "play.ico", play())
+    write_icon(icons / "stop.ico", stop())
 
 
 if __name__ == "__main__":
