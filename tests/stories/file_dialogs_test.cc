@@ -87,9 +87,12 @@ TEST_F(PathStoriesTest, ScriptsAreLookedForInTheirFolder) {
   const std::string script = File("data/console/mgrs/page.scr");
   const std::filesystem::path before = std::filesystem::current_path();
   CScriptOpenDialog dialog(nullptr, "page.scr");
-  Script().ExpectFileDialog("Select Script File For Response", script,
+  Script().ExpectFileDialog("Select Script File For Response", "",
                             [&](Person&) { EXPECT_EQ(dialog.Highlighted(), script); });
+  EXPECT_EQ(dialog.Choose(), ui::kCancel);
+  Script().ExpectFileDialog("Select Script File For Response", script);
   EXPECT_EQ(dialog.Choose(), ui::kOk);
+  EXPECT_EQ(dialog.Path(), script);
   EXPECT_EQ(std::filesystem::current_path(), before);
 }
 
