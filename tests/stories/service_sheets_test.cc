@@ -82,6 +82,7 @@ const std::vector<SheetRow>& Rows() {
   using namespace alerting;  // NOLINT
   static const std::vector<SheetRow> rows = {
       {kTypeMhs, MhsLogin(), Mail(375, 257), 1661, {"..."}},
+      {kTypeSnmp, {}, Body(2130, 1025), 3416, {"A&dd...", "&SNMP Destinations:"}},
       {kTypeMci, DialedLogin(), Mail(140, 257), 1507},
       {kTypeCompuServe, DialedLogin(), Mail(140, 41), 1291},
       {kTypeSmtp, {{"&SMTP Server:", "mail.example.org", 16, 256}}, Mail(370, 257), 1656},
