@@ -496,9 +496,13 @@ TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
   alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
   provider.company.Assign("Chosen");
   provider.maxTextLength = 40;
+  provider.baudRate = 300;
+  provider.dataBits = 7;
   platform::GUID id{};
   ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
   Expect([](Person& p) {
+    p.SelectTab("Modems");
+    p.SelectTab("General");
     p.Type("&Company:", "Mine");
     p.Type(kLength, "30");
     p.Press("&Set service provider");
@@ -510,8 +514,14 @@ TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
     p.SelectTab(kMessageTab);
     p.Type(kHalfBody, std::string(50, 'b'));
     EXPECT_EQ(p.Text(kHalfBody).size(), 40u) << "as long as the new provider takes";
+    p.SelectTab("Modems");
+    EXPECT_EQ(p.ChosenOption("Data Bits"), "&7") << "the line of the new provider";
+    EXPECT_EQ(p.Text("&Baud Rate:"), "300");
     p.Press("Cancel");
   });
+  Script().ExpectMessage(
+      "No records in the modem database. You will need to add a location (using the New button) in order to "
+      "use a modem.");
   for (const char* button : {"Cancel", "OK"})
     Script().ExpectWindow("Set Alphanumeric Pager Service Provider",
                           [button](Person& p) { p.Press(button); });
