@@ -81,13 +81,13 @@ void CPropPgSNMPGeneral::OnRemove() {
 }
 
 void CPropPgSNMPGeneral::OnClickInList() {
-  SelectRowUnderCursor(managers_);
-  remove_.Enable(true);
+  if (SelectRowUnderCursor(managers_)) remove_.Enable(true);
 }
 
 void CPropPgSNMPGeneral::OnKeyInList(ui::Key key) {
   if (key == ui::Key::kDelete) return OnRemove();
   if (key != ui::Key::kSpace && key != ui::Key::kUp && key != ui::Key::kDown) return;
+  if (managers_.FocusedRow() < 0) return;  // an empty list has keys too
   managers_.SelectRow(managers_.FocusedRow());
   EnableRowButtons(true);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/managers/snmp_managers.h"
 
+#include "alerting/alerting.h"
 #include "alerting/managers/snmp_manager_dlg.h"
 #include "companions/alertstore/computers.h"
 #include "tests/stories/story_test.h"
@@ -12,6 +13,8 @@ namespace {
 using alerting::CSnmpManagerDlg;
 using alertstore::ALRTUSR_SNMPSERVICEREC;
 using desktops::Person;
+using platform::ui::Answer;
+using platform::ui::Key;
 using test_support::StoreOp;
 using testing::ElementsAre;
 
@@ -21,6 +24,13 @@ constexpr char kMachine[] = "&Machine Name:";
 constexpr char kCommunity[] = "&Community:";
 constexpr char kAddress[] = "&Network Address:";
 constexpr char kComment[] = "C&omment:";
+constexpr char kSheet[] = "Traps";
+constexpr char kList[] = "&SNMP Destinations:";
+constexpr char kRemove[] = "&Remove";
+constexpr char kChange[] = "&Properties";
+constexpr char kSure[] =
+    "Are you sure you want to delete the SNMP manager?  This operation is immediate and cannot be canceled "
+    "later.";
 
 class SnmpManagerTest : public StoryTest {
  protected:
@@ -44,8 +54,23 @@ class SnmpManagerTest : public StoryTest {
     return CSnmpManagerDlg(nullptr, manager).RunModal();
   }
 
+  int OpenSheet() {
+    test_support::SeedService(alerting::kTypeSnmp, kSheet);
+    return DomainServicePropertySheet(nullptr, 0);
+  }
+  Labels Addresses() {
+    Labels addresses;
+    for (const auto& manager : Stored()) addresses.emplace_back(manager.address.View());
+    return addresses;
+  }
+
   test_support::LibraryUnderTest library_;
 };
+
+/// Whether the two buttons that act on a row are as told.
+void ExpectRowButtons(Person& p, bool enabled) {
+  for (const char* button : {kRemove, kChange}) EXPECT_EQ(p.IsEnabled(button), enabled) << button;
+}
 
 TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
   ASSERT_EQ(alertstore::AddComputer(platform::GUID::Generate(), "OPERATIONS"), alertstore::kOk);
@@ -144,6 +169,75 @@ TEST_F(SnmpManagerTest, TheListShowsTheFirstHundred) {
   EXPECT_EQ(list.RowCount(), 100);
   EXPECT_EQ(list.Cell(99, 0), "192.0.2.99");
   EXPECT_EQ(alerting::SnmpManagerOfRow(list, 100), nullptr);
+}
+
+TEST_F(SnmpManagerTest, ManagersAreAddedChangedAndRemovedWhateverBecomesOfTheSheet) {
+  AddManager("192.0.2.1");
+  Script().ExpectWindow(kSheet, [&](Person& p) {
+    ExpectRowButtons(p, false);
+    p.Press("A&dd...");
+    EXPECT_EQ(p.Rows(kList).size(), 2u);
+    ExpectRowButtons(p, false);
+    p.ClickRow(kList, 1);
+    ExpectRowButtons(p, true);
+    p.Press(kChange);
+    EXPECT_THAT(p.Rows(kList)[1], ElementsAre("192.0.2.2", "public", "OPS", ""));
+    ExpectRowButtons(p, false);
+    p.DoubleClickRow(kList, 1);
+    p.ClickRow(kList, 0);
+    p.Press(kRemove);
+    EXPECT_EQ(p.Rows(kList).size(), 2u) << "the answer was no";
+    p.Focus(kList);
+    p.Press(Key::kDelete);
+    EXPECT_EQ(p.Rows(kList).size(), 1u);
+    ExpectRowButtons(p, false);
+    EXPECT_FALSE(p.IsEnabled("Apply")) << "the sheet has nothing to save";
+    p.Press("Cancel");
+  });
+  Script().ExpectWindow(kAdd, [](Person& p) {
+    p.Type(kAddress, "192.0.2.2");
+    p.Press("OK");
+  });
+  Script().ExpectWindow(kProperties, [](Person& p) {
+    p.Type(kCommunity, "public");
+    p.Type(kMachine, "OPS");
+    p.Press("OK");
+  });
+  Script().ExpectWindow(kProperties, [](Person& p) {
+    EXPECT_EQ(p.Text(kCommunity), "public") << "the record as it was stored";
+    p.Press("Cancel");
+  });
+  for (const Answer answer : {Answer::kNo, Answer::kYes}) Script().ExpectMessage(kSure, answer);
+  EXPECT_EQ(OpenSheet(), platform::ui::kCancel);
+  EXPECT_THAT(Addresses(), ElementsAre("192.0.2.2"));
+}
+
+TEST_F(SnmpManagerTest, ARefusedRemovalIsToldAndLeavesTheList) {
+  AddManager("192.0.2.1");
+  library_.engine->FailAll("UsrSnmpDB.dat", StoreOp::kDelete);
+  Script().ExpectWindow(kSheet, [&](Person& p) {
+    p.ClickRow(kList, 0);
+    p.Press(kRemove);
+    EXPECT_EQ(p.Rows(kList).size(), 1u);
+    ExpectRowButtons(p, true);
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(kSure, Answer::kYes);
+  Script().ExpectMessage("Unable to delete a record in the SNMP Managers database.");
+  OpenSheet();
+  EXPECT_THAT(Addresses(), ElementsAre("192.0.2.1"));
+}
+
+TEST_F(SnmpManagerTest, RowButtonsWaitForARow) {
+  Script().ExpectWindow(kSheet, [](Person& p) {
+    EXPECT_TRUE(p.Rows(kList).empty());
+    p.ClickRow(kList, -1);
+    ExpectRowButtons(p, false);
+    p.Press(Key::kSpace);
+    ExpectRowButtons(p, false);
+    p.Press("Cancel");
+  });
+  OpenSheet();
 }
 
 }  // namespace
