@@ -7,10 +7,11 @@ namespace minibrowse {
 
 namespace ui = platform::ui;
 
-ComputerDialog::ComputerDialog(ui::Window* parent, std::vector<alertstore::Computer> computers)
+ComputerDialog::ComputerDialog(ui::Window* parent, std::vector<alertstore::Computer> computers,
+                               std::string empty_text)
     : Dialog(parent, "Choose Computer"),
       computers_(std::move(computers)),
-      empty_(*this, 101, "No computer is known to this site yet. Type the name instead."),
+      empty_(*this, 101, std::move(empty_text)),
       list_(*this, 100, "&Computers of this site:", true),
       buttons_(*this) {
   SetLayout(ui::Column({ui::Bare(empty_), ui::Over(list_), buttons_.Row()}));

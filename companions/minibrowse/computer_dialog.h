@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "companions/alertstore/computers.h"
@@ -12,7 +13,9 @@ namespace minibrowse {
 /// Offers the computers that the site knows.
 class ComputerDialog : public platform::ui::Dialog {
  public:
-  ComputerDialog(platform::ui::Window* parent, std::vector<alertstore::Computer> computers);
+  /// `empty_text` is what the dialog says when there are no computers.
+  ComputerDialog(platform::ui::Window* parent, std::vector<alertstore::Computer> computers,
+                 std::string empty_text);
 
   /// Null when the dialog was cancelled.
   const platform::GUID& Chosen() const { return chosen_; }

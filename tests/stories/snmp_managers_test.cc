@@ -240,5 +240,23 @@ TEST_F(SnmpManagerTest, RowButtonsWaitForARow) {
   OpenSheet();
 }
 
+TEST_F(SnmpManagerTest, AComputerThatIsNotChosenLeavesTheMachineNameAndUnreadableOnesSaySo) {
+  Script().ExpectWindow(kAdd, [this](Person& p) {
+    p.Type(kMachine, "TYPED");
+    p.PressBeside(kMachine, "...");
+    library_.engine->FailAll("Computers.dat", StoreOp::kAny);
+    p.PressBeside(kMachine, "...");
+    EXPECT_EQ(p.Text(kMachine), "TYPED");
+    p.Press("Cancel");
+  });
+  for (const char* text : {"No computer is known to this site yet.", "The computers cannot be read"})
+    Script().ExpectWindow("Choose Computer", [text](Person& p) {
+      EXPECT_THAT(p.Screen(), testing::HasSubstr(text));
+      EXPECT_FALSE(p.IsEnabled("OK"));
+      p.Press("Cancel");
+    });
+  CSnmpManagerDlg(nullptr, nullptr).RunModal();
+}
+
 }  // namespace
 }  // namespace stories
