@@ -31,7 +31,6 @@ constexpr char kSubject[] = "Mail Message &Subject:";
 constexpr char kBody[] = "Mail &Message Body:";
 constexpr char kHalfBody[] = "&Edit Default Message:";
 constexpr char kNumericBody[] = "&Edit Default Message";
-constexpr char kDestinations[] = "&SNMP Destinations:";
 constexpr char kFields[] = "<< &Fields...";
 constexpr char kTestLater[] = "Test sends are not available in this version.";
 constexpr char kApplyFirst[] =
