@@ -129,11 +129,16 @@ bool QtTestDesktop::PlayChoice(QFileDialog& dialog, const Script::Expectation& e
   return true;
 }
 
+// A window that was just shown is laid out in several steps, some of them by messages of the window system.
 std::vector<std::string> QtTestDesktop::CutControls() const {
-  QCoreApplication::sendPostedEvents();
-  QCoreApplication::processEvents();
-  const QWidget* front = QApplication::activeModalWidget();
-  return front != nullptr ? qt::CutControls(*front) : std::vector<std::string>{"there is no window"};
+  std::vector<std::string> cut;
+  const auto look = [&cut] {
+    QCoreApplication::sendPostedEvents();
+    const QWidget* front = QApplication::activeModalWidget();
+    cut = front != nullptr ? qt::CutControls(*front) : std::vector<std::string>{"there is no window"};
+    return cut.empty();
+  };
+  return QTest::qWaitFor(look, 1000) ? std::vector<std::string>{} : cut;
 }
 
 bool QtTestDesktop::ShowsWaitCursor() const {
