@@ -60,6 +60,10 @@ AlertingLibrary::AlertingLibrary(const std::string& path)
       IsFirstOfType(Find<decltype(::DomainServiceIsFirstOfType)>("_DomainServiceIsFirstOfType@4")),
       CopyService(Find<decltype(::DomainServiceCopyService)>("_DomainServiceCopyService@8")),
       DeleteService(Find<decltype(::DomainServiceDeleteService)>("_DomainServiceDeleteService@20")),
+      DialingRules(Find<decltype(::RulesDialog)>("_RulesDialog@16")),
+      SelectProgram(Find<decltype(::SelectProgFileDialog)>("_SelectProgFileDialog@8")),
+      SelectSound(Find<decltype(::SelectWAVFileDialog)>("_SelectWAVFileDialog@8")),
+      SelectIcon(Find<decltype(::SelectIconFileDialog)>("_SelectIconFileDialog@12")),
       NewIconStrip(Find<decltype(::GetIconBitmapObject)>("_GetIconBitmapObject@0")),
       DeleteIconStrip(Find<decltype(::DeleteIconBitmapObject)>("_DeleteIconBitmapObject@4")) {
   if (OpenDBs() > kWereOpen) throw StartFailure(StoresCannotBeOpened());

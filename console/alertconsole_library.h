@@ -54,6 +54,10 @@ class AlertingLibrary {
   decltype(::DomainServiceIsFirstOfType)* const IsFirstOfType;
   decltype(::DomainServiceCopyService)* const CopyService;
   decltype(::DomainServiceDeleteService)* const DeleteService;
+  decltype(::RulesDialog)* const DialingRules;
+  decltype(::SelectProgFileDialog)* const SelectProgram;
+  decltype(::SelectWAVFileDialog)* const SelectSound;
+  decltype(::SelectIconFileDialog)* const SelectIcon;
   decltype(::GetIconBitmapObject)* const NewIconStrip;
   decltype(::DeleteIconBitmapObject)* const DeleteIconStrip;
 };

@@ -2,6 +2,7 @@
 #include "console/alertconsole_tour.h"
 
 #include <cstdio>
+#include <utility>
 
 namespace alertconsole {
 namespace {
@@ -26,11 +27,15 @@ QWidget* PageOf(QWidget& window) {
   return tabs != nullptr && tabs->count() > 0 ? tabs->currentWidget() : &window;
 }
 
+/// Whether the toolkit has made the window, so that its insides are no affair of ours.
+bool IsToolkits(QWidget& window) {
+  return qobject_cast<QFileDialog*>(&window) != nullptr || qobject_cast<QMessageBox*>(&window) != nullptr;
+}
+
 /// In the order of their places on the screen.
 QList<QAbstractButton*> ButtonsOf(QWidget& window) {
   QList<QAbstractButton*> buttons;
-  if (qobject_cast<QFileDialog*>(&window) != nullptr || qobject_cast<QMessageBox*>(&window) != nullptr)
-    return buttons;
+  if (IsToolkits(window)) return buttons;
   for (QAbstractButton* button : PageOf(window)->findChildren<QPushButton*>())
     if (button->isVisible() && button->isEnabled() && !kNotPressed.contains(Plain(button->text())))
       buttons << button;
@@ -39,6 +44,7 @@ QList<QAbstractButton*> ButtonsOf(QWidget& window) {
 
 /// A row that is chosen brings the buttons to life that act on one.
 void ChooseRows(QWidget& window) {
+  if (IsToolkits(window)) return;
   for (auto* view : PageOf(window)->findChildren<QAbstractItemView*>()) {
     if (!view->isVisible() || view->model() == nullptr || view->model()->rowCount() == 0) continue;
     view->setFocus();
@@ -57,20 +63,9 @@ void Settle() {
 
 }  // namespace
 
-Tour::Tour(const QString& folder) : folder_(folder) {
-  if (!QDir().mkpath(folder)) Fail("cannot make the folder " + folder);
-}
-
-void Tour::Fail(const QString& what) {
-  failed_ = true;
-  std::fprintf(stderr, "alertconsole: %s\n", qPrintable(what));
-}
-
-void Tour::Take(QWidget& window, const QString& name) {
+void Tour::Look(QWidget& window, const QString& name) {
   Settle();
-  const QString path = folder_.filePath(name + ".png");
-  if (!window.grab().save(path)) return Fail("cannot write " + path);
-  std::printf("%s\n", qPrintable(path));
+  view_(window, name);
 }
 
 void Tour::Visit(const QString& name, const std::function<void()>& open) {
@@ -86,13 +81,13 @@ void Tour::LookLater(int visit) {
   QTimer::singleShot(kLookMilliseconds, this, [this, visit] {
     if (visit != visit_) return;
     LookLater(visit);
-    if (std::exchange(looking_, true)) return;  // a picture is being taken
-    Look();
+    if (std::exchange(looking_, true)) return;  // a window is being looked at
+    GoOn();
     looking_ = false;
   });
 }
 
-void Tour::Look() {
+void Tour::GoOn() {
   QWidget* front = QApplication::activeModalWidget();
   if (front == nullptr) return;
   const auto is_over = [front](const Stop& stop) {
@@ -101,7 +96,7 @@ void Tour::Look() {
   while (!stops_.empty() && is_over(stops_.back())) stops_.pop_back();
   if (stops_.empty() || stops_.back().window != front) return Arrive(*front);
   Stop& stop = stops_.back();
-  if (!stop.pictured) return TakePage(stop);
+  if (!stop.viewed) return LookAtPage(stop);
   if (!PressNext(stop) && !NextPage(stop)) Leave(stop);
 }
 
@@ -117,12 +112,12 @@ void Tour::Arrive(QWidget& window) {
   if (!is_new) Leave(stops_.back());
 }
 
-void Tour::TakePage(Stop& stop) {
+void Tour::LookAtPage(Stop& stop) {
   const auto* tabs = stop.window->findChild<QTabWidget*>();
   const bool is_page = tabs != nullptr && tabs->count() > 0;
   ChooseRows(*stop.window);
-  Take(*stop.window, is_page ? stop.name + '-' + FileName(tabs->tabText(tabs->currentIndex())) : stop.name);
-  stop.pictured = true;
+  Look(*stop.window, is_page ? stop.name + '-' + FileName(tabs->tabText(tabs->currentIndex())) : stop.name);
+  stop.viewed = true;
 }
 
 bool Tour::PressNext(Stop& stop) {
@@ -137,10 +132,20 @@ bool Tour::NextPage(Stop& stop) {
   if (tabs == nullptr || stop.page + 1 >= tabs->count()) return false;
   tabs->setCurrentIndex(++stop.page);
   stop.button = 0;
-  stop.pictured = false;
+  stop.viewed = false;
   return true;
 }
 
-void Tour::Leave(Stop& stop) { QMetaObject::invokeMethod(stop.window.data(), "close", Qt::QueuedConnection); }
+// Escape goes where a person's would. A window that does not mind it is closed, so that the tour comes to its end.
+void Tour::Leave(Stop& stop) {
+  QWidget* window = stop.window;
+  if (std::exchange(stop.left, true)) {
+    deaf_to_escape_ << stop.name;
+    QMetaObject::invokeMethod(window, "close", Qt::QueuedConnection);
+    return;
+  }
+  QWidget* focus = window->focusWidget() != nullptr ? window->focusWidget() : window;
+  QCoreApplication::postEvent(focus, new QKeyEvent(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier));
+}
 
 }  // namespace alertconsole

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDir>
 #include <QObject>
 #include <QPointer>
 #include <QStringList>
@@ -11,20 +10,22 @@
 
 namespace alertconsole {
 
-/// Goes through the windows that a window opens and takes a picture of each: every page of a sheet, then whatever its
-/// buttons open, and so on. It presses no button that stores, deletes or sends something, and closes each window by
-/// Escape. It works while the windows' own event loops run, so whoever opens the first one starts it before.
+/// Goes through the windows that a window opens and has a look at each: every page of a sheet, then whatever its buttons
+/// open, and so on. It presses no button that stores, deletes or sends something, and closes each window by Escape. It works
+/// while the windows' own event loops run, so whoever opens the first one starts it before.
 class Tour : public QObject {
  public:
-  explicit Tour(const QString& folder);
+  /// Sees a window that has come to rest, with a name for it that is good for a file.
+  using View = std::function<void(QWidget& window, const QString& name)>;
 
-  /// Goes through what `open` opens; pictures of pages begin with that name.
+  explicit Tour(View view) : view_(std::move(view)) {}
+
+  /// Goes through what `open` opens; names of pages begin with that name.
   void Visit(const QString& name, const std::function<void()>& open);
-  /// Takes a picture of a window that is not modal.
-  void Take(QWidget& window, const QString& name);
-
-  bool Failed() const { return failed_; }
-  void Fail(const QString& what);
+  /// Looks at a window that is not modal.
+  void Look(QWidget& window, const QString& name);
+  /// Windows that Escape did not close.
+  const QStringList& DeafToEscape() const { return deaf_to_escape_; }
 
  private:
   /// A window in front: which of its pages and buttons are still to be gone through.
@@ -33,23 +34,25 @@ class Tour : public QObject {
     QString name;
     int page = 0;
     int button = 0;
-    bool pictured = false;
+    bool viewed = false;
+    bool left = false;
   };
 
   void LookLater(int visit);
-  void Look();
+  void GoOn();
   void Arrive(QWidget& window);
-  void TakePage(Stop& stop);
+  void LookAtPage(Stop& stop);
   bool PressNext(Stop& stop);
   bool NextPage(Stop& stop);
   void Leave(Stop& stop);
 
-  QDir folder_;
+  View view_;
   QString first_name_;
   std::vector<Stop> stops_;
   std::set<QString> seen_;
+  QStringList deaf_to_escape_;
   int visit_ = 0;  // what a look that comes late belongs to
-  bool looking_ = false, failed_ = false;
+  bool looking_ = false;
 };
 
 }  // namespace alertconsole

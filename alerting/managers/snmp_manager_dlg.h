@@ -35,11 +35,11 @@ class CSnmpManagerDlg : public CLibraryDialog {
   std::string computer_text_, community_text_, address_text_, comment_text_;
 
   ui::Edit computer_;
-  ui::Button browse_computer_;
+  ui::BrowseButton browse_computer_;
   ui::Edit community_;
-  ui::Button recent_communities_;
+  ui::BrowseButton recent_communities_;
   ui::Edit address_;
-  ui::Button recent_addresses_;
+  ui::BrowseButton recent_addresses_;
   ui::Edit comment_;
   ui::OkCancelButtons buttons_;
 };

@@ -27,7 +27,7 @@ int ToUniversal(std::string& path) {
 CPropPgMHSGeneral::CPropPgMHSGeneral()
     : CMailGeneralPage(ctxhelp::kHelpMhsGeneral, kGeneralOf<CNtfyServiceMHS>),
       directory_(*this, kIdDirectory, "&Server/Volume path (MHS Directory):"),
-      browse_(*this, kIdBrowse, "..."),
+      browse_(*this, kIdBrowse, directory_),
       login_(*this) {
   SetLayout(FramesOver(
       "MHS (Message Handling System) is Novell's email system.",

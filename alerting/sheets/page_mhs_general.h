@@ -20,7 +20,7 @@ class CPropPgMHSGeneral : public CMailGeneralPage {
 
   std::string directory_text_;
   ui::Edit directory_;
-  ui::Button browse_;
+  ui::BrowseButton browse_;
   LoginFields login_;
 };
 

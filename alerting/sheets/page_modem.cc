@@ -32,20 +32,18 @@ CPropPgModem::CPropPgModem()
       modems_(*this, kIdModems, "Modems"),
       baud_(*this, kIdBaud, "&Baud Rate:"),
       script_(*this, kIdScript, "&Script File:"),
-      browse_(*this, kIdBrowse, "..."),
+      browse_(*this, kIdBrowse, script_),
       serial_(*this, kIdSerial),
       properties_(*this, kIdProperties, "&Properties"),
       new_(*this, kIdNew, "Ne&w..."),
       delete_(*this, kIdDelete, "&Delete"),
       manage_types_(*this, kIdManageTypes, "&Manage Modem Types") {
-  SetLayout(ui::Column(
-      {ui::Bare(modems_),
-       ui::Row(
-           {ui::Weighted(2, ui::Column({ui::Row({ui::Field(baud_), ui::Stretch()}),
-                                        ui::Row({ui::Field(script_), ui::Bare(browse_)}), ui::Stretch()})),
-            ui::Bare(serial_.data_bits), ui::Bare(serial_.parity), ui::Bare(serial_.stop_bits),
-            ui::ButtonColumn(
-                {ui::Bare(properties_), ui::Bare(new_), ui::Bare(delete_), ui::Bare(manage_types_)})})}));
+  SetLayout(ui::Column({ui::Bare(modems_),
+                        ui::Row({ui::Characters(8, ui::Field(baud_)), ui::Field(script_), ui::Bare(browse_)}),
+                        ui::Row({ui::Bare(serial_.data_bits), ui::Bare(serial_.parity),
+                                 ui::Bare(serial_.stop_bits), ui::Stretch(),
+                                 ui::ButtonColumn({ui::Bare(properties_), ui::Bare(new_), ui::Bare(delete_),
+                                                   ui::Bare(manage_types_)})})}));
   modems_.AddColumn("Modem", 165);
   modems_.AddColumn("Server", 100);
   modems_.AddColumn("Port", 45);

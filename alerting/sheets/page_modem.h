@@ -52,7 +52,7 @@ class CPropPgModem : public CServicePage {
   ui::ListView modems_;
   ui::ComboBox baud_;
   ui::Edit script_;
-  ui::Button browse_;
+  ui::BrowseButton browse_;
   SerialChoices serial_;
   ui::Button properties_, new_, delete_, manage_types_;
 };

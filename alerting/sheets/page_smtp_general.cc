@@ -16,7 +16,7 @@ constexpr std::size_t kMaxServer = 255;
 CPropPgSMTPGeneral::CPropPgSMTPGeneral()
     : CMailGeneralPage(ctxhelp::kHelpSmtpGeneral, kGeneralOf<CNtfyServiceSMTP>),
       server_(*this, kIdServer, "&SMTP Server:"),
-      browse_(*this, kIdBrowse, "..."),
+      browse_(*this, kIdBrowse, server_),
       login_(*this) {
   SetLayout(FramesOver(
       "SMTP (Simple Message Transfer Protocol) is the standard Internet email service.",

@@ -19,7 +19,7 @@ class CPropPgSMTPGeneral : public CMailGeneralPage {
 
   std::string server_name_;
   ui::Edit server_;
-  ui::Button browse_;
+  ui::BrowseButton browse_;
   LoginFields login_;
 };
 

@@ -16,7 +16,8 @@ constexpr int kPreviewHeight = kUsualHeight - kUsualHeight * 26 / 35;
 }  // namespace
 
 CIconOpenDialog::CIconOpenDialog(ui::Window* parent, std::string initial, std::uint32_t* index)
-    : CPathDialog(parent, std::move(initial), {kIdsIconFilters, kIdsIconExtension, kIdsIconTitle}),
+    : CPathDialog(parent, std::move(initial), {kIdsIconFilters, kIdsIconExtension, kIdsIconTitle},
+                  ctxhelp::kHelpChooseIcon),
       index_(index),
       strip_(*this, kIdIconStrip, index != nullptr ? *index : 0) {
   if (!CanPreview()) return;

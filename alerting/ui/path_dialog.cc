@@ -3,6 +3,7 @@
 
 #include <sstream>
 
+#include "alerting/frame/companions.h"
 #include "alerting/frame/strings.h"
 #include "alerting/ui/universal_path.h"
 #include "platform/ui/desktop.h"
@@ -21,11 +22,17 @@ std::vector<ui::FileFilter> Filters(const std::string& list) {
 
 }  // namespace
 
-CPathDialog::CPathDialog(ui::Window* parent, std::string initial, const Texts& texts) : FileDialog(parent) {
+CPathDialog::CPathDialog(ui::Window* parent, std::string initial, const Texts& texts,
+                         ctxhelp::HelpPage help_page)
+    : FileDialog(parent), help_page_(help_page) {
   filters = Filters(Text(texts.filters));
   default_extension = Text(texts.extension);
   title = Text(texts.title);
   initial_path = std::move(initial);
+}
+
+void CPathDialog::OnHelp(const ui::HelpEvent& event) {
+  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
 }
 
 bool CPathDialog::CanPreview() {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "companions/ctxhelp/help_pages.h"
 #include "platform/ui/file_dialog.h"
 
 namespace alerting {
@@ -18,15 +19,22 @@ class CPathDialog : public ui::FileDialog {
   /// The same, and puts the universal form of the path into `path`, after a warning where it has none.
   int ChooseUniversal(std::string& path);
 
+  void OnHelp(const ui::HelpEvent& event) override;
+
  protected:
   /// Identifiers of the filters, the default extension and the title.
   struct Texts {
     int filters, extension, title;
   };
-  CPathDialog(ui::Window* parent, std::string initial, const Texts& texts);
+  /// The help page is the one of the preview's controls.
+  CPathDialog(ui::Window* parent, std::string initial, const Texts& texts,
+              ctxhelp::HelpPage help_page = ctxhelp::kNoHelpPage);
 
   /// False on systems whose file dialogs have no room for more.
   static bool CanPreview();
+
+ private:
+  const ctxhelp::HelpPage help_page_;
 };
 
 }  // namespace alerting

@@ -16,7 +16,8 @@ void ShowIcon(ui::Button& button, const char* resource) {
 }  // namespace
 
 CWaveOpenDialog::CWaveOpenDialog(ui::Window* parent, std::string initial)
-    : CPathDialog(parent, std::move(initial), {kIdsWaveFilters, kIdsWaveExtension, kIdsWaveTitle}),
+    : CPathDialog(parent, std::move(initial), {kIdsWaveFilters, kIdsWaveExtension, kIdsWaveTitle},
+                  ctxhelp::kHelpChooseSound),
       play_button_(*this, kIdPlay, Text(kIdsPlay)),
       stop_button_(*this, kIdStop, Text(kIdsStop)) {
   constexpr int kSide = 40, kGap = 8;

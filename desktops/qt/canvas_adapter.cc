@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/canvas_adapter.h"
 
+#include <QAccessibleWidget>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -55,9 +56,17 @@ class QtPainter : public platform::ui::Painter {
   const QWidget& styled_;
 };
 
+// To the toolkit a canvas is an area like any other, which a screen reader would pass over.
+QAccessibleInterface* SpokenCanvas(const QString&, QObject* object) {
+  auto* canvas = dynamic_cast<CanvasWidget*>(object);
+  return canvas != nullptr ? new QAccessibleWidget(canvas, QAccessible::Canvas) : nullptr;
+}
+
 }  // namespace
 
 CanvasWidget::CanvasWidget(Canvas& model, QWidget* parent) : QAbstractScrollArea(parent), model_(model) {
+  static const bool is_spoken = (QAccessible::installFactory(SpokenCanvas), true);
+  static_cast<void>(is_spoken);
   setFocusPolicy(Qt::StrongFocus);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);

@@ -49,7 +49,7 @@ void ControlAdapter::OnWindowChanged(platform::ui::Window&, Change change) {
   switch (change) {
     case Change::kLabel:
       if (label_ != nullptr) label_->setText(ToQt(control_.Label()));
-      FirstFocus()->setAccessibleName(ToQt(platform::ui::PlainLabel(control_.Label())));
+      FirstFocus()->setAccessibleName(ToQt(control_.SpokenName()));
       RefreshLabel();
       break;
     case Change::kEnabled:

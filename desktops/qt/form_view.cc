@@ -75,12 +75,11 @@ void FormView::FocusCurrent() {
 }
 
 void FormView::SetTabOrder() {
-  QWidget* last = nullptr;
   for (Control* control : form_.Controls()) {
     ControlAdapter* adapter = Find(*control);
     if (adapter == nullptr || !control->TakesFocus()) continue;
-    if (last != nullptr) setTabOrder(last, adapter->FirstFocus());
-    last = adapter->LastFocus();
+    if (last_in_tab_order_ != nullptr) setTabOrder(last_in_tab_order_, adapter->FirstFocus());
+    last_in_tab_order_ = adapter->LastFocus();
   }
 }
 

@@ -35,6 +35,8 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
   /// Begins to observe the form and its controls; sets the tab order and the first focus.
   void Start();
   void FocusCurrent();
+  /// The last widget that Tab reaches in the form, or null.
+  QWidget* LastInTabOrder() const { return last_in_tab_order_; }
 
   /// The control whose widget `widget` is or is a part of, or null.
   platform::ui::Control* ControlOf(const QWidget* widget) const;
@@ -59,6 +61,7 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
   std::map<const platform::ui::Control*, std::unique_ptr<ControlAdapter>> adapters_;
   std::vector<std::vector<QWidget*>> equally_wide_;
   std::function<void()> on_caption_;
+  QWidget* last_in_tab_order_ = nullptr;
   bool ends_itself_ = true;
 };
 

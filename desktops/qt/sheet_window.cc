@@ -4,6 +4,7 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <utility>
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/texts.h"
@@ -16,21 +17,20 @@ using platform::ui::PropertySheet;
 using platform::ui::SheetButton;
 
 SheetWindow::SheetWindow(PropertySheet& sheet, QWidget* parent)
-    : ModalWindow(sheet, parent), sheet_(sheet), tabs_(new QTabWidget(this)) {
+    : ModalWindow(sheet, parent), sheet_(sheet), tabs_(new QTabWidget(this)), row_(new QHBoxLayout) {
   setWindowFlag(Qt::WindowContextHelpButtonHint, sheet.HelpButton());
   auto* whole = new QVBoxLayout(this);
-  auto* row = new QHBoxLayout;
   whole->addWidget(tabs_);
-  whole->addLayout(row);
-  AddButtons(*row);
+  whole->addLayout(row_);
+  AddButtons();
   AddTabs();
   MakeRoomForPages();
   ShowPage();
   ShowButtons();
 }
 
-void SheetWindow::AddButtons(QBoxLayout& row) {
-  row.addStretch();
+void SheetWindow::AddButtons() {
+  row_->addStretch();
   for (const auto& [button, text] :
        {std::pair{SheetButton::kBack, tr("< &Back")}, std::pair{SheetButton::kNext, tr("&Next >")},
         std::pair{SheetButton::kFinish, tr("Finish")}, std::pair{SheetButton::kOk, tr("OK")},
@@ -41,7 +41,7 @@ void SheetWindow::AddButtons(QBoxLayout& row) {
     widget->setFocusPolicy(Qt::TabFocus);
     connect(widget, &QPushButton::clicked, this,
             [this, button = button] { Guarded([&] { sheet_.OnButton(button); }); });
-    row.addWidget(widget);
+    row_->addWidget(widget);
     buttons_[button] = widget;
   }
 }
@@ -94,10 +94,20 @@ FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
     view = FormView::Laid(page, place);
     view->SetOnCaption([this, &page, index] { tabs_->setTabText(index, ToQt(page.Label())); });
     place->layout()->addWidget(view.get());
+    EndTabOrderWithButtons(*view);
     view->show();
     if (isVisible()) resize(size().expandedTo(WantedSize()));
   }
   return *view;
+}
+
+// A page is made after the buttons below it, and would come after them.
+void SheetWindow::EndTabOrderWithButtons(const FormView& page) {
+  QWidget* last = page.LastInTabOrder();
+  for (int i = 0; last != nullptr && i < row_->count(); ++i) {
+    QWidget* button = row_->itemAt(i)->widget();
+    if (button != nullptr) setTabOrder(std::exchange(last, button), button);
+  }
 }
 
 void SheetWindow::ShowPage() {

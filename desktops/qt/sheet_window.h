@@ -8,7 +8,7 @@
 #include "desktops/qt/modal_window.h"
 #include "platform/ui/property_sheet.h"
 
-class QBoxLayout;
+class QHBoxLayout;
 
 namespace desktops::qt {
 
@@ -21,17 +21,19 @@ class SheetWindow : public ModalWindow {
   void OnWindowChanged(platform::ui::Window& window, platform::ui::Change change) override;
 
  private:
-  void AddButtons(QBoxLayout& row);
+  void AddButtons();
   void AddTabs();
   void MakeRoomForPages();
   void PressDefault() override;
   void ShowPage();
   void ShowButtons();
+  void EndTabOrderWithButtons(const FormView& page);
   void OnTabChosen(int index);
   FormView& ViewOf(platform::ui::PropertyPage& page, int index);
 
   platform::ui::PropertySheet& sheet_;
   QTabWidget* tabs_;
+  QHBoxLayout* row_;
   std::map<platform::ui::SheetButton, QPushButton*> buttons_;
   std::map<const platform::ui::PropertyPage*, std::unique_ptr<FormView>> views_;
 };

@@ -44,6 +44,12 @@ void Button::OnClick() {
   if (WithinReach() && on_click_) on_click_();
 }
 
+std::string BrowseButton::SpokenName() const {
+  std::string field = field_.SpokenName();
+  if (!field.empty() && field.back() == ':') field.pop_back();
+  return "Choose " + field;
+}
+
 void CheckBox::SetChecked(bool checked) {
   checked_ = checked;
   Notify(Change::kCurrent);

@@ -43,6 +43,8 @@ class Control : public Window {
   Form& OwnerForm() const { return form_; }
   /// False for static texts, which never take the focus.
   virtual bool TakesFocus() const { return true; }
+  /// What a screen reader says for the control.
+  virtual std::string SpokenName() const { return PlainLabel(Label()); }
   bool HasFocus() const;
   void SetFocus() override;
 
@@ -101,6 +103,16 @@ class Button : public Control {
   std::function<void()> on_click_;
   Bitmap picture_;
   bool is_default_ = false;
+};
+
+/// The small "..." button behind a field, which offers values for it. Its face says nothing, so it is spoken of by its field.
+class BrowseButton : public Button {
+ public:
+  BrowseButton(Form& form, int id, const Control& field) : Button(form, id, "..."), field_(field) {}
+  std::string SpokenName() const override;
+
+ private:
+  const Control& field_;
 };
 
 class CheckBox : public Control {

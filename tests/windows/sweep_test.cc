@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+// Goes through all windows of the library on the Qt desktop, on a site with examples, as a person would who presses every
+// button, and holds each to what every window owes to those who use it. The list of all windows is the one of the help
+// pages, so a window that nobody reaches is missed here.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <QApplication>
+#include <QFileDialog>
+#include <map>
+#include <set>
+
+#include "alerting/alerting.h"
+#include "alerting/api/load.h"
+#include "alerting/frame/app.h"
+#include "alerting/services/service_list.h"
+#include "companions/ctxhelp/help_pages.h"
+#include "companions/ctxhelp/help_texts.h"
+#include "console/alertconsole_samples.h"
+#include "console/alertconsole_tour.h"
+#include "desktops/qt/cut_controls.h"
+#include "desktops/qt/form_view.h"
+#include "desktops/qt/qt_desktop.h"
+#include "desktops/qt/qt_test_desktop.h"
+#include "desktops/qt/window_faults.h"
+#include "tests/support/temporary.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Faults = std::vector<std::string>;
+
+/// Tells what help was asked for instead of showing it.
+class HelpDesktop : public desktops::QtDesktop {
+ public:
+  void ShowHelpText(platform::ui::Window*, const std::string& text) override { shown = text; }
+
+  std::string HelpOn(platform::ui::Form& form, platform::ui::Control* control) {
+    shown.clear();
+    form.OnHelp({platform::ui::HelpEvent::Kind::kHelpKey, control});
+    return shown;
+  }
+
+  std::string shown;
+};
+
+/// A site as a first start leaves it, which the console's examples are copied from.
+class Site {
+ public:
+  Site() {
+    setenv("ALERTING_DATA", directory_.Path().c_str(), 1);
+    EXPECT_EQ(std::system(ALERTCTL " init >/dev/null"), 0);
+    samples_.emplace();
+    EXPECT_TRUE(alerting::Load());
+    alerting::TheApp().EnsureStoresOpen();
+    EXPECT_TRUE(alerting::TheServices().Read());
+  }
+  ~Site() {
+    alerting::TheApp().CloseStores();
+    alerting::Unload();
+  }
+
+ private:
+  const test_support::TemporaryDirectory directory_;
+  std::optional<alertconsole::SampleSite> samples_;
+};
+
+class Inspector {
+ public:
+  explicit Inspector(HelpDesktop& desktop) : desktop_(desktop) {}
+
+  void Look(QWidget& window, const std::string& name) {
+    const bool is_ours = qobject_cast<QFileDialog*>(&window) == nullptr;
+    Note(name, desktops::qt::NameFaults(window));
+    if (is_ours) {
+      Note(name, desktops::qt::CutControls(window));
+      Note(name, desktops::qt::AccessKeyFaults(window));
+      Note(name, desktops::qt::TabOrderFaults(window));
+      NoteDefault(window, name);
+    }
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+      const auto* view = dynamic_cast<desktops::qt::FormView*>(widget);
+      if (view != nullptr && view->isVisible() && !view->ShownForm().Controls().empty())
+        LookForHelp(view->ShownForm(), name);
+    }
+  }
+
+  Faults faults;
+  std::set<std::string> pages;  ///< the help texts of the windows seen
+
+ private:
+  void Note(const std::string& name, const Faults& found) {
+    for (const std::string& fault : found) faults.push_back(name + ": " + fault);
+  }
+
+  // Enter must do what the window is for, and nothing that cannot be undone.
+  void NoteDefault(QWidget& window, const std::string& name) {
+    for (const auto* button : window.findChildren<QPushButton*>())
+      if (button->isVisible() && button->isDefault()) return;
+    faults.push_back(name + ": Enter presses nothing");
+  }
+
+  void LookForHelp(platform::ui::Form& form, const std::string& name) {
+    const std::string page = desktop_.HelpOn(form, nullptr);
+    pages.insert(page);
+    std::map<std::string, std::string> texts = {{"", "nothing"},
+                                                {"There is no help on this item.", "nothing"}};
+    texts.emplace(page, "the whole window");
+    for (platform::ui::Control* control : form.Controls()) {
+      if (!control->Visible() || !control->TakesFocus()) continue;
+      const auto [owner, is_new] = texts.emplace(desktop_.HelpOn(form, control), control->Label());
+      if (!is_new)
+        faults.push_back(name + ": the help on \"" + control->Label() + "\" is that on " + owner->second);
+    }
+  }
+
+  HelpDesktop& desktop_;
+};
+
+std::vector<std::string> HelpFilesNotSeen(const std::set<std::string>& pages) {
+  std::vector<std::string> missed;
+#define HELP_PAGE(name, number, file) \
+  if (pages.count(ctxhelp::HelpText(number)) == 0) missed.push_back(file);
+#include "companions/ctxhelp/help_pages.def"
+#undef HELP_PAGE
+  return missed;
+}
+
+TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
+  desktops::QtTestDesktop::EnsureApplication();
+  Site site;
+  HelpDesktop desktop;
+  Inspector inspector(desktop);
+  alertconsole::Tour tour(
+      [&](QWidget& window, const QString& name) { inspector.Look(window, name.toStdString()); });
+  alerting::CNtfyServiceList& services = alerting::TheServices();
+  for (int i = 0; i < services.GetCount(); ++i) {
+    alerting::CNtfyService& service = *services.GetAt(i);
+    const auto name = QString::fromStdString(service.Name());
+    tour.Visit(name, [&] { DomainServicePropertySheet(nullptr, i); });
+    if (service.HasBackupModem())
+      tour.Visit(name + " with another modem", [&] { DomainServiceBackupPropertySheet(nullptr, i); });
+  }
+  char same_area[16] = {}, long_distance[16] = {}, international[16] = {};
+  tour.Visit("rules", [&] { RulesDialog(nullptr, same_area, long_distance, international); });
+  char path[4096] = {};
+  std::uint32_t icon = 0;
+  tour.Visit("sound", [&] { SelectWAVFileDialog(nullptr, path); });
+  tour.Visit("icon", [&] { SelectIconFileDialog(nullptr, path, &icon); });
+  EXPECT_THAT(inspector.faults, ElementsAre());
+  EXPECT_THAT(HelpFilesNotSeen(inspector.pages), IsEmpty());
+  EXPECT_THAT(tour.DeafToEscape(), IsEmpty());
+}
+
+}  // namespace
