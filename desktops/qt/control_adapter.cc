@@ -59,6 +59,9 @@ void ControlAdapter::OnWindowChanged(platform::ui::Window&, Change change) {
     case Change::kFocus:
       TakeFocus();
       break;
+    case Change::kDestroyed:
+      if (const std::function<void()> gone = on_gone_) gone();
+      break;
     default:
       Refresh(change);
   }

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QWidget>
+#include <functional>
 #include <memory>
 
 #include "platform/ui/control.h"
@@ -37,6 +38,8 @@ class ControlAdapter : public QObject, public platform::ui::WindowObserver, publ
 
   /// Begins to observe, and brings the widget to the control's state.
   void Start();
+  /// What is done when the control goes before its widget. It may delete the adapter.
+  void SetOnGone(std::function<void()> handler) { on_gone_ = std::move(handler); }
   /// The label that goes with the control: shown, enabled and named as the control is.
   void SetLabelWidget(QLabel* label);
   QLabel* LabelWidget() const { return label_; }
@@ -66,6 +69,7 @@ class ControlAdapter : public QObject, public platform::ui::WindowObserver, publ
   platform::ui::Control& control_;
   QWidget* widget_;
   QPointer<QLabel> label_;
+  std::function<void()> on_gone_;
 };
 
 /// Makes the widget, a child of `parent`, and the adapter for the control's kind.

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QWhatsThis>
 #include <algorithm>
+#include <utility>
 
 #include "desktops/qt/guard.h"
 #include "desktops/qt/help_menu.h"
@@ -30,9 +31,16 @@ FormView::FormView(platform::ui::Form& form, QWidget* parent) : QWidget(parent),
 }
 
 // The adapters go before their widgets, so nothing that happens on the way down reaches a control.
-FormView::~FormView() {
+FormView::~FormView() { LetGo(); }
+
+void FormView::LetGo() {
+  if (std::exchange(let_go_, true)) return;
   disconnect(qApp, nullptr, this, nullptr);
   if (form_.Observer() == this) form_.SetObserver(nullptr);
+  adapters_.clear();
+  setEnabled(false);  // no key and no click reaches the form any more
+  hide();
+  deleteLater();  // a handler of one of the widgets may be running
 }
 
 void FormView::OnWindowChanged(platform::ui::Window&, Change change) {
@@ -42,7 +50,10 @@ void FormView::OnWindowChanged(platform::ui::Window&, Change change) {
 
 ControlAdapter& FormView::Add(Control& control) {
   std::unique_ptr<ControlAdapter>& adapter = adapters_[&control];
-  if (adapter == nullptr) adapter = MakeAdapter(control, this);
+  if (adapter == nullptr) {
+    adapter = MakeAdapter(control, this);
+    adapter->SetOnGone([this] { LetGo(); });
+  }
   return *adapter;
 }
 

@@ -18,6 +18,7 @@ bool Control::HasFocus() const { return form_.FocusedControl() == this; }
 void Control::SetFocus() { form_.MoveFocus(this); }
 
 void Control::ChangedByPerson() {
+  const ModuleScope context(form_.OwnModule());
   if (on_change_) on_change_();
   if (is_edit_) form_.OnPersonChange(*this);
 }
@@ -41,6 +42,7 @@ void Button::SetPicture(const Bitmap& picture) {
 }
 
 void Button::OnClick() {
+  const ModuleScope context(OwnerForm().OwnModule());
   if (WithinReach() && on_click_) on_click_();
 }
 

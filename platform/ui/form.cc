@@ -22,6 +22,7 @@ void Form::Destroy() {
 void Form::OnInitDialog() { UpdateData(false); }
 
 bool Form::UpdateData(bool save) {
+  const ModuleScope context(module_);
   DataExchange exchange(*this, save);
   Exchange(exchange);
   return !exchange.Failed();

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/base/module.h"
 #include "platform/ui/control.h"
 #include "platform/ui/data_exchange.h"
 #include "platform/ui/layout.h"
@@ -17,10 +18,13 @@ struct HelpEvent {
   Control* control;  ///< the one asked about; null for the form itself
 };
 
-/// What dialogs and property pages share: controls as members, a layout, data exchange, one focus.
+/// What dialogs and property pages share: controls as members, a layout, data exchange, one focus. What a person does in a
+/// form runs in the resource context in which it was made, so that a panel's messages bear its own library's title wherever
+/// the panel stands.
 class Form : public Window {
  public:
-  Form(Window* parent, std::string caption) : Window(parent, 0, std::move(caption)) {}
+  Form(Window* parent, std::string caption)
+      : Window(parent, 0, std::move(caption)), module_(Module::Current()) {}
   ~Form() override;
 
   /// In tab order. Not owned: they are members of the derived class.
@@ -51,6 +55,9 @@ class Form : public Window {
 
   /// Passes a help request on; the base ignores it.
   virtual void OnHelp(const HelpEvent&) {}
+  /// The library that the form belongs to.
+  const Module& OwnModule() const { return module_; }
+
   /// Enter (not in a multi-line field) and Escape, where the control did not want them. Enter presses the
   /// button with the focus, else the default button.
   virtual void OnEnter();
@@ -72,6 +79,7 @@ class Form : public Window {
   void RemoveControl(Control& control);
   bool CanFocus(const Control& control) const;
 
+  const Module& module_;
   std::vector<Control*> controls_;
   LayoutNode layout_{LayoutNode::Kind::kColumn, nullptr, {}, {}};
   Control* focused_ = nullptr;

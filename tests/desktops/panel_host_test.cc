@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: MIT
+#include "desktops/qt/panel_host.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QTest>
+
+#include "desktops/qt/qt_test_desktop.h"
+#include "platform/base/module.h"
+#include "platform/ui/edit.h"
+
+namespace desktops::qt {
+namespace {
+
+class NumberPanel : public platform::ui::PropertyPage {
+ public:
+  NumberPanel() : PropertyPage("General") {
+    button.SetOnClick([this] { title = platform::Module::Current().Title(); });
+  }
+  bool OnSetActive() override { return ++activations, PropertyPage::OnSetActive(); }
+  void Exchange(platform::ui::DataExchange& x) override { x.Integer(number, value, 1, 9); }
+
+  int activations = 0;
+  std::uint32_t value = 5;
+  std::string title;
+  platform::ui::Edit number{*this, 1, "&Number:"};
+  platform::ui::Button button{*this, 2, "&Press"};
+};
+
+/// Notes the titles of messages.
+class TitleDesktop : public QtTestDesktop {
+ public:
+  platform::ui::Answer ShowMessage(const platform::ui::Message& message) override {
+    title = message.title;
+    return platform::ui::Answer::kOk;
+  }
+  std::string title;
+};
+
+class PanelHostTest : public testing::Test {
+ protected:
+  static void SetUpTestSuite() { QtTestDesktop::EnsureApplication(); }
+  PanelHostTest() {
+    const platform::ModuleScope scope(library);
+    panel = std::make_unique<NumberPanel>();
+    host = std::make_unique<PanelHost>(*panel, *place);
+    place->show();
+  }
+  static void Settle() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
+  TitleDesktop desktop;
+  const platform::Module library{"Library"};
+  std::unique_ptr<NumberPanel> panel;
+  std::unique_ptr<QWidget> place = std::make_unique<QWidget>();
+  std::unique_ptr<PanelHost> host;
+};
+
+TEST_F(PanelHostTest, APanelWorksInAWindowThatIsNotOfItsMaking) {
+  auto& field = *place->findChild<QLineEdit*>();
+  EXPECT_EQ(field.text(), "5");
+  QTest::keyClick(&field, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClicks(&field, "12");
+  EXPECT_EQ(panel->number.Text(), "12");
+  EXPECT_FALSE(panel->UpdateData(true));
+  EXPECT_EQ(desktop.title, "Library") << "messages are the panel's library's, wherever it stands";
+  panel->button.OnClick();
+  EXPECT_EQ(panel->title, "Library");
+  EXPECT_TRUE(host->Activate());
+  EXPECT_EQ(panel->activations, 2);
+}
+
+TEST_F(PanelHostTest, ThePanelMayGoFirst) {
+  panel.reset();
+  EXPECT_FALSE(host->Activate());
+  QTest::mouseClick(place.get(), Qt::LeftButton);
+  Settle();
+  EXPECT_EQ(place->findChild<QLineEdit*>(), nullptr);
+}
+
+TEST_F(PanelHostTest, ThePlaceMayGoFirst) {
+  place.reset();
+  EXPECT_TRUE(host->Activate());
+  panel->number.SetText("7");
+  host.reset();
+  EXPECT_FALSE(panel->Created());
+  EXPECT_TRUE(panel->UpdateData(true));
+  EXPECT_EQ(panel->value, 7u);
+}
+
+TEST_F(PanelHostTest, TheHostMayGoFirst) {
+  host.reset();
+  EXPECT_EQ(place->findChild<QLineEdit*>(), nullptr);
+  panel->number.SetText("8");
+  EXPECT_EQ(panel->number.Observer(), nullptr);
+  const auto another = std::make_unique<QWidget>();
+  host = std::make_unique<PanelHost>(*panel, *another);
+  EXPECT_TRUE(panel->Created()) << "it can be shown again";
+}
+
+}  // namespace
+}  // namespace desktops::qt
