@@ -4,8 +4,8 @@
 #include <cstring>
 #include <string>
 
-#include "companions/agentui/recent_dialog.h"
 #include "companions/agentui/recent_lists.h"
+#include "companions/choices/choose.h"
 #include "platform/base/utf8.h"
 #include "platform/ui/lists.h"
 
@@ -16,12 +16,16 @@ void Record(const std::string& list, const char* entry) {
   if (entry != nullptr) AddRecentEntry(list, entry);
 }
 
-/// Runs a list dialog and puts the choice into the buffer, which otherwise stays as it is.
-void RunListDialog(RecentDialog&& dialog, char* buffer, std::size_t size) {
-  if (dialog.RunModal() != platform::ui::kOk) return;
-  const std::string& chosen = dialog.Chosen();
-  const std::size_t length = platform::Utf8Prefix(chosen, size - 1);
-  std::memcpy(buffer, chosen.data(), length);
+/// Lets a person choose an entry and puts it into the buffer, which otherwise stays as it is.
+void ChooseEntry(platform::ui::Window* parent, const char* caption, const std::string& list,
+                 const char* empty_text, char* buffer, std::size_t size) {
+  const choices::Offer offer{caption, "&Used lately, newest first:", RecentEntries(list), empty_text,
+                             ctxhelp::kHelpRecent};
+  const auto chosen = choices::Choose(parent, offer);
+  if (!chosen) return;
+  const std::string& entry = offer.texts[*chosen];
+  const std::size_t length = platform::Utf8Prefix(entry, size - 1);
+  std::memcpy(buffer, entry.data(), length);
   buffer[length] = '\0';
 }
 
@@ -38,14 +42,12 @@ class RealAgentUi : public AgentUi {
   void AddCommunityNameToMRUList(const char* community) override { Record(kCommunities, community); }
 
   void DisplayIPAddressMRUListDialog(platform::ui::Window* parent, char* buffer) override {
-    RunListDialog(RecentDialog(parent, "Recently Used Addresses", RecentEntries(kAddresses),
-                               "No address or server name has been used yet."),
-                  buffer, kAddressBufferSize);
+    ChooseEntry(parent, "Recently Used Addresses", kAddresses, "No address or server name has been used yet.",
+                buffer, kAddressBufferSize);
   }
   void DisplayCommunityNameMRUListDialog(platform::ui::Window* parent, char* buffer) override {
-    RunListDialog(RecentDialog(parent, "Recently Used Communities", RecentEntries(kCommunities),
-                               "No community name has been used yet."),
-                  buffer, kCommunityBufferSize);
+    ChooseEntry(parent, "Recently Used Communities", kCommunities, "No community name has been used yet.",
+                buffer, kCommunityBufferSize);
   }
 
   // Test requests are not carried yet.

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "companions/minibrowse/minibrowse.h"
 
+#include "companions/alertstore/computers.h"
 #include "companions/alertstore/problem.h"
-#include "companions/minibrowse/computer_dialog.h"
+#include "companions/choices/choose.h"
 #include "companions/objmodel/objmodel.h"
 
 namespace minibrowse {
@@ -14,9 +15,15 @@ platform::GUID ChooseComputer(platform::ui::Window* parent) {
   const std::string why = status == alertstore::kOk
                               ? "No computer is known to this site yet."
                               : "The computers cannot be read: " + alertstore::ProblemText(status) + ".";
-  ComputerDialog dialog(parent, std::move(computers), why + " Type the name instead.");
-  dialog.RunModal();
-  return dialog.Chosen();
+  choices::Offer offer{"Choose Computer",
+                       "&Computers of this site:",
+                       {},
+                       why + " Type the name instead.",
+                       ctxhelp::kHelpChooseComputer,
+                       true};
+  for (const alertstore::Computer& computer : computers) offer.texts.push_back(computer.name);
+  const auto chosen = choices::Choose(parent, offer);
+  return chosen ? computers[*chosen].id : platform::kNullGuid;
 }
 
 class RealMiniBrowser : public MiniBrowser {
