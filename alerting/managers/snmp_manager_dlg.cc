@@ -61,10 +61,11 @@ void CSnmpManagerDlg::OnInitDialog() {
   UpdateOk();
 }
 
+// A recently used entry may be longer than the record has room for: a part of it would name another machine.
 void CSnmpManagerDlg::Exchange(ui::DataExchange& x) {
   x.Text(computer_, computer_text_);
-  x.Text(community_, community_text_);
-  x.Text(address_, address_text_);
+  x.LimitedText(community_, community_text_);
+  x.LimitedText(address_, address_text_);
   x.Text(comment_, comment_text_);
 }
 

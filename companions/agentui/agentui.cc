@@ -6,7 +6,6 @@
 
 #include "companions/agentui/recent_lists.h"
 #include "companions/choices/choose.h"
-#include "platform/base/utf8.h"
 #include "platform/ui/lists.h"
 
 namespace agentui {
@@ -16,17 +15,14 @@ void Record(const std::string& list, const char* entry) {
   if (entry != nullptr) AddRecentEntry(list, entry);
 }
 
-/// Lets a person choose an entry and puts it into the buffer, which otherwise stays as it is.
+/// Lets a person choose an entry and puts it into the buffer, which otherwise stays as it is. What the buffer has no
+/// room for is not offered: the beginning of an address is another address.
 void ChooseEntry(platform::ui::Window* parent, const char* caption, const std::string& list,
                  const char* empty_text, char* buffer, std::size_t size) {
-  const choices::Offer offer{caption, "&Used lately, newest first:", RecentEntries(list), empty_text,
-                             ctxhelp::kHelpRecent};
-  const auto chosen = choices::Choose(parent, offer);
-  if (!chosen) return;
-  const std::string& entry = offer.texts[*chosen];
-  const std::size_t length = platform::Utf8Prefix(entry, size - 1);
-  std::memcpy(buffer, entry.data(), length);
-  buffer[length] = '\0';
+  choices::Offer offer{caption, "&Used lately, newest first:", RecentEntries(list), empty_text,
+                       ctxhelp::kHelpRecent};
+  std::erase_if(offer.texts, [size](const std::string& entry) { return entry.size() >= size; });
+  if (const auto chosen = choices::Choose(parent, offer)) std::strcpy(buffer, offer.texts[*chosen].c_str());
 }
 
 class RealAgentUi : public AgentUi {

@@ -34,6 +34,12 @@ void DataExchange::Text(Edit& edit, std::string& value) {
   }
 }
 
+void DataExchange::LimitedText(Edit& edit, std::string& value) {
+  if (save_ && !failed_ && edit.Text().size() > edit.Limit())
+    Refuse(edit, "Please enter no more than " + std::to_string(edit.Limit()) + " characters.");
+  Text(edit, value);
+}
+
 void DataExchange::Text(ComboBox& combo, std::string& value) {
   if (failed_) return;
   if (save_) {
@@ -91,14 +97,16 @@ void DataExchange::IntegerBetween(Edit& edit, std::int64_t& value, std::int64_t 
   if (failed_) return;
   if (!save_) return edit.SetText(std::to_string(value));
   const std::optional<std::int64_t> number = ParseNumber(edit.Text());
-  if (number && *number >= lower && *number <= upper) {
+  if (number && *number >= lower && *number <= upper)
     value = *number;
-    return;
-  }
+  else
+    Refuse(edit, "Please enter an integer between " + std::to_string(lower) + " and " +
+                     std::to_string(upper) + ".");
+}
+
+void DataExchange::Refuse(Edit& edit, const std::string& why) {
   failed_ = true;
-  MessageBox(
-      "Please enter an integer between " + std::to_string(lower) + " and " + std::to_string(upper) + ".",
-      Buttons::kOk, MessageIcon::kWarning, &form_);
+  MessageBox(why, Buttons::kOk, MessageIcon::kWarning, &form_);
   edit.SetFocus();
   edit.SetSelection(0, edit.Text().size());
 }

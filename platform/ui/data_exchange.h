@@ -24,6 +24,9 @@ class DataExchange {
   bool Failed() const { return failed_; }
 
   void Text(Edit& edit, std::string& value);
+  /// A text within the field's limit. A longer one, which the program may have put there, shows "Please enter no more than
+  /// %1 characters." with the limit put in and is refused as an integer is.
+  void LimitedText(Edit& edit, std::string& value);
   void Text(ComboBox& combo, std::string& value);
   void Check(CheckBox& box, bool& value);
   void Radio(RadioGroup& group, int& index);
@@ -37,6 +40,7 @@ class DataExchange {
   void Bits(CheckBox& box, std::uint32_t& flags, std::uint32_t mask);
 
  private:
+  void Refuse(Edit& edit, const std::string& why);
   void IntegerBetween(Edit& edit, std::int64_t& value, std::int64_t lower, std::int64_t upper);
 
   Form& form_;

@@ -46,6 +46,7 @@ class SnmpManagerTest : public StoryTest {
     std::memset(&manager, 0xA5, sizeof manager);
     manager.address.Assign(address);
     manager.computer.Assign("OLD");
+    manager.community.Assign("");
     EXPECT_EQ(Store().DBAlertRecAdd(manager, id), alertstore::kOk);
     return manager;
   }
@@ -74,8 +75,8 @@ void ExpectRowButtons(Person& p, bool enabled) {
 
 TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
   ASSERT_EQ(alertstore::AddComputer(platform::GUID::Generate(), "OPERATIONS"), alertstore::kOk);
-  library_.agentui.chosen_address = "192.0.2.25";
-  Script().ExpectWindow(kAdd, [](Person& p) {
+  library_.agentui.chosen_address = std::string(39, 'a');
+  Script().ExpectWindow(kAdd, [this](Person& p) {
     EXPECT_FALSE(p.IsEnabled("OK"));
     p.PressBeside(kMachine, "...");
     EXPECT_EQ(p.Text(kMachine), "OPERATIONS");
@@ -84,12 +85,16 @@ TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
     p.Type(kAddress, "");
     EXPECT_FALSE(p.IsEnabled("OK"));
     p.PressBeside(kAddress, "...");
-    EXPECT_TRUE(p.IsEnabled("OK"));
+    p.Press("OK");
+    EXPECT_EQ(p.FocusedLabel(), kAddress);
+    library_.agentui.chosen_address = "192.0.2.25";
+    p.PressBeside(kAddress, "...");
     p.Type(kCommunity, std::string(70, 'c'));
     p.Type(kComment, "on call");
     p.Press("OK");
   });
   Script().ExpectWindow("Choose Computer", [](Person& p) { p.Press("OK"); });
+  Script().ExpectMessage("Please enter no more than 28 characters.");
   CSnmpManagerDlg dialog(nullptr, nullptr);
   EXPECT_EQ(dialog.RunModal(), platform::ui::kOk);
   ASSERT_EQ(Stored().size(), 1u);
@@ -108,7 +113,6 @@ TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
 
 TEST_F(SnmpManagerTest, AChangedManagerKeepsTheBytesThatAreNotShown) {
   ALRTUSR_SNMPSERVICEREC manager = AddManager("192.0.2.1");
-  manager.community.Assign("");
   EXPECT_EQ(Run(kProperties, &manager,
                 [](Person& p) {
                   EXPECT_EQ(p.Text(kAddress), "192.0.2.1");
