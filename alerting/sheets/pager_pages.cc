@@ -23,8 +23,9 @@ constexpr std::size_t kMaxCompany = 64, kMaxLocation = 2048, kMaxPhone = 25;
 
 }  // namespace
 
-NumberField::NumberField(ui::Form& page, int id, std::string label, int lower, int upper, std::size_t digits)
-    : edit(page, id, std::move(label)), spin(page, id + 1, edit, true) {
+NumberField::NumberField(ui::Form& page, int id, std::string label, int lower, int upper, std::size_t digits,
+                         bool wraps)
+    : edit(page, id, std::move(label)), spin(page, id + 1, edit, wraps) {
   edit.SetDigitsOnly(true);
   edit.SetLimit(digits);
   spin.SetRange(lower, upper);
@@ -36,7 +37,7 @@ void NumberField::Exchange(ui::DataExchange& x, std::uint32_t& value) {
 
 CPropPgNumericPageGeneral::CPropPgNumericPageGeneral()
     : CGeneralPage(ctxhelp::kHelpNumericGeneral, kGeneralOf<CNtfyServiceNum>),
-      delay_(*this, kIdDelay, "&Delay:", 0, 60, 2) {
+      delay_(*this, kIdDelay, "&Delay:", 0, 60, 2, true) {
   SetLayout(FramesOver("Numeric pagers can send a message consisting only of numbers 0-9, *, and #.",
                        {ui::Note("Set the number of seconds for the modem to wait after dialing."),
                         ui::Row({delay_.Place(), ui::Stretch()})}));
@@ -51,7 +52,7 @@ CPropPgAlphaGeneral2::CPropPgAlphaGeneral2()
     : CGeneralPage(ctxhelp::kHelpAlphaGeneral, kGeneralOf<CNtfyServiceAlpha>),
       company_(*this, kIdCompany, "&Company:"),
       location_(*this, kIdLocation, "&Location:"),
-      text_length_(*this, kIdTextLength, "Te&xt Length:", 1, 255, 3),
+      text_length_(*this, kIdTextLength, "Te&xt Length:", 1, 255, 3, false),
       phone_(*this, kIdPhone, "P&hone:"),
       set_provider_(*this, kIdSetProvider, "&Set service provider") {
   SetLayout(FramesOver("Alphanumeric pagers can receive messages consiting of text and numbers.",

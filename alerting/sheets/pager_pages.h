@@ -13,9 +13,10 @@
 
 namespace alerting {
 
-/// A number that is typed or stepped, round its ends.
+/// A number that is typed or stepped; `wraps`: round its ends.
 struct NumberField {
-  NumberField(ui::Form& page, int id, std::string label, int lower, int upper, std::size_t digits);
+  NumberField(ui::Form& page, int id, std::string label, int lower, int upper, std::size_t digits,
+              bool wraps);
 
   void Exchange(ui::DataExchange& x, std::uint32_t& value);
   ui::LayoutNode Place() { return ui::Characters(kCharacters, ui::Field(edit)); }

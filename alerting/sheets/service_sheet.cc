@@ -40,6 +40,7 @@ bool CServiceSheet::ConfirmApplyBeforeTest() {
   switch (ui::MessageBox(Text(kIdsApplyBeforeTest), ui::Buttons::kYesNoCancel, ui::MessageIcon::kQuestion,
                          this)) {
     case ui::Answer::kYes:
+      if (!UpdateData(true)) return false;  // else Apply and the save would both tell what is refused
       Press(ui::SheetButton::kApply);
       return SaveAllPages();
     case ui::Answer::kNo:

@@ -455,38 +455,50 @@ TEST_F(ServiceSheetsTest, PhoneAndPagerFieldsRefuseOtherCharactersWithABeep) {
 struct NumberRow {
   std::uint32_t code;
   const char* label;
-  std::string lowest, highest;
+  std::string lowest, highest, above;  ///< above: a step up from the highest
   std::vector<std::string> refused;
   const char* message;
 };
 
-TEST_F(ServiceSheetsTest, NumbersWrapAroundTheirEndsAndAreRefusedBeyondThem) {
-  const NumberRow rows[] = {
-      {alerting::kTypeNumeric, kDelay, "0", "60", {"61", ""}, "Please enter an integer between 0 and 60."},
-      {alerting::kTypeAlpha,
-       kLength,
-       "1",
-       "255",
-       {"0", "256"},
-       "Please enter an integer between 1 and 255."}};
+TEST_F(ServiceSheetsTest, NumbersEndAtTheirBoundsAndAreRefusedBeyondThemOnce) {
+  const NumberRow rows[] = {{alerting::kTypeNumeric,
+                             kDelay,
+                             "0",
+                             "60",
+                             "0",
+                             {"61", ""},
+                             "Please enter an integer between 0 and 60."},
+                            {alerting::kTypeAlpha,
+                             kLength,
+                             "1",
+                             "255",
+                             "255",
+                             {"0", "256"},
+                             "Please enter an integer between 1 and 255."}};
   for (const NumberRow& row : rows) {
     SCOPED_TRACE(row.label);
     Seed(row.code);
     Expect([&](Person& p) {
       p.Type(row.label, row.highest);
       p.StepSpin(row.label, 1);
-      EXPECT_EQ(p.Text(row.label), row.lowest);
+      EXPECT_EQ(p.Text(row.label), row.above);
+      p.Type(row.label, row.lowest);
       p.StepSpin(row.label, -1);
-      EXPECT_EQ(p.Text(row.label), row.highest);
+      EXPECT_EQ(p.Text(row.label), row.above == row.lowest ? row.highest : row.lowest);
       for (const std::string& number : row.refused) {
         p.Type(row.label, number);
+        p.Press("&Test");
+        EXPECT_TRUE(p.IsEnabled("Apply"));
         p.Press("OK");
         EXPECT_EQ(p.FocusedLabel(), row.label);
         EXPECT_THAT(Engine().Writes(), IsEmpty());
       }
       p.Press("Cancel");
     });
-    for (std::size_t i = 0; i < row.refused.size(); ++i) Script().ExpectMessage(row.message);
+    for (std::size_t i = 0; i < row.refused.size(); ++i) {
+      Script().ExpectMessage(kApplyFirst, Answer::kYes);
+      for (int told = 0; told < 2; ++told) Script().ExpectMessage(row.message);
+    }
     EXPECT_EQ(Open(), kCancel);
   }
 }
