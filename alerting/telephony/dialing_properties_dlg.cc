@@ -136,7 +136,9 @@ void CDialingPropertiesDlg::OnRemove() {
   if (ui::MessageBox(Text(kIdsDeleteLocation), ui::Buttons::kYesNo, ui::MessageIcon::kQuestion, this) !=
       ui::Answer::kYes)
     return;
-  if (DeleteLocation(shown_)) Refill("");
+  if (!DeleteLocation(shown_)) return;
+  SetDirty(false);  // whatever becomes of the next load: these changes have nowhere to go
+  Refill("");
 }
 
 bool CDialingPropertiesDlg::Save() {

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/telephony/locations.h"
 
+#include "alerting/frame/strings.h"
+#include "alerting/telephony/countries.h"
 #include "alerting/telephony/dialing_properties_dlg.h"
 #include "alerting/telephony/dialing_rules_dlg.h"
+#include "alerting/telephony/location_name_dlg.h"
+#include "alerting/telephony/providers.h"
 #include "alerting/telephony/set_pager_provider_dlg.h"
 #include "tests/stories/story_test.h"
 #include "tests/support/service_fixture.h"
@@ -119,10 +123,15 @@ TEST_F(LocationsTest, ChoosingAnotherLocationStoresTheOneBefore) {
 TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
   Add("Office");
   Script().ExpectWindow(kDialog, [&](Person& p) {
+    p.Choose(kCountry, "Singapore");
+    p.ChooseOption(kUses, "&Pulse dialing");
     p.Press("&New...");
+    EXPECT_EQ(p.Text(kFrom), "Home");
+    EXPECT_EQ(p.Text(kCountry), "United States of America");
+    EXPECT_EQ(p.ChosenOption(kUses), "&Tone dialing");
+    EXPECT_TRUE(p.IsEnabled(kAreaCode));
     p.Press("&New...");
     EXPECT_THAT(p.Items(kFrom), ElementsAre("Home", "Office"));
-    EXPECT_EQ(p.Text(kFrom), "Home");
     p.Press("&Remove");
     p.Press("&Remove");
     library_.engine->FailAll("ModemLocationDB.dat", StoreOp::kDelete);
@@ -146,6 +155,65 @@ TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
   Script().ExpectMessage(kDelete, Answer::kYes);
   Script().ExpectMessage(kNoLocations);
   alerting::CDialingPropertiesDlg(nullptr).RunModal();
+}
+
+TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
+  for (const char* name : {"Gone", "Home", "Office"}) Add(name);
+  Script().ExpectWindow(kDialog, [&](Person& p) {
+    library_.engine->FailAll("ModemLocationDB.dat", StoreOp::kAdd);
+    p.Press("&New...");
+    EXPECT_EQ(p.Items(kFrom).size(), 3u);
+    library_.engine->FailNone();
+    p.Type(kOutside, "9");
+    ASSERT_TRUE(alerting::DeleteLocation("Gone"));
+    p.Press("OK");
+    p.Press("&Remove");
+    EXPECT_EQ(p.Text(kOutside), "9");
+    Add("Gone");
+    library_.engine->FailNth("ModemLocationDB.dat", StoreOp::kFindFirst, 3);  // the load of the next one
+    p.Press("&Remove");
+    p.Choose(kFrom, "Office");
+    EXPECT_EQ(p.Text(kOutside), "") << "what was entered for the removed one does not stand in the way";
+    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+    p.Press("Cancel");
+  });
+  Script().ExpectWindow("Enter Name of Location", [](Person& p) {
+    p.Type("&Name:", "Refused");
+    p.Press("OK");
+  });
+  Script().ExpectMessage("Unable to add record to modem locations database.");
+  Script().ExpectMessage(kNoLocations);
+  for (int i = 0; i < 2; ++i) {
+    Script().ExpectMessage(kDelete, Answer::kYes);
+    Script().ExpectMessage(kNoLocations);
+  }
+  alerting::CDialingPropertiesDlg(nullptr).RunModal();
+}
+
+TEST_F(LocationsTest, NamesHoldSixtyFourCharactersAndCountriesKeepTheirNumbers) {
+  for (const std::size_t length : {63u, 64u, 65u}) {
+    const std::string typed(length, 'n');
+    Script().ExpectWindow("Enter Name of Location", [&](Person& p) {
+      p.Type("&Name:", typed);
+      p.Press("OK");
+    });
+    alerting::CLocationNameDlg dialog(nullptr);
+    ASSERT_EQ(dialog.RunModal(), platform::ui::kOk);
+    if (length > 64)
+      Script().ExpectMessage("You cannot create a location with the same name as an existing location.");
+    platform::GUID id{}, found{};
+    EXPECT_EQ(alerting::CreateLocation(dialog.Name(), id), length <= 64);
+    EXPECT_EQ(alerting::FindLocationByName(typed, found), length <= 64);
+    EXPECT_EQ(found, id);
+  }
+  std::set<std::string> names;
+  int without_area_codes = 0;
+  for (const alerting::Country* country = alerting::CountryTable.data(); country->id != 0; ++country) {
+    names.insert(alerting::Text(static_cast<int>(country->id)));
+    without_area_codes += country->has_area_codes == 0;
+  }
+  EXPECT_EQ(names.size(), 241u);
+  EXPECT_EQ(without_area_codes, 19);
 }
 
 TEST_F(LocationsTest, RulesAreCopiedBackOnOkAlone) {
@@ -204,6 +272,30 @@ TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
   for (const std::size_t offset : {3787u, 3791u, 3795u}) test_support::PutU32(expected, offset, 0);
   EXPECT_EQ(stored, expected);
   EXPECT_EQ(stored[4100], '\xA5') << "what the provider says nothing of stays";
+
+  provider.guid = {};
+  for (int i = 0; i < 1000; ++i)
+    ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
+  EXPECT_TRUE(alerting::LoadProviderTable());
+  EXPECT_EQ(alerting::TheProviders().count, 1000u) << "of 1,001";
+}
+
+TEST_F(LocationsTest, AProviderForNoServiceYetMakesARecord) {
+  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
+  provider.company.Assign("Example Paging");
+  platform::GUID id{};
+  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
+  library_.engine->FailAll("ApageNtfyServDB.dat", StoreOp::kAdd);
+  Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [&](Person& p) {
+    p.Press("OK");
+    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+    library_.engine->FailNone();
+    library_.engine->Forget();
+    p.Press("OK");
+  });
+  Script().ExpectMessage("Unable to add record to service-specific database.");
+  EXPECT_EQ(alerting::CSetPagerProviderDlg(nullptr, nullptr).RunModal(), platform::ui::kOk);
+  EXPECT_EQ(library_.engine->Writes().size(), 1u);
 }
 
 }  // namespace
