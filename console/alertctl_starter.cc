@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/computers.h"
@@ -179,8 +180,13 @@ void Starter::AddManager() {
     ++added_.managers;
 }
 
-/// For those who browse for a computer; the list begins with this one.
+/// For those who browse for a computer; the list begins with this one. Sites that were set up before there was such a list
+/// have none.
 void Starter::AddThisComputer() {
+  std::vector<Computer> known;
+  if (const Status status = ListComputers(known); status != kOk)
+    throw StoreFailure("read the computers", status);
+  if (!known.empty()) return;
   if (AddedNow(AddComputer(GUID::Generate(), platform::HostName()), "this machine as a computer"))
     ++added_.computers;
 }
@@ -231,9 +237,9 @@ Added Starter::Run() {
   const Json starters = ReadStarterFile("services.json");
   OpenStores();
   LoadServices();
+  AddThisComputer();
   if (first_of_type_.size() < dbconfig::ServiceTypes().size()) {
     AddManager();
-    AddThisComputer();
     CAlertMODEM_LOCATIONDB locations;
     added_.locations = AddNamed(locations, ReadStarterFile("locations.json"), dbconfig::kLocationFields);
     CAlertSERV_MODEMDB modem_types(kModemTypeFile);

@@ -21,10 +21,11 @@ struct Added {
 };
 
 /// Adds what a first start needs, from the starter data among the resource files: this machine as alert
-/// manager, a location, modem types, examples of paging providers, and a service of each type that the site has none of, enabled on this
-/// machine, with its test response. What is there is left alone. A service is added last of what belongs to
-/// it, so that a run that was cut short is completed by the next one, and a site that has all services gets
-/// nothing back that was removed from it. Throws a Failure.
+/// manager, a location, modem types, examples of paging providers, and a service of each type that the site has
+/// none of, enabled on this machine, with its test response. A site that knows no computer gets this machine as
+/// its first. What is there is left alone. A service is added last of what belongs to it, so that a run that was
+/// cut short is completed by the next one, and a site that has all services gets nothing back that was removed
+/// from it. Throws a Failure.
 Added AddStarterData();
 
 }  // namespace alertctl

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What the verbs do, on the real program.
+#include "companions/alertstore/computers.h"
 #include "tests/console/alertctl_fixture.h"
 
 using namespace alertstore;
@@ -37,7 +38,8 @@ TEST_F(AlertctlSiteTest, InitCompletesARunThatWasCutShort) {
   DeleteFirst<CAlertMODEM_LOCATIONDB>();
   DeleteFirst<CAlertAPAGE_SERVICE_PROVIDERDB>();
 
-  EXPECT_EQ(RunJson({"init"})["added"], json::parse(R"({"alertManagers": 0, "computers": 0, "locations": 1, "modemTypes": 0,
+  EXPECT_EQ(RunJson({"init"})["added"],
+            json::parse(R"({"alertManagers": 0, "computers": 0, "locations": 1, "modemTypes": 0,
                                                         "pagingProviders": 1, "services": 1, "testResponses": 1})"));
   EXPECT_EQ(ServiceOfType(14).serviceId, program);
   EXPECT_EQ(RunJson({"manager", "list"})[0]["services"].size(), 13u) << "one entry a service, none twice";
@@ -47,6 +49,10 @@ TEST_F(AlertctlSiteTest, InitBringsNothingBackThatWasRemovedFromAFinishedSite) {
   ASSERT_EQ(Run({"service", "disable", "Internet Mail"}).code, 0);
   DeleteFirst<CAlertSERV_MODEMDB>("QModemDB.dat");
   EXPECT_EQ(RunJson({"init"})["changed"], false);
+  std::vector<Computer> computers;
+  ASSERT_EQ(ListComputers(computers), kOk);
+  ASSERT_EQ(RemoveComputer(computers.at(0).id), kOk);
+  EXPECT_EQ(RunJson({"init"})["added"]["computers"], 1) << "as on sites from before computers were kept";
 }
 
 TEST_F(AlertctlSiteTest, EveryTypeHasItsTestResponse) {
