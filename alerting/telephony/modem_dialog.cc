@@ -77,9 +77,10 @@ void CModemDialog::Show(const ALRTSERV_MODEM& modem) {
   port_number_ = modem.comPort;
   baud_rate_ = modem.baudRate;
   FillBaudRateCombo(baud_, modem.baudRate);
+  ShowLocation(modem);
   FillComPortCombo(port_, modem.comPort);
   FillAlertManagerCombo(machine_, modem.managerGuid);
-  ShowOwn(modem);
+  ShowType(modem);
   if (is_direct) EnableOtherCapabilities();
 }
 
@@ -110,8 +111,9 @@ void CModemDialog::OnAdvanced() {
   if (CModemAdvancedDlg(this, working_).RunModal() == ui::kOk) SetDirty(true);
 }
 
+// Name and identity belong together: without an alert manager the record has neither.
 bool CModemDialog::TakeManager() {
-  GUID manager = working_.managerGuid;
+  GUID manager{};
   if (!FindAlertManagerByName(machine_.Text().c_str(), manager) && !AcceptWithoutManager()) return false;
   working_.managerGuid = manager;
   working_.managerName.Assign(machine_.Text());

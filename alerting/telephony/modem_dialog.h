@@ -21,8 +21,9 @@ class CModemDialog : public CPropertiesDialog {
   ALRTSERV_MODEM& Working() { return working_; }
   ui::ComboBox& TypeField() { return type_; }
 
-  /// Fills the controls that are the dialog's own from the record that was read.
-  virtual void ShowOwn(const ALRTSERV_MODEM& modem) = 0;
+  // Fill controls from the record that was read, the location before the alert manager and the type after it.
+  virtual void ShowLocation(const ALRTSERV_MODEM&) {}
+  virtual void ShowType(const ALRTSERV_MODEM& modem) = 0;
   /// Takes what is the dialog's own into the working record; false after a message.
   virtual bool TakeOwn(ALRTSERV_MODEM& modem) = 0;
   /// False, after a message, where the dialog does not do without an alert manager.

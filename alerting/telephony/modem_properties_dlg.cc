@@ -30,8 +30,11 @@ CModemPropertiesDlg::CModemPropertiesDlg(ui::Window* parent, const GUID& modem)
   edit_location_.SetOnClick([this] { OnEditLocation(); });
 }
 
-void CModemPropertiesDlg::ShowOwn(const ALRTSERV_MODEM& modem) {
+void CModemPropertiesDlg::ShowLocation(const ALRTSERV_MODEM& modem) {
   FillLocationComboByGuid(location_, modem.locationGuid);
+}
+
+void CModemPropertiesDlg::ShowType(const ALRTSERV_MODEM& modem) {
   FillModemTypeComboByGuid(TypeField(), modem.modemTypeGuid);
 }
 
@@ -87,7 +90,7 @@ CModemTypePropertiesDlg::CModemTypePropertiesDlg(ui::Window* parent, const GUID&
   SetLayout(ui::Column({Fields(), buttons_.Row()}));
 }
 
-void CModemTypePropertiesDlg::ShowOwn(const ALRTSERV_MODEM& modem) {
+void CModemTypePropertiesDlg::ShowType(const ALRTSERV_MODEM& modem) {
   FillModemTypeCombo(TypeField(), modem.name.View());
   TypeField().Enable(false);
 }

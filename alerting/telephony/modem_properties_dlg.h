@@ -12,7 +12,8 @@ class CModemPropertiesDlg : public CModemDialog {
   CModemPropertiesDlg(ui::Window* parent, const GUID& modem);
 
  private:
-  void ShowOwn(const ALRTSERV_MODEM& modem) override;
+  void ShowLocation(const ALRTSERV_MODEM& modem) override;
+  void ShowType(const ALRTSERV_MODEM& modem) override;
   bool TakeOwn(ALRTSERV_MODEM& modem) override;
   bool AcceptWithoutManager() override;
 
@@ -31,7 +32,7 @@ class CModemTypePropertiesDlg : public CModemDialog {
   CModemTypePropertiesDlg(ui::Window* parent, const GUID& type);
 
  private:
-  void ShowOwn(const ALRTSERV_MODEM& modem) override;
+  void ShowType(const ALRTSERV_MODEM& modem) override;
   bool TakeOwn(ALRTSERV_MODEM& modem) override;
   bool AcceptWithoutManager() override { return true; }
 

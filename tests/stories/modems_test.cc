@@ -23,6 +23,11 @@ constexpr char kModem[] = "Modem Properties";
 constexpr char kNoModems[] =
     "No records in the modem database. You will need to add a location (using the New button) in order to "
     "use a modem.";
+constexpr char kNoLocations[] =
+    "No records in the modem location database. You will need to add a location (using the New button) in "
+    "order to use a modem.";
+constexpr char kNoManagers[] = "No records in the Alert Manager database.";
+constexpr char kTypeFailed[] = "Unable to add record to the modem type database.";
 constexpr char kPage[] = "Modems";
 
 class ModemsTest : public StoryTest {
@@ -179,10 +184,52 @@ TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
   });
   Script().ExpectMessage("You must select a location for the modem before you update the record.");
   for (int i = 0; i < 2; ++i) Script().ExpectMessage("Unable to update the modem database record.");
-  Script().ExpectMessage("No records in the Alert Manager database.");
+  Script().ExpectMessage(kNoManagers);
   Script().ExpectMessage("You must select an alert manager for the modem before you update the record.");
   alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
   EXPECT_EQ(Bytes(alerting::ModemStore, modem_), before);
+}
+
+TEST_F(ModemsTest, WhatIsMissingIsToldInTheOrderOfTheFields) {
+  const GUID zoom = Add(alerting::ModemTypeStore(), "Zoom", [](auto&) {});
+  Script().ExpectWindow(kModem, [&](Person& p) {
+    ASSERT_TRUE(alerting::DeleteModemType(zoom));
+    p.Choose("&Type:", "Zoom");
+    EXPECT_TRUE(p.IsEnabled("&Apply"));
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(kNoModems);
+  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+
+  ASSERT_TRUE(alerting::DeleteModemType(type_));
+  ASSERT_TRUE(alerting::DeleteLocation("Office"));
+  ASSERT_EQ(alerting::ManagerStore().DBAlertRecDelete(alpha_), alertstore::kOk);
+  for (const char* message : {kNoLocations, kNoManagers, kNoModems}) Script().ExpectMessage(message);
+  Edit([](Person& p) { p.Press("OK"); });
+  ASSERT_TRUE(alerting::DeleteModem(modem_));
+  Script().ExpectMessage(kNoModems);
+  Edit([](Person& p) {
+    EXPECT_THAT(p.Items("&Port:"), IsEmpty());
+    p.Press("OK");
+  });
+}
+
+TEST_F(ModemsTest, ATypeIsSavedWithoutAnAlertManagerAndThenNamesNone) {
+  const GUID left = Add(alerting::ModemTypeStore(), "Left", [](ALRTSERV_MODEM& type) {
+    type.managerGuid = GUID::Generate();
+    type.managerName.Assign("GONE");
+  });
+  Script().ExpectWindow("Modem Type Properties", [](Person& p) {
+    p.Check("&Enable", true);
+    p.Press("OK");
+  });
+  Script().ExpectMessage(kNoManagers);
+  EXPECT_EQ(alerting::CModemTypePropertiesDlg(nullptr, left).RunModal(), platform::ui::kOk);
+  ALRTSERV_MODEM stored{};
+  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemTypeStore, left, stored));
+  EXPECT_EQ(stored.enabled, 1u);
+  EXPECT_EQ(stored.managerName.View(), "");
+  EXPECT_TRUE(stored.managerGuid.IsNull());
 }
 
 TEST_F(ModemsTest, LocationsAreMadeAndEditedFromAModem) {
@@ -323,11 +370,37 @@ TEST_F(ModemsTest, ListsEndAtTheirRoom) {
   alerting::FillBaudRateCombo(rates, 9600, 19200);
   EXPECT_EQ(rates.Text(), "9600");
   EXPECT_EQ(rates.Count(), 9);
+  for (int i = 0; i < 5000; ++i)
+    Add(alerting::ModemTypeStore(), ("T" + std::to_string(i)).c_str(), [](auto&) {});
   alerting::FillModemTypeCombo(types, "courier");
+  EXPECT_EQ(types.Count(), 5000) << "of 5,001";
   EXPECT_EQ(types.Current(), -1) << "names are compared byte by byte";
+}
+
+TEST_F(ModemsTest, WithoutTypesNothingIsMadeAndNamesAreCutForTheirNumber) {
+  const std::string longest(64, 't');
+  Add(alerting::ModemStore(), longest.c_str(), [](auto&) {});
+  EXPECT_EQ(alerting::ProposeModemName(longest), std::string(60, 't') + " (2)");
+  GUID id{};
+  library_.engine->FailAll("QModemDB.dat", StoreOp::kAdd);
+  Script().ExpectMessage(kTypeFailed);
+  EXPECT_FALSE(alerting::CreateModemType("Mine", type_, id));
+  library_.engine->FailNone();
   ASSERT_TRUE(alerting::DeleteModemType(type_));
+  Script().ExpectMessage(kTypeFailed);
+  EXPECT_FALSE(alerting::CreateModemType("Mine", type_, id));
+  EXPECT_TRUE(id.IsNull());
   Script().ExpectMessage(kNoModems);
-  alerting::FillModemTypeCombo(types);
+  Script().ExpectWindow("Create new modem", [](Person& p) {
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.Type("&Enter name for new modem:", std::string(65, 'm'));
+    EXPECT_EQ(p.Text("&Enter name for new modem:").size(), 64u);
+    p.Press("OK");
+    EXPECT_FALSE(p.IsEnabled("OK"));
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(kNoModems);
+  EXPECT_EQ(alerting::CNewModemDlg(nullptr).RunModal(), platform::ui::kCancel);
 }
 
 class ModemPageTest : public ModemsTest {
@@ -391,14 +464,34 @@ TEST_F(ModemPageTest, TheChosenModemAndLineGoIntoTheRecord) {
 }
 
 TEST_F(ModemPageTest, TheBackupLinkIsTheOtherRecord) {
+  service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager", 0xA5);
   test_support::Find(service_);
   const std::string primary = Stored(false);
   Open<alerting::CSheetServiceModem>([](Person& p) {
     p.ClickRow(kPage, 0);
+    p.Press("Apply");
+    EXPECT_FALSE(p.IsEnabled("Apply"));
+    p.Type("&Script File:", "dial.scr");
+    EXPECT_TRUE(p.IsEnabled("Apply"));
     p.Press("OK");
   });
   EXPECT_EQ(Stored(false), primary);
   EXPECT_EQ(Stored(true).substr(2134, 16), std::string(reinterpret_cast<const char*>(&modem_), 16));
+  EXPECT_EQ(Stored(true).substr(3170, 8), "dial.scr");
+  EXPECT_EQ(Stored(true).substr(3431, 16), std::string(16, '\xA5')) << "a line outside the tables stays";
+}
+
+TEST_F(ModemPageTest, APageWithoutAServiceSavesNothing) {
+  alerting::CPropPgModem page;
+  platform::ui::PropertySheet sheet("Pager", nullptr);
+  sheet.AddPage(page);
+  Script().ExpectWindow("Pager", [&](Person& p) {
+    p.ClickRow(kPage, 0);
+    page.ReloadModemSettings();
+    EXPECT_FALSE(page.SavePage());
+    p.Press("Cancel");
+  });
+  sheet.RunModal();
 }
 
 TEST_F(ModemPageTest, ModemsAreMadeChangedAndRemovedAtOnceWhateverBecomesOfTheSheet) {
