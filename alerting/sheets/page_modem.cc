@@ -44,10 +44,7 @@ CPropPgModem::CPropPgModem()
                                  ui::Bare(serial_.stop_bits), ui::Stretch(),
                                  ui::ButtonColumn({ui::Bare(properties_), ui::Bare(new_), ui::Bare(delete_),
                                                    ui::Bare(manage_types_)})})}));
-  modems_.AddColumn("Modem", 165);
-  modems_.AddColumn("Server", 100);
-  modems_.AddColumn("Port", 45);
-  modems_.AddColumn("Baud", 45);
+  AddModemColumns(modems_);
   modems_.SetOnChange([this] { EnableRowButtons(true); });
   modems_.SetOnClick([this] {
     if (SelectRowUnderCursor(modems_)) EnableRowButtons(true);
@@ -73,7 +70,7 @@ void CPropPgModem::OnInitDialog() {
 
 void CPropPgModem::ReadSettings() {
   settings_ = ModemSettings{};
-  Dialer().GetModemSettings(settings_, backup_link_);
+  if (HasService()) Dialer().GetModemSettings(settings_, backup_link_);
   serial_.Read(settings_);
   FillBaudRateCombo(baud_, settings_.baudRate);
 }
@@ -143,7 +140,7 @@ bool CPropPgModem::SaveFields() {
   settings_.modem = modem;
   UpdateData(true);
   TakeChoices();
-  return Dialer().SetModemSettings(settings_, modems_.Cell(row, 0), backup_link_);
+  return HasService() && Dialer().SetModemSettings(settings_, modems_.Cell(row, 0), backup_link_);
 }
 
 }  // namespace alerting

@@ -39,6 +39,7 @@ class CServicePage : public ui::PropertyPage {
   CServicePage(std::string caption, ctxhelp::HelpPage help_page)
       : PropertyPage(std::move(caption)), help_page_(help_page) {}
 
+  bool HasService() const { return service_ != nullptr; }
   CNtfyService& Service() const { return *service_; }
   /// Also for changes that the program makes on a person's behalf.
   void MarkModified();

@@ -87,6 +87,13 @@ bool GetSelectedGuid(const ui::ItemList& list, GUID& id) {
   return true;
 }
 
+void AddModemColumns(ui::ListView& list) {
+  list.AddColumn("Modem", 165);
+  list.AddColumn("Server", 100);
+  list.AddColumn("Port", 45);
+  list.AddColumn("Baud", 45);
+}
+
 void FillModemListCtrl(ui::ListView& list, const GUID& selected) {
   list.RemoveAllRows();
   ForEachModem(ModemStore, g_modem_ids, list.OwnerForm(), [&](const ALRTSERV_MODEM& modem, ui::ItemData id) {

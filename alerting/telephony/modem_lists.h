@@ -37,7 +37,9 @@ void FillModemTypeList(ui::ListBox& list, std::string_view select_name = {});
 /// Gives the identity of the current item; false, and `id` as it was, when none is current.
 bool GetSelectedGuid(const ui::ItemList& list, GUID& id);
 
-/// Adds the modems to a report of four columns (name, alert manager, port, speed), and selects and focuses the one of
+/// Adds the four columns of a modem report: name, alert manager, port, speed.
+void AddModemColumns(ui::ListView& list);
+/// Adds the modems to a report of these columns, and selects and focuses the one of
 /// that identity.
 void FillModemListCtrl(ui::ListView& list, const GUID& selected);
 /// The identity of a row; the null GUID for a row that is not there.
