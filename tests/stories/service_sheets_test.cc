@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
+
 #include "alerting/alerting.h"
 #include "companions/dbconfig/dbconfig.h"
 #include "platform/base/paths.h"
@@ -350,6 +352,8 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
   Seed(alerting::kTypeMhs);
   NetPath().operation13 = 0;
   NetPath().resolved = "/net/post";
+  const std::string deep = Directory() + "/" + std::string(200, 'd') + "/" + std::string(60, 'd');
+  ASSERT_TRUE(std::filesystem::create_directories(deep));
   Script().ExpectWindow(kSheet, [&](Person& p) {
     p.PressBeside(kDirectory, "...");
     EXPECT_EQ(p.Text(kDirectory), "");
@@ -358,13 +362,19 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
     EXPECT_EQ(p.Text(kDirectory), "/net/post");
     NetPath().universal = "\\\\server\\post";
     p.PressBeside(kDirectory, "...");
-    EXPECT_EQ(p.Text(kDirectory), "\\\\server\\post");
+    p.PressBeside(kDirectory, "...");
+    EXPECT_EQ(p.Text(kDirectory), "\\\\server\\post") << "the one before, as there is no room for this one";
     p.Press("OK");
   });
   Script().ExpectFileDialog("Select directory for post office:", "");
   Script().ExpectFileDialog("Select directory for post office:", "/tmp");
   Script().ExpectMessage(kNoUniversalPath);
   Script().ExpectFileDialog("Select directory for post office:", "/tmp");
+  Script().ExpectFileDialog("Select directory for post office:", deep);
+  Script().ExpectMessage(
+      "Path is invalid.\nThe product may not operate correctly as a result.\nRefer to the implementation "
+      "guide "
+      "for additional information.");
   EXPECT_EQ(Open(), kOk);
   EXPECT_EQ(Bytes().substr(16, 15), std::string("\\\\server\\post\0", 15));
 }
