@@ -85,8 +85,11 @@ TEST_F(ControlsTest, ARadioGroupHasNoneOrOneChosen) {
     EXPECT_EQ(p.ChosenOption("Mode"), "&Pulse");
     p.Press(Key::kUp);
     EXPECT_EQ(p.ChosenOption("Mode"), "&Tone");
+    p.ChooseOption("Mode", "&Tone");
   });
-  EXPECT_EQ(dialog_.log, (std::vector<std::string>{"mode 1", "changed Mode", "mode 0", "changed Mode"}));
+  EXPECT_EQ(dialog_.log, (std::vector<std::string>{"mode 1", "changed Mode", "mode 0", "changed Mode",
+                                                   "mode 0", "changed Mode"}))
+      << "a click on the chosen one is told too";
 }
 
 TEST_F(ControlsTest, AccessKeysPressOrFocus) {

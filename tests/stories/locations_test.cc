@@ -158,6 +158,15 @@ TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
 }
 
 TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
+  Script().ExpectMessage(kNoLocations);
+  Script().ExpectWindow(kDialog, [](Person& p) {
+    EXPECT_EQ(p.Text(kCountry), "United States of America");
+    p.Press("OK");
+    p.Press("Cancel");
+  });
+  Script().ExpectMessage(kNoLocations);
+  EXPECT_EQ(alerting::CDialingPropertiesDlg(nullptr).RunModal(), platform::ui::kCancel);
+
   for (const char* name : {"Gone", "Home", "Office"}) Add(name);
   Script().ExpectWindow(kDialog, [&](Person& p) {
     library_.engine->FailAll("ModemLocationDB.dat", StoreOp::kAdd);
