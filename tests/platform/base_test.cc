@@ -2,9 +2,11 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <new>
 #include <optional>
 #include <set>
 #include <string>
@@ -14,6 +16,7 @@
 #include "platform/base/fixed_text.h"
 #include "platform/base/guid.h"
 #include "platform/base/little_endian.h"
+#include "platform/base/low_memory.h"
 #include "platform/base/paths.h"
 #include "platform/base/utf8.h"
 #include "tests/support/temporary.h"
@@ -31,6 +34,19 @@ TEST(LittleEndianTest, KeepsTheLowByteFirst) {
   EXPECT_EQ(value, 0x12345678u);
   EXPECT_EQ(LittleU32(0xFFFFFFFF), 0xFFFFFFFFu);
   EXPECT_EQ(LittleU16{}, 0);
+}
+
+TEST(LowMemoryTest, ItsAddressesFit32Bits) {
+  const std::size_t size = 3 * 4096 + 1;
+  const LowMemory memory(size), another(1);
+  auto* const bytes = static_cast<unsigned char*>(memory.Data());
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(bytes), memory.Address());
+  EXPECT_LE(memory.Address(), 0xFFFFFFFF - size);
+  EXPECT_TRUE(std::all_of(bytes, bytes + size, [](unsigned char byte) { return byte == 0; }));
+  std::fill(bytes, bytes + size, 7);
+  EXPECT_EQ(*static_cast<unsigned char*>(another.Data()), 0);
+  EXPECT_THROW(LowMemory(std::size_t{1} << 32), std::bad_alloc);
+  EXPECT_NE(LowMemory(0).Address(), 0u);
 }
 
 TEST(GuidTest, TextFormIsThatOfThePlatform) {
