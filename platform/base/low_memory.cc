@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::uint64_t kEnd = std::uint64_t{1} << 32;
 // From one place that is asked for to the next.
-constexpr std::uint64_t kStep = std::uint64_t{1} << 24;
+constexpr std::uint64_t kStep = std::uint64_t{1} << 20;
 
 #ifdef MAP_32BIT
 constexpr int kLow = MAP_32BIT;

@@ -13,11 +13,13 @@
 #include <vector>
 
 #include "platform/base/atomic_write.h"
+#include "platform/base/base64.h"
 #include "platform/base/fixed_text.h"
 #include "platform/base/guid.h"
 #include "platform/base/little_endian.h"
 #include "platform/base/low_memory.h"
 #include "platform/base/paths.h"
+#include "platform/base/utc_time.h"
 #include "platform/base/utf8.h"
 #include "tests/support/temporary.h"
 
@@ -47,6 +49,28 @@ TEST(LowMemoryTest, ItsAddressesFit32Bits) {
   EXPECT_EQ(*static_cast<unsigned char*>(another.Data()), 0);
   EXPECT_THROW(LowMemory(std::size_t{1} << 32), std::bad_alloc);
   EXPECT_NE(LowMemory(0).Address(), 0u);
+}
+
+TEST(Base64Test, BytesComeBackAndOtherTextsAreNone) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"", ""},        {"f", "Zg=="},        {"fo", "Zm8="},
+      {"foo", "Zm9v"}, {"foob", "Zm9vYg=="}, {std::string("\xFF\0\xFB\xEF\xBE", 5), "/wD7774="}};
+  for (const auto& [bytes, text] : rows) {
+    EXPECT_EQ(EncodeBase64(bytes), text);
+    EXPECT_EQ(DecodeBase64(text), bytes) << text;
+  }
+  for (const char* text : {"Zg=", "Zg", "Z===", "Zm9v\n", "Zg==Zg==", "Zm!v", "===="})
+    EXPECT_FALSE(DecodeBase64(text)) << text;
+}
+
+TEST(UtcTextTest, TimesComeBackAndOtherTextsAreNone) {
+  const UtcTime time(std::chrono::milliseconds(1772353805250));
+  EXPECT_EQ(ToUtcText(time), "2026-03-01T08:30:05.250Z");
+  EXPECT_EQ(ParseUtcText("2026-03-01T08:30:05.250Z"), time);
+  EXPECT_EQ(ParseUtcText("2026-03-01T08:30:05Z"), time - std::chrono::milliseconds(250));
+  for (const char* text :
+       {"", "2026-03-01", "2026-03-01T08:30:05", "2026-03-01T08:30:05.2Z", "2026-03-01T08:30:05.-12Z"})
+    EXPECT_FALSE(ParseUtcText(text)) << text;
 }
 
 TEST(GuidTest, TextFormIsThatOfThePlatform) {
