@@ -5,7 +5,13 @@
 #include <string>
 
 #include "companions/agentui/recent_lists.h"
+#include "companions/agentui/report.h"
+#include "companions/agentui/results_dialog.h"
+#include "companions/agentui/spool.h"
+#include "companions/agentui/test_request.h"
+#include "companions/agentui/test_watch.h"
 #include "companions/choices/choose.h"
+#include "platform/ui/desktop.h"
 #include "platform/ui/lists.h"
 
 namespace agentui {
@@ -27,6 +33,8 @@ void ChooseEntry(platform::ui::Window* parent, const char* caption, const std::s
 
 class RealAgentUi : public AgentUi {
  public:
+  explicit RealAgentUi(const TestTimes& times) : watch_(times) {}
+
   void FillComboWithMRUList(platform::ui::ComboBox& combo) override {
     for (const std::string& program : RecentEntries(kPrograms)) combo.Add(program);
   }
@@ -46,14 +54,31 @@ class RealAgentUi : public AgentUi {
                 buffer, kCommunityBufferSize);
   }
 
-  // Test requests are not carried yet.
-  void RegisterTestButtonCallbackMessageHandler(void (*)(std::uint32_t)) override {}
-  void SendTestButtonToAlertServer(const void*) override {}
-  void DisplayTestEventResultsDialog(platform::ui::Window*, std::uint32_t) override {}
+  void RegisterTestButtonCallbackMessageHandler(void (*callback)(std::uint32_t)) override {
+    watch_.SetCallback(callback);
+  }
+  void SendTestButtonToAlertServer(const void* request) override {
+    const auto record = std::make_unique<alertstore::ALERTRESPREC>();
+    if (ReadTestRequest(request, *record)) watch_.Send(*record);
+  }
+  void DisplayTestEventResultsDialog(platform::ui::Window* parent, std::uint32_t value) override;
+
+ private:
+  TestWatch watch_;
 };
+
+/// What waits for the user-interface thread may outlast both component and parent.
+void RealAgentUi::DisplayTestEventResultsDialog(platform::ui::Window* parent, std::uint32_t value) {
+  const auto handle = parent != nullptr ? parent->GetHandle() : platform::ui::kNoWindow;
+  platform::ui::Desktop::Current().Post([handle, value, unwritten = watch_.Unwritten()] {
+    const auto kept = unwritten->Find(value);
+    const Report report = kept ? *kept : ReadReport(ReportPath(SpoolDirectory(), value), value);
+    ShowTestResults(platform::ui::Window::FromHandle(handle), report);
+  });
+}
 
 }  // namespace
 
-std::unique_ptr<AgentUi> MakeAgentUi() { return std::make_unique<RealAgentUi>(); }
+std::unique_ptr<AgentUi> MakeAgentUi(const TestTimes& times) { return std::make_unique<RealAgentUi>(times); }
 
 }  // namespace agentui

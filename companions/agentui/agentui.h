@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -41,16 +42,29 @@ class AgentUi {
   /// The same for community names, with a buffer of kCommunityBufferSize bytes.
   virtual void DisplayCommunityNameMRUListDialog(platform::ui::Window* parent, char* buffer) = 0;
 
-  /// Registers what is called, on any thread and at any later time, when the alert server reports on a test.
+  /// Registers what is called, on any thread and at any later time, with the number of a test that has a report. A null
+  /// callback ends that.
   virtual void RegisterTestButtonCallbackMessageHandler(void (*callback)(std::uint32_t)) = 0;
-  /// Hands the 20-byte test request at `request` to the alert server.
+  /// Hands the 20-byte test request at `request` (test_request.h) to the alert server; the record that it names is
+  /// copied. Nothing is sent for one that is null or foreign. What keeps a test from being sent is told in its report.
   virtual void SendTestButtonToAlertServer(const void* request) = 0;
-  /// Shows the alert server's report; `value` is what the callback received, `parent` may be null.
+  /// Shows the report of the test with the number that the callback received. May be called on any thread: the window
+  /// opens on the user-interface thread, soon. `parent` may be null, and gone by then.
   virtual void DisplayTestEventResultsDialog(platform::ui::Window* parent, std::uint32_t value) = 0;
 };
 
-/// The real component. The lists are kept in `recent.json` in the data directory, 20 entries each. Test
-/// requests are not carried yet: the three test operations do nothing.
-std::unique_ptr<AgentUi> MakeAgentUi();
+/// How long the component waits for alert servers.
+struct TestTimes {
+  /// From one look for reports to the next, while tests are pending.
+  std::chrono::milliseconds look{250};
+  /// Until a test counts as unanswered; a pager's takes longer, because it dials first.
+  std::chrono::milliseconds answer{60'000};
+  std::chrono::milliseconds pager_answer{120'000};
+};
+
+/// The real component. The lists are kept in `recent.json` in the data directory, 20 entries each. Tests go to the alert
+/// server through the directory `spool` beside it (docs/spool.md). Destroying the component ends its thread; tests that
+/// are pending then are reported to nobody.
+std::unique_ptr<AgentUi> MakeAgentUi(const TestTimes& times = {});
 
 }  // namespace agentui

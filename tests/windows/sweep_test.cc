@@ -15,6 +15,7 @@
 #include "alerting/api/load.h"
 #include "alerting/frame/app.h"
 #include "alerting/services/service_list.h"
+#include "companions/agentui/results_dialog.h"
 #include "companions/ctxhelp/help_pages.h"
 #include "companions/ctxhelp/help_texts.h"
 #include "console/alertconsole_samples.h"
@@ -149,6 +150,10 @@ TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
   std::uint32_t icon = 0;
   tour.Visit("sound", [&] { SelectWAVFileDialog(nullptr, path); });
   tour.Visit("icon", [&] { SelectIconFileDialog(nullptr, path, &icon); });
+  agentui::Report report{agentui::Report::Verdict::kFailed, "The mail server refused the login."};
+  report.steps = {{"Log in", "failed", 40, "535 authentication failed"}};
+  report.transcript = "EHLO console\n535 authentication failed";
+  tour.Visit("results", [&] { agentui::ShowTestResults(nullptr, report); });
   EXPECT_THAT(inspector.faults, ElementsAre());
   EXPECT_THAT(HelpFilesNotSeen(inspector.pages), IsEmpty());
   EXPECT_THAT(tour.DeafToEscape(), IsEmpty());

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace agentui {
+
+/// What became of a test. Members bear the names that they have in the report's file (docs/spool.md).
+struct Report {
+  enum class Verdict {
+    kDelivered,
+    kFailed,
+    kUnanswered,  ///< no alert server reported in time
+    kUnreadable   ///< there is a report, or none, that cannot be read; in no file
+  };
+  struct Step {
+    std::string name, result;
+    std::uint64_t milliseconds = 0;
+    std::string said;  ///< the other side's answer
+  };
+
+  Verdict verdict = Verdict::kUnreadable;
+  std::string explanation;  ///< what happened, in sentences; may be empty
+  std::string manager;
+  std::string started, ended;  ///< UTC
+  std::vector<Step> steps;
+  std::string transcript;
+  std::string field;  ///< what to correct, as the configuration file names it; "" for nothing
+};
+
+/// Reads a report's file. What is no report of that job gives one that says so, in `explanation`; a member of another
+/// kind than it should be counts as absent.
+Report ReadReport(const std::string& path, std::uint32_t job);
+
+/// True when the file is in place.
+bool WriteReport(const std::string& path, std::uint32_t job, const Report& report);
+
+/// Why a test came to nothing that no alert server reports on.
+Report UnansweredReport(const std::vector<std::string>& managers);
+/// `problem`: words that can follow "because".
+Report NotHandedOverReport(const std::string& problem);
+
+/// Reports that could not be written to the disk: of tests whose jobs could not be written either. Any thread.
+class UnwrittenReports {
+ public:
+  void Keep(std::uint32_t job, Report report);
+  std::optional<Report> Find(std::uint32_t job) const;
+
+ private:
+  mutable std::mutex mutex_;
+  std::map<std::uint32_t, Report> reports_;
+};
+
+}  // namespace agentui

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "companions/agentui/agentui.h"
+#include "companions/agentui/report.h"
+#include "companions/alertstore/records_common.h"
+
+namespace agentui {
+
+/// Sends tests to whoever serves the spool, and waits for their reports on a thread of its own, which starts with the
+/// first test and sleeps while none is pending.
+class TestWatch {
+ public:
+  using Callback = void (*)(std::uint32_t);
+
+  explicit TestWatch(const TestTimes& times) : times_(times) {}
+  /// Ends the thread. Tests that are pending then are reported to nobody.
+  ~TestWatch();
+
+  void SetCallback(Callback callback);
+  void Send(const alertstore::ALERTRESPREC& record);
+  /// Reports that are not in the spool.
+  const std::shared_ptr<UnwrittenReports>& Unwritten() const { return unwritten_; }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  struct Pending {
+    std::uint32_t job;
+    /// Where the data directory was when the test was sent.
+    std::string spool;
+    std::vector<std::string> managers;
+    Clock::time_point deadline;
+    bool is_over;
+  };
+
+  void EnsureThread();
+  std::vector<Pending> PendingNow();
+  void Run();
+  void LookAt(const Pending& pending);
+  void GiveUp(const Pending& pending);
+  void KeepReport(const Pending& pending, const Report& report);
+  void Tell(std::uint32_t job);
+
+  const TestTimes times_;
+  const std::shared_ptr<UnwrittenReports> unwritten_ = std::make_shared<UnwrittenReports>();
+
+  std::mutex mutex_;
+  std::condition_variable changed_;
+  std::vector<Pending> pending_;
+  Callback callback_ = nullptr;
+  bool stopping_ = false;
+  std::thread thread_;
+};
+
+}  // namespace agentui
