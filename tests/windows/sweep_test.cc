@@ -150,9 +150,14 @@ TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
   std::uint32_t icon = 0;
   tour.Visit("sound", [&] { SelectWAVFileDialog(nullptr, path); });
   tour.Visit("icon", [&] { SelectIconFileDialog(nullptr, path, &icon); });
-  agentui::Report report{agentui::Report::Verdict::kFailed, "The mail server refused the login."};
-  report.steps = {{"Log in", "failed", 40, "535 authentication failed"}};
-  report.transcript = "EHLO console\n535 authentication failed";
+  const agentui::Report report{agentui::Report::Verdict::kFailed,
+                               "The mail server refused the login.",
+                               "CONSOLE",
+                               "2026-03-01T08:30:05Z",
+                               "2026-03-01T08:30:07Z",
+                               {{"Log in", "failed", 40, "535 authentication failed"}},
+                               "EHLO console\n535 authentication failed",
+                               "password"};
   tour.Visit("results", [&] { agentui::ShowTestResults(nullptr, report); });
   EXPECT_THAT(inspector.faults, ElementsAre());
   EXPECT_THAT(HelpFilesNotSeen(inspector.pages), IsEmpty());
