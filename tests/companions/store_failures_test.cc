@@ -18,6 +18,7 @@
 #include "tests/companions/store_fixture.h"
 #include "tests/support/failing_engine.h"
 #include "tests/support/own_disk.h"
+#include "tests/support/raw_database.h"
 
 using namespace alertstore;
 using platform::GUID;
@@ -30,24 +31,21 @@ using testing::IsEmpty;
 
 namespace {
 
-void Tamper(const std::string& directory, const char* sql) { RawDatabase(directory).Ask(sql); }
+void Tamper(const std::string& directory, const char* sql) { test_support::RawDatabase(directory).Ask(sql); }
 
 TEST_F(StoreTest, ADirectoryThatCannotBeMadeIsAStatus) {
   std::ofstream(directory_ + "/file") << "in the way";
   UseDirectory(directory_ + "/file/data");
   CAlertNtfyServDB services;
   EXPECT_EQ(services.DBOpen(), kIoError);
-  EXPECT_FALSE(services.IsOpen());
-  GUID id{};
-  ALRTNTFYSERV record{};
-  EXPECT_EQ(services.DBAlertRecAdd(record, id), kStoreClosed);
+  EXPECT_EQ(Add(services, {}), kStoreClosed);
   EXPECT_EQ(CurrentEngine()->BeginRead(), kIoError);
 
   UseDirectory(directory_);
   EXPECT_EQ(services.DBOpen(), kOk) << "a store may be opened again";
 }
 
-TEST_F(StoreTest, WhatStandsInThePlaceOfTheDatabaseIsAStatus) {
+TEST_F(StoreTest, WhatStandsInThePlaceOfAFileIsAStatus) {
   std::filesystem::create_directory(directory_ + "/alerting.db");
   CAlertNtfyServDB services;
   EXPECT_EQ(services.DBOpen(), kIoError);
@@ -55,30 +53,27 @@ TEST_F(StoreTest, WhatStandsInThePlaceOfTheDatabaseIsAStatus) {
   std::filesystem::remove(directory_ + "/alerting.db");
   std::ofstream(directory_ + "/alerting.db") << std::string(9000, 'x');
   EXPECT_EQ(services.DBOpen(), kCorrupt);
-}
 
-TEST_F(StoreTest, AnUnusableLockFileIsAStatus) {
+  std::filesystem::remove(directory_ + "/alerting.db");
   std::filesystem::create_directory(directory_ + "/alerting.lock");
-  Opened<CAlertNtfyServDB> services;
+  EXPECT_EQ(services.DBOpen(), kOk);
   EXPECT_EQ(services.File().DBFileLock(), kIoError);
 }
 
 TEST_F(StoreTest, AScanPassesOverARecordOfForeignSizeAndCountsIt) {
   Opened<CAlertSERV_MODEMDB> modems;
-  const GUID ids[] = {AddNamed(modems, "a"), AddNamed(modems, "b"), AddNamed(modems, "c"),
-                      AddNamed(modems, "d")};
+  std::vector<GUID> ids;
+  for (const char* name : {"a", "b", "c", "d"}) ids.push_back(AddNamed(modems, name));
   Tamper(directory_, "UPDATE \"ModemDB.dat\" SET record=substr(record,1,100) WHERE id IN (1,3)");
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d");
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d") << "and does not count it again";
   EXPECT_EQ(DescribeLeftOut(LeftOutRecords()), "2 records in ModemDB.dat cannot be read and are left out");
 
-  ALRTSERV_MODEM modem{};
-  modem.guid = ids[2];
+  auto modem = Named<ALRTSERV_MODEM>("", ids[2]);
   EXPECT_EQ(modems.DBAlertRecRetrieve(modem.guid, modem), kCorrupt)
       << "one that is asked for by name is told";
   EXPECT_EQ(modems.DBAlertRecFindFirst(kModemByName, 1, "c", modem), kNotFound);
-  ASSERT_EQ(modems.DBAlertRecDelete(ids[0]), kOk);
-  ASSERT_EQ(modems.DBAlertRecDelete(ids[2]), kOk);
+  for (const GUID& damaged : {ids[0], ids[2]}) ASSERT_EQ(modems.DBAlertRecDelete(damaged), kOk);
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "b d");
   EXPECT_EQ(DescribeLeftOut(LeftOutRecords()), "");
 }
@@ -96,30 +91,27 @@ TEST_F(StoreTest, ADatabaseOfAnotherProgramIsRefusedAtOnce) {
 // Mapped into memory, such a file ends the program with a signal.
 TEST_F(StoreTest, ADatabaseThatShrinksIsAStatus) {
   Opened<CAlertRespDB> responses;
-  ALERTRESPREC response{};
-  std::vector<GUID> ids(200);
-  for (GUID& id : ids) ASSERT_EQ(responses.DBAlertRecAdd(response, id), kOk);
+  for (int i = 0; i < 200; ++i) ASSERT_EQ(Add(responses, {}), kOk);
   Tamper(directory_, "PRAGMA wal_checkpoint(TRUNCATE)");
   std::filesystem::resize_file(directory_ + "/alerting.db", 3 * 8192);
-  Opened<CAlertNtfyServDB> others;  // has nothing of the file in memory
-  response.responseId = ids.back();
+  Services others;  // has nothing of the file in memory
+  ALERTRESPREC response{};
   Status status = responses.DBAlertRecFindFirst(kByIdentity, 0, nullptr, response);
   while (status == kOk) status = responses.DBAlertRecFindNext(response);
   EXPECT_NE(status, kEndOfScan);
-  EXPECT_NE(responses.DBAlertRecAdd(response, ids[0]), kOk);
+  EXPECT_NE(Add(responses, {}), kOk);
 }
 
 // A console that goes on in the nameless file would lose what it tells of as written.
 TEST_F(StoreTest, ADatabaseThatLosesItsNameTakesNoMoreWrites) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   AddNamed(services, "there");
   Copied copied;
   ASSERT_EQ(BackUp(directory_ + "/copy", copied), kOk);
   std::filesystem::rename(directory_ + "/copy", directory_ + "/alerting.db");
-  ALRTNTFYSERV record{};
-  GUID id{};
-  EXPECT_EQ(services.DBAlertRecAdd(record, id), kCorrupt);
+  EXPECT_EQ(Add(services, {}), kCorrupt);
   EXPECT_THAT(ProblemText(kCorrupt), HasSubstr("replaced"));
+  ALRTNTFYSERV record{};
   EXPECT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kCorrupt);
 }
 
@@ -163,10 +155,8 @@ TEST_F(StoreTest, AFullDiskIsToldAsThat) {
   test_support::OnOwnDisk(directory_, [&] {
     std::ofstream(directory_ + "/filler") << std::string(4 << 20, 'x');
     CAlertNtfyServDB services;
-    ALRTNTFYSERV record{};
-    GUID id{};
     platform::FileError error;
-    return services.DBOpen() == kOk && services.DBAlertRecAdd(record, id) == kDiskFull &&
+    return services.DBOpen() == kOk && Add(services, {}) == kDiskFull &&
            platform::ReplaceFile(directory_ + "/file", std::string(100000, 'x'), 0600, &error) ==
                platform::WriteOutcome::kFailed &&
            error.number == ENOSPC;
@@ -174,20 +164,13 @@ TEST_F(StoreTest, AFullDiskIsToldAsThat) {
 }
 
 TEST_F(StoreTest, AReadOnlyDiskCanBeRead) {
-  test_support::OnOwnDisk(
-      directory_,
-      [&] {
-        {
-          Opened<CAlertNtfyServDB> services;
-          AddNamed(services, "there");
-        }
-        if (!test_support::MakeReadOnly(directory_)) return false;
-        Opened<CAlertNtfyServDB> services;
-        ALRTNTFYSERV record{};
-        GUID id{};
-        return NamesOf(services, kByIdentity) == "there" && services.DBAlertRecAdd(record, id) == kReadOnly;
-      },
-      "4m");
+  const auto body = [&] {
+    AddNamed(*std::make_unique<Services>(), "there");
+    if (!test_support::MakeReadOnly(directory_)) return false;
+    Services services;
+    return NamesOf(services, kByIdentity) == "there" && Add(services, {}) == kReadOnly;
+  };
+  test_support::OnOwnDisk(directory_, body, "4m");
 }
 
 TEST_F(StoreTest, AFileNameThatCannotBeATableIsRefused) {
@@ -199,14 +182,13 @@ TEST_F(StoreTest, AFileNameThatCannotBeATableIsRefused) {
 
 // The second of the two records cannot be written, so the first must not be there either.
 TEST_F(StoreTest, ATwoRecordAddThatFailsHalfWayLeavesNothing) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   ASSERT_EQ(services.DBAlertRecDelete(AddNamed(services, "first")), kOk);
   Tamper(directory_,
          "CREATE TRIGGER refuse BEFORE INSERT ON \"TtsNtfyServDB.dat\" BEGIN SELECT RAISE(ABORT,'no'); END");
-  ALRTNTFYSERV common{};
+  const auto before = Named<ALRTNTFYSERV>("half");
+  ALRTNTFYSERV common = before;
   ALRTTTSSERVICEREC specific{};
-  common.name.Assign("half");
-  const ALRTNTFYSERV before = common;
   GUID id{}, specific_id{};
   EXPECT_NE(services.DBAlertRecAdd(common, id, specific, specific_id), kOk);
   EXPECT_EQ(NamesOf(services, kByIdentity), "");
@@ -215,39 +197,22 @@ TEST_F(StoreTest, ATwoRecordAddThatFailsHalfWayLeavesNothing) {
   AddNamed(services, "and the next write works");
 }
 
-// Lets no file of this process grow beyond `limit` while it lives.
-class FileSizeLimit {
- public:
-  explicit FileSizeLimit(rlim_t limit) : handler_(signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &before_);
-    const rlimit limited{limit, before_.rlim_max};
-    EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
-  }
-  ~FileSizeLimit() {
-    setrlimit(RLIMIT_FSIZE, &before_);
-    signal(SIGXFSZ, handler_);
-  }
-  FileSizeLimit(const FileSizeLimit&) = delete;
-  FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
- private:
-  rlimit before_{};
-  void (*const handler_)(int);
-};
-
 // The failure shows only when the transaction is committed, and must show in the write's own status.
 TEST_F(StoreTest, AWriteThatTheDiskRefusesIsAStatusAndLeavesNothing) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   AddNamed(services, "a");
-  const auto journal_size = std::filesystem::file_size(directory_ + "/alerting.db-wal");
+  const auto handler = signal(SIGXFSZ, SIG_IGN);
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const rlimit limited{std::filesystem::file_size(directory_ + "/alerting.db-wal") + 5000, before.rlim_max};
+  EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limited), 0);
   ALRTNTFYSERV record{};
   GUID id{};
-  {
-    const FileSizeLimit limit(journal_size + 5000);
-    EXPECT_NE(services.DBAlertRecAdd(record, id), kOk);
-    EXPECT_TRUE(id.IsNull());
-    EXPECT_EQ(NamesOf(services, kByIdentity), "a");
-  }
+  EXPECT_NE(services.DBAlertRecAdd(record, id), kOk);
+  EXPECT_TRUE(id.IsNull());
+  EXPECT_EQ(NamesOf(services, kByIdentity), "a");
+  setrlimit(RLIMIT_FSIZE, &before);
+  signal(SIGXFSZ, handler);
   AddNamed(services, "b");
   EXPECT_EQ(NamesOf(services, kByIdentity), "a b");
 }

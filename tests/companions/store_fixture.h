@@ -2,15 +2,15 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sqlite3.h>
 
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <string_view>
 
-#include "companions/alertstore/engine.h"
-#include "companions/alertstore/stores.h"
+#include "companions/alertstore/sqlite_engine.h"
+#include "tests/support/records_of.h"
 #include "tests/support/temporary.h"
 
 /// A data directory of the test's own, with the embedded engine.
@@ -23,11 +23,12 @@ class StoreTest : public testing::Test {
   ~StoreTest() override { alertstore::SetEngine(nullptr); }
 
   static void UseDirectory(const std::string& directory) { setenv("ALERTING_DATA", directory.c_str(), 1); }
+  /// Stores that are opened from now on are another console's, with a connection of their own.
+  void BecomeAnotherConsole() {
+    alertstore::SetEngine(std::make_shared<alertstore::SqliteEngine>(directory_));
+  }
 
- private:
   const test_support::TemporaryDirectory temporary_;
-
- protected:
   const std::string& directory_ = temporary_.Path();
 };
 
@@ -39,52 +40,52 @@ struct Opened : Store {
     EXPECT_EQ(this->DBOpen(), alertstore::kOk);
   }
 };
+using Services = Opened<alertstore::CAlertNtfyServDB>;
 
 /// The names of the records that a scan gives, as "a b c".
 template <class Store>
 std::string NamesOf(Store& store, std::uint32_t selector) {
   std::string names;
-  typename Store::RecordType record{};
-  alertstore::Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
-  for (; status == alertstore::kOk; status = store.DBAlertRecFindNext(record)) {
-    if (!names.empty()) names += ' ';
-    names += record.name.View();
-  }
+  for (const auto& record : test_support::RecordsOf(store, selector))
+    names.append(names.empty() ? "" : " ").append(record.name.View());
   return names;
+}
+
+/// A record of that name and identity.
+template <class Record>
+Record Named(std::string_view name, const platform::GUID& id = {}) {
+  Record record{};
+  record.name.Assign(name);
+  alertstore::SetIdentity(record, id);
+  return record;
+}
+
+/// What the store answers to an add of the record, or of both records.
+template <class Record>
+alertstore::Status Add(alertstore::RecordStore<Record>& store, Record record) {
+  platform::GUID id{};
+  return store.DBAlertRecAdd(record, id);
+}
+template <class Store, class Record, class Specific>
+alertstore::Status Add(Store& store, Record record, Specific specific) {
+  platform::GUID id{}, specific_id{};
+  return store.DBAlertRecAdd(record, id, specific, specific_id);
 }
 
 /// Adds a record of that name and answers its identity; a failure fails the test.
 template <class Store>
 platform::GUID AddNamed(Store& store, std::string_view name) {
-  typename Store::RecordType record{};
-  record.name.Assign(name);
+  auto record = Named<typename Store::RecordType>(name);
   platform::GUID id{};
   EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk) << name;
   return id;
 }
 
-/// A connection behind the stores' back.
-class RawDatabase {
- public:
-  explicit RawDatabase(const std::string& directory) {
-    EXPECT_EQ(sqlite3_open((directory + "/alerting.db").c_str(), &connection_), SQLITE_OK);
-  }
-  ~RawDatabase() { sqlite3_close(connection_); }
-  RawDatabase(const RawDatabase&) = delete;
-  RawDatabase& operator=(const RawDatabase&) = delete;
-
-  /// Runs statements; the number that the last row began with.
-  std::size_t Ask(const std::string& sql) {
-    std::size_t answer = 0;
-    const auto take = [](void* out, int, char** values, char**) {
-      if (values[0] != nullptr) *static_cast<std::size_t*>(out) = std::strtoul(values[0], nullptr, 10);
-      return 0;
-    };
-    EXPECT_EQ(sqlite3_exec(connection_, sql.c_str(), take, &answer, nullptr), SQLITE_OK)
-        << sqlite3_errmsg(connection_);
-    return answer;
-  }
-
- private:
-  sqlite3* connection_ = nullptr;
-};
+/// The stored record of that identity; a failure fails the test.
+template <class Store>
+auto Stored(Store& store, const platform::GUID& id) {
+  typename Store::RecordType record{};
+  alertstore::SetIdentity(record, id);
+  EXPECT_EQ(store.DBAlertRecRetrieve(id, record), alertstore::kOk);
+  return record;
+}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <signal.h>
-#include <sys/select.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,6 +30,10 @@ bool Succeeded(pid_t child) {
   return waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+void ExpectSuccessOfTwo(const std::function<bool()>& body) {
+  for (const pid_t console : {StartConsole(body), StartConsole(body)}) EXPECT_TRUE(Succeeded(console));
+}
+
 // One end writes a byte, the other waits for it, for 10 seconds at most.
 class Signal {
  public:
@@ -43,12 +47,9 @@ class Signal {
 
   bool Send() const { return write(ends_[1], "x", 1) == 1; }
   bool Wait() const {
-    fd_set set;
-    FD_ZERO(&set);
-    FD_SET(ends_[0], &set);
-    timeval limit{10, 0};
+    pollfd end{ends_[0], POLLIN, 0};
     char byte = 0;
-    return select(ends_[0] + 1, &set, nullptr, nullptr, &limit) == 1 && read(ends_[0], &byte, 1) == 1;
+    return poll(&end, 1, 10000) == 1 && read(ends_[0], &byte, 1) == 1;
   }
 
  private:
@@ -57,17 +58,13 @@ class Signal {
 
 class StoreProcessesTest : public StoreTest {
  protected:
-  StoreProcessesTest() : limit_before_(FileLock::WaitLimit()) {}
   ~StoreProcessesTest() override { FileLock::SetWaitLimit(limit_before_); }
 
-  // One service, added by a process that has ended, so that none has the database open.
-  GUID AddServiceAndClose() {
-    Opened<CAlertNtfyServDB> services;
-    return AddNamed(services, "shared");
-  }
+  // One service; the database is closed again.
+  static GUID AddServiceAndClose() { return AddNamed(*std::make_unique<Services>(), "shared"); }
 
  private:
-  const std::chrono::milliseconds limit_before_;
+  const std::chrono::milliseconds limit_before_ = FileLock::WaitLimit();
 };
 
 // Tells when it has the lock, and keeps it until it is told.
@@ -80,8 +77,7 @@ bool CountUp(const GUID& id, int times) {
   CAlertNtfyServDB services;
   if (services.DBOpen() != kOk) return false;
   for (int i = 0; i < times; ++i) {
-    ALRTNTFYSERV record{};
-    record.serviceId = id;
+    auto record = Named<ALRTNTFYSERV>("", id);
     if (services.File().DBFileLock() != kOk) return false;
     const bool counted = services.DBAlertRecRetrieve(id, record) == kOk &&
                          (record.enabled = record.enabled + 1, services.DBAlertRecUpdate(record) == kOk);
@@ -93,34 +89,21 @@ bool CountUp(const GUID& id, int times) {
 TEST_F(StoreProcessesTest, TwoConsolesThatCountUnderTheLockLoseNothing) {
   const GUID id = AddServiceAndClose();
   constexpr int kTimes = 1000;
-  const pid_t one = StartConsole([&] { return CountUp(id, kTimes); });
-  const pid_t two = StartConsole([&] { return CountUp(id, kTimes); });
-  EXPECT_TRUE(Succeeded(one));
-  EXPECT_TRUE(Succeeded(two));
+  ExpectSuccessOfTwo([&] { return CountUp(id, kTimes); });
 
-  Opened<CAlertNtfyServDB> services;
-  ALRTNTFYSERV record{};
-  record.serviceId = id;
-  ASSERT_EQ(services.DBAlertRecRetrieve(id, record), kOk);
-  EXPECT_EQ(record.enabled, 2u * kTimes);
+  Services services;
+  EXPECT_EQ(Stored(services, id).enabled, 2u * kTimes);
 }
 
 TEST_F(StoreProcessesTest, TwoConsolesThatAddWithoutALockBothSucceed) {
   const auto add_many = [] {
     CAlertNtfyServDB services;
     if (services.DBOpen() != kOk) return false;  // both make the database
-    for (int i = 0; i < 200; ++i) {
-      ALRTNTFYSERV common{};
-      ALRTMHSSERVICEREC specific{};
-      GUID id{}, specific_id{};
-      if (services.DBAlertRecAdd(common, id, specific, specific_id) != kOk) return false;
-    }
+    for (int i = 0; i < 200; ++i)
+      if (Add(services, ALRTNTFYSERV{}, ALRTMHSSERVICEREC{}) != kOk) return false;
     return true;
   };
-  const pid_t one = StartConsole(add_many);
-  const pid_t two = StartConsole(add_many);
-  EXPECT_TRUE(Succeeded(one));
-  EXPECT_TRUE(Succeeded(two));
+  ExpectSuccessOfTwo(add_many);
 }
 
 TEST_F(StoreProcessesTest, ALockHeldElsewhereEndsTheWaitWithAStatus) {
@@ -128,7 +111,7 @@ TEST_F(StoreProcessesTest, ALockHeldElsewhereEndsTheWaitWithAStatus) {
   Signal locked, done;
   const pid_t holder = StartConsole([&] { return HoldLock(locked, done); });
   ASSERT_TRUE(locked.Wait());
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   Opened<CAlertRespDB> responses;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   EXPECT_EQ(services.File().DBFileLock(), kLockTimeout);
@@ -148,20 +131,20 @@ TEST_F(StoreProcessesTest, AKilledHolderFreesItsLock) {
   const pid_t holder = StartConsole([&] { return HoldLock(locked, never); });
   ASSERT_TRUE(locked.Wait());
   ASSERT_EQ(kill(holder, SIGKILL), 0);
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   EXPECT_EQ(services.File().DBFileLock(), kOk);
   waitpid(holder, nullptr, 0);
 }
 
 // A child inherits its parent's open files. Were the lock among them, it would outlive the parent's unlock.
 TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   ASSERT_EQ(services.File().DBFileLock(), kOk);
   Signal done;
   const pid_t child = StartConsole([&] { return done.Wait(); });
   ASSERT_EQ(services.File().DBFileUnlock(), kOk);
 
-  Opened<CAlertNtfyServDB> again;
+  Services again;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   EXPECT_EQ(again.File().DBFileLock(), kOk);
   EXPECT_TRUE(done.Send());
@@ -170,7 +153,7 @@ TEST_F(StoreProcessesTest, AChildDoesNotInheritTheLock) {
 
 // Whoever tidies the directory up must not give the lock to two consoles.
 TEST_F(StoreProcessesTest, ALockFileThatIsTakenAwayKeepsOthersOut) {
-  Opened<CAlertNtfyServDB> one, two;
+  Services one, two;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   ASSERT_EQ(one.File().DBFileLock(), kOk);
   std::filesystem::remove(directory_ + "/alerting.lock");
@@ -180,10 +163,10 @@ TEST_F(StoreProcessesTest, ALockFileThatIsTakenAwayKeepsOthersOut) {
 }
 
 TEST_F(StoreProcessesTest, StoreObjectsOfOneProcessLockEachOtherOut) {
-  Opened<CAlertNtfyServDB> one;
+  Services one;
   FileLock::SetWaitLimit(std::chrono::milliseconds(50));
   {
-    Opened<CAlertNtfyServDB> two;
+    Services two;
     EXPECT_EQ(two.File().DBFileLock(), kOk);
     EXPECT_EQ(two.File().DBFileLock(), kAlreadyLocked);
     EXPECT_EQ(one.File().DBFileLock(), kLockTimeout);

@@ -1,22 +1,23 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <memory>
 #include <string>
 
-#include "companions/alertstore/sqlite_engine.h"
 #include "tests/companions/store_fixture.h"
+#include "tests/support/raw_database.h"
 
 using namespace alertstore;
 using platform::GUID;
+using test_support::RawDatabase;
 
 namespace {
 
 TEST_F(StoreTest, AddWritesTheFreshIdentityToBothPlaces) {
-  Opened<CAlertNtfyServDB> services;
-  ALRTNTFYSERV record{};
-  record.name.Assign("Mail");
+  Services services;
+  auto record = Named<ALRTNTFYSERV>("Mail");
   GUID first{}, second{};
   ASSERT_EQ(services.DBAlertRecAdd(record, first), kOk);
   EXPECT_FALSE(first.IsNull());
@@ -33,73 +34,54 @@ TEST_F(StoreTest, EveryByteOfARecordComesBack) {
   for (std::size_t i = 0; i < sizeof record; ++i) bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
   GUID id{};
   ASSERT_EQ(responses.DBAlertRecAdd(record, id), kOk);
-
-  ALERTRESPREC read{};
-  read.responseId = id;
-  GUID scratch{};
-  ASSERT_EQ(responses.DBAlertRecRetrieve(scratch, read), kOk);
+  const ALERTRESPREC read = Stored(responses, id);
   EXPECT_EQ(std::memcmp(&read, &record, sizeof record), 0);
 }
 
 TEST_F(StoreTest, RetrieveGoesByTheIdentityInTheRecord) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   AddNamed(services, "First");
-  const GUID second = AddNamed(services, "Second");
-
-  ALRTNTFYSERV read{};
-  read.serviceId = second;
+  auto read = Named<ALRTNTFYSERV>("", AddNamed(services, "Second"));
   ASSERT_EQ(services.DBAlertRecRetrieve(platform::kNullGuid, read), kOk);
   EXPECT_EQ(read.name.View(), "Second");
 
-  ALRTNTFYSERV missing{};
-  missing.serviceId = GUID::Generate();
-  missing.name.Assign("as it was");
-  const ALRTNTFYSERV before = missing;
+  const auto before = Named<ALRTNTFYSERV>("as it was", GUID::Generate());
+  ALRTNTFYSERV missing = before;
   EXPECT_EQ(services.DBAlertRecRetrieve(missing.serviceId, missing), kNotFound);
   EXPECT_EQ(std::memcmp(&missing, &before, sizeof before), 0);
 }
 
 TEST_F(StoreTest, UpdateAndDeleteReportARecordThatIsNotThere) {
-  Opened<CAlertNtfyServDB> services;
-  const GUID id = AddNamed(services, "Mail");
-  ALRTNTFYSERV record{};
-  record.serviceId = id;
-  record.name.Assign("Post");
+  Services services;
+  const auto record = Named<ALRTNTFYSERV>("Post", AddNamed(services, "Mail"));
   EXPECT_EQ(services.DBAlertRecUpdate(record), kOk);
   EXPECT_EQ(services.DBOpen(), kOk) << "opening an open store";
   EXPECT_EQ(NamesOf(services, kByIdentity), "Post");
 
-  EXPECT_EQ(services.DBAlertRecDelete(id), kOk);
-  EXPECT_EQ(services.DBAlertRecDelete(id), kNotFound);
+  EXPECT_EQ(services.DBAlertRecDelete(record.serviceId), kOk);
+  EXPECT_EQ(services.DBAlertRecDelete(record.serviceId), kNotFound);
   EXPECT_EQ(services.DBAlertRecUpdate(record), kNotFound);
   EXPECT_EQ(NamesOf(services, kByIdentity), "");
 }
 
 TEST_F(StoreTest, NamesOfModemsTypesAndLocationsAreUniqueEachInItsStore) {
-  CAlertSERV_MODEMDB modems;
-  CAlertSERV_MODEMDB types("QModemDB.dat");
-  CAlertMODEM_LOCATIONDB locations;
-  const auto is_unique_in = [](auto& store) {
-    ASSERT_EQ(store.DBOpen(), kOk);
-    typename std::remove_reference_t<decltype(store)>::RecordType record{};
-    record.name.Assign("Standard");
+  const auto is_unique_in = [](auto store) {
+    auto record = Named<typename decltype(store)::RecordType>("Standard");
     GUID id{};
     EXPECT_EQ(store.DBAlertRecAdd(record, id), kOk) << "taken by another store";
     const GUID first = id;
-    const Status status = store.DBAlertRecAdd(record, id);
-    EXPECT_EQ(status & 0xFFFF, 206u);
+    EXPECT_EQ(store.DBAlertRecAdd(record, id) & 0xFFFF, 206u);
     EXPECT_EQ(id, first) << "a failed add leaves the identity";
     EXPECT_EQ(record.guid, first);
     record.guid = AddNamed(store, "Other");
     EXPECT_EQ(store.DBAlertRecUpdate(record), kNotUnique) << "renaming to a taken name";
   };
-  is_unique_in(modems);
-  is_unique_in(types);
-  is_unique_in(locations);
+  is_unique_in(Opened<CAlertSERV_MODEMDB>());
+  is_unique_in(Opened<CAlertSERV_MODEMDB>("QModemDB.dat"));
+  is_unique_in(Opened<CAlertMODEM_LOCATIONDB>());
 
-  Opened<CAlertNtfyServDB> services;
-  AddNamed(services, "Mail");
-  AddNamed(services, "Mail");
+  Services services;
+  for (const char* name : {"Mail", "Mail"}) AddNamed(services, name);
   EXPECT_EQ(NamesOf(services, kByIdentity), "Mail Mail") << "services may share a name";
 }
 
@@ -110,15 +92,13 @@ TEST_F(StoreTest, ARecordMayBringItsIdentity) {
   record.responseId = GUID::Generate();
   EXPECT_EQ(responses.AddWithIdentity(record), kOk);
   EXPECT_EQ(responses.AddWithIdentity(record), kNotUnique);
-  ALERTRESPREC found{};
-  EXPECT_EQ(responses.DBAlertRecFindFirst(kByIdentity, 16, &record.responseId, found), kOk);
+  EXPECT_EQ(test_support::RecordsOf(responses, kByIdentity, &record.responseId).size(), 1u);
 }
 
 TEST_F(StoreTest, ATwoRecordAddLinksBothUnderFreshIdentities) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   Opened<CAlertUsrInstServDB> links;
   Opened<CAlertUSR_MCIDB> users;
-
   ALRTNTFYSERV common{};
   ALRTMCISERVICEREC mci{};
   mci.loginId.Assign("gateway");
@@ -127,32 +107,22 @@ TEST_F(StoreTest, ATwoRecordAddLinksBothUnderFreshIdentities) {
   EXPECT_EQ(common.serviceId, id);
   EXPECT_EQ(common.specificRecordId, specific_id);
   EXPECT_EQ(mci.guid, specific_id);
-  ALRTMCISERVICEREC read{};
-  read.guid = specific_id;
-  ASSERT_EQ(services.SpecificStore<ALRTMCISERVICEREC>()->DBAlertRecRetrieve(specific_id, read), kOk);
-  EXPECT_EQ(read.loginId.View(), "gateway");
+  EXPECT_EQ(Stored(*services.SpecificStore<ALRTMCISERVICEREC>(), specific_id).loginId.View(), "gateway");
 
   ALRTUSRINSTSERV link{};
   ALRTUSR_MCISERVICEREC user{};
   GUID link_id{}, user_id{};
   ASSERT_EQ(links.DBAlertRecAdd(link, link_id, user, user_id), kOk);
-  ALRTUSRINSTSERV found{};
-  ASSERT_EQ(links.DBAlertRecFindFirst(kLinkByUserRecord, 16, &user_id, found), kOk);
-  EXPECT_EQ(found.guid, link_id);
-  ALRTUSR_MCISERVICEREC found_user{};
-  EXPECT_EQ(users.DBAlertRecFindFirst(CAlertUSR_MCIDB::kSelectors.by_id, 16, &user_id, found_user), kOk);
+  ASSERT_EQ(links.DBAlertRecFindFirst(kLinkByUserRecord, 16, &user_id, link), kOk);
+  EXPECT_EQ(link.guid, link_id);
+  EXPECT_EQ(users.DBAlertRecFindFirst(CAlertUSR_MCIDB::kSelectors.by_id, 16, &user_id, user), kOk);
 }
 
 TEST_F(StoreTest, MailTypesOfOneLayoutHaveStoresOfTheirOwn) {
-  Opened<CAlertNtfyServDB> services;
-  ALRTNTFYSERV common{};
-  ALRTMAPISERVICEREC mail{};
-  GUID id{}, specific_id{};
-  ASSERT_EQ(services.DBAlertRecAdd(common, id, mail, specific_id), kOk);
-  ALRTCCMAILSERVICEREC other{};
-  other.guid = specific_id;
-  EXPECT_EQ(services.SpecificStore<ALRTCCMAILSERVICEREC>()->DBAlertRecRetrieve(specific_id, other),
-            kNotFound);
+  Services services;
+  ASSERT_EQ(Add(services, ALRTNTFYSERV{}, ALRTMAPISERVICEREC{}), kOk);
+  EXPECT_EQ(test_support::RecordsOf(*services.SpecificStore<ALRTMAPISERVICEREC>(), kByIdentity).size(), 1u);
+  EXPECT_EQ(test_support::RecordsOf(*services.SpecificStore<ALRTCCMAILSERVICEREC>(), kByIdentity).size(), 0u);
 }
 
 TEST_F(StoreTest, ADroppedSpecificStoreTakesNoRecords) {
@@ -161,112 +131,94 @@ TEST_F(StoreTest, ADroppedSpecificStoreTakesNoRecords) {
   ASSERT_EQ(services.DBOpen(), kOk);
   EXPECT_EQ(services.SpecificStore<ALRTWAVESERVICEREC>(), nullptr);
   EXPECT_NE(services.SpecificStore<ALRTTTSSERVICEREC>(), nullptr);
-  ALRTNTFYSERV common{};
-  ALRTWAVESERVICEREC wave{};
-  GUID id{}, specific_id{};
-  EXPECT_EQ(services.DBAlertRecAdd(common, id, wave, specific_id), kStoreClosed);
+  EXPECT_EQ(Add(services, ALRTNTFYSERV{}, ALRTWAVESERVICEREC{}), kStoreClosed);
   EXPECT_EQ(NamesOf(services, kByIdentity), "");
 }
 
 TEST_F(StoreTest, AStoreThatIsNotOpenAnswersSoToEverything) {
   CAlertUsrInstServDB links;
   ALRTUSRINSTSERV link{};
-  ALRTUSR_MHSSERVICEREC user{};
-  GUID id{}, other{};
   EXPECT_FALSE(links.IsOpen());
-  EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByUser, 0, nullptr, link), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecFindNext(link), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecRetrieve(id, link), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecAdd(link, id), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecAdd(link, id, user, other), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecUpdate(link), kStoreClosed);
-  EXPECT_EQ(links.DBAlertRecDelete(id), kStoreClosed);
-  EXPECT_EQ(links.File().DBFileLock(), kStoreClosed);
-  EXPECT_EQ(links.File().DBFileUnlock(), kStoreClosed);
+  const Status answers[] = {links.DBAlertRecFindFirst(kLinkByUser, 0, nullptr, link),
+                            links.DBAlertRecFindNext(link),
+                            links.DBAlertRecRetrieve({}, link),
+                            Add(links, link),
+                            Add(links, link, ALRTUSR_MHSSERVICEREC{}),
+                            links.DBAlertRecUpdate(link),
+                            links.DBAlertRecDelete({}),
+                            links.File().DBFileLock(),
+                            links.File().DBFileUnlock()};
+  EXPECT_THAT(answers, testing::Each(kStoreClosed));
 }
 
 TEST_F(StoreTest, StoresOpenedAfterTheDirectoryChangedUseTheNewOne) {
-  Opened<CAlertNtfyServDB> before;
+  Services before;
   AddNamed(before, "old");
   UseDirectory(directory_ + "/a/new/one");
-  Opened<CAlertNtfyServDB> after;
+  Services after;
   EXPECT_EQ(NamesOf(after, kByIdentity), "");
   AddNamed(after, "new");
   EXPECT_EQ(NamesOf(before, kByIdentity), "old");
 }
 
 TEST_F(StoreTest, AConsistentReadSeesOneMomentAndRefusesWrites) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   AddNamed(services, "a");
-  // A second engine on the same directory has a connection of its own, as another console has.
-  SetEngine(std::make_shared<SqliteEngine>(directory_));
-  Opened<CAlertNtfyServDB> elsewhere;
-  SetEngine(nullptr);
+  const std::shared_ptr<Engine> engine = CurrentEngine();
+  BecomeAnotherConsole();
+  Services elsewhere;
   {
-    const std::shared_ptr<Engine> engine = CurrentEngine();
     const ReadScope outer(*engine), nested(*engine);
     ASSERT_EQ(nested.Result(), kOk);
     AddNamed(elsewhere, "b");
     EXPECT_EQ(NamesOf(services, kByIdentity), "a");
-    ALRTNTFYSERV record{};
-    GUID id{};
-    EXPECT_EQ(services.DBAlertRecAdd(record, id), kInsideRead);
+    EXPECT_EQ(Add(services, {}), kInsideRead);
   }
   EXPECT_EQ(NamesOf(services, kByIdentity), "a b");
   AddNamed(services, "c");
 }
 
 TEST_F(StoreTest, TakingTheLockShowsWhatItsLastHolderWrote) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   const GUID id = AddNamed(services, "before");
   AddNamed(services, "second");
-  SetEngine(std::make_shared<SqliteEngine>(directory_));
-  Opened<CAlertNtfyServDB> elsewhere;
+  BecomeAnotherConsole();
+  Services elsewhere;
   ALRTNTFYSERV record{};
   ASSERT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kOk);
   ASSERT_EQ(services.DBAlertRecFindNext(record), kOk);  // a read transaction runs, and is not ended
 
-  ALRTNTFYSERV changed{};
-  changed.serviceId = id;
-  changed.name.Assign("after");
-  ASSERT_EQ(elsewhere.DBAlertRecUpdate(changed), kOk);
+  ASSERT_EQ(elsewhere.DBAlertRecUpdate(Named<ALRTNTFYSERV>("after", id)), kOk);
   ASSERT_EQ(services.File().DBFileLock(), kOk);
-  record.serviceId = id;
-  ASSERT_EQ(services.DBAlertRecRetrieve(id, record), kOk);
-  EXPECT_EQ(record.name.View(), "after");
+  EXPECT_EQ(Stored(services, id).name.View(), "after");
   EXPECT_EQ(services.File().DBFileUnlock(), kOk);
 }
 
 TEST_F(StoreTest, ReadersMakeNothing) {
-  const std::string data = directory_ + "/data";
-  UseDirectory(data);
-  Opened<CAlertNtfyServDB> services;
-  Opened<CAlertSERV_MODEMDB> modems;
+  UseDirectory(directory_ + "/data");
+  Services services;
   EXPECT_EQ(NamesOf(services, kByIdentity), "");
-  const ReadScope nothing(*CurrentEngine());
-  EXPECT_EQ(nothing.Result(), kOk);
-  EXPECT_FALSE(std::filesystem::exists(data));
+  EXPECT_EQ(ReadScope(*CurrentEngine()).Result(), kOk);
+  EXPECT_FALSE(std::filesystem::exists(directory_ + "/data"));
 }
 
 TEST_F(StoreTest, TheFirstWriteMakesTheStoresOfTheWholeSite) {
-  Opened<CAlertNtfyServDB> services;
+  Services services;
   AddNamed(services, "first");
   RawDatabase database(directory_);
-  EXPECT_EQ(database.Ask("SELECT count(*) FROM sqlite_schema WHERE type='table'"), SiteSchemas().size());
+  EXPECT_EQ(database.Ask("SELECT count(*) FROM sqlite_schema WHERE type='table'"),
+            std::to_string(SiteSchemas().size()));
   // Another console is in the middle of a write: readers neither wait nor write.
   database.Ask("BEGIN IMMEDIATE");
-  SetEngine(std::make_shared<SqliteEngine>(directory_));
+  BecomeAnotherConsole();
   Opened<CAlertUsrInstServDB> links;
-  Opened<CAlertNtfyServDB> elsewhere;
+  Services elsewhere;
   EXPECT_EQ(NamesOf(elsewhere, kByIdentity), "first");
 }
 
 // A console that was stopped in the middle of a change left the first tables alone, or the program is newer.
 TEST_F(StoreTest, WhatIsMissingIsMadeByTheNextWriter) {
-  {
-    Opened<CAlertNtfyServDB> services;
-    AddNamed(services, "first");
-  }
+  AddNamed(*std::make_unique<Services>(), "first");
   RawDatabase(directory_).Ask("DROP TABLE \"ModemDB.dat\"");
   Opened<CAlertSERV_MODEMDB> modems;
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "");
@@ -277,12 +229,12 @@ TEST_F(StoreTest, WhatIsMissingIsMadeByTheNextWriter) {
 TEST_F(StoreTest, ALinkIsFoundByServiceAndUserAtOnce) {
   Opened<CAlertUsrInstServDB> links;
   const GUID user = GUID::Generate();
-  GUID key[] = {GUID::Generate(), user}, id{};
+  GUID key[] = {GUID::Generate(), user};
   ALRTUSRINSTSERV link{};
   link.userId = user;
-  for (int i = 0; i < 3; ++i) {
-    link.serviceId = i == 1 ? key[0] : GUID::Generate();
-    ASSERT_EQ(links.DBAlertRecAdd(link, id), kOk);
+  for (const GUID& service : {GUID::Generate(), key[0], GUID::Generate()}) {
+    link.serviceId = service;
+    ASSERT_EQ(Add(links, link), kOk);
   }
   EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByServiceAndUser, sizeof key, key, link), kOk);
   EXPECT_EQ(link.serviceId, key[0]);

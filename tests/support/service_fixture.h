@@ -21,6 +21,7 @@
 #include "platform/ui/lists.h"
 #include "tests/support/failing_engine.h"
 #include "tests/support/fake_netpath.h"
+#include "tests/support/records_of.h"
 #include "tests/support/temporary.h"
 
 namespace test_support {
@@ -166,16 +167,6 @@ alerting::CNtfyService* Find(const platform::GUID& service);
 template <class Service>
 Service& FindAs(const platform::GUID& service) {
   return dynamic_cast<Service&>(*Find(service));
-}
-
-/// What a scan of an open store gives.
-template <class Store>
-auto RecordsOf(Store& store, std::uint32_t selector, const platform::GUID* key = nullptr) {
-  std::vector<typename Store::RecordType> records;
-  typename Store::RecordType record{};
-  auto status = store.DBAlertRecFindFirst(selector, key != nullptr ? 16 : 0, key, record);
-  for (; status == alertstore::kOk; status = store.DBAlertRecFindNext(record)) records.push_back(record);
-  return records;
 }
 
 /// Adds a console user.
