@@ -4,7 +4,6 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -40,48 +39,42 @@ Record WithBody(std::string_view body) {
 
 class DbConfigTest : public StoreTest {
  protected:
-  void SetUp() override { ASSERT_EQ(services_.DBOpen(), kOk); }
-
-  ALRTNTFYSERV Common(std::uint32_t type, std::string_view name) {
-    ALRTNTFYSERV common{};
+  GUID AddCommon(std::uint32_t type, std::string_view name) {
+    auto common = Named<ALRTNTFYSERV>(name);
     common.recordType = type;
-    common.name.Assign(name);
-    common.enabled = 1;
-    return common;
+    return AddTo<CAlertNtfyServDB>(common);
   }
 
   template <class Specific>
   ALRTNTFYSERV AddService(std::uint32_t type, Specific specific) {
-    ALRTNTFYSERV common = Common(type, "Service " + std::to_string(type));
+    auto common = Named<ALRTNTFYSERV>("Service " + std::to_string(type));
+    common.recordType = type;
     GUID id{}, specific_id{};
     EXPECT_EQ(services_.DBAlertRecAdd(common, id, specific, specific_id), kOk);
     return common;
   }
 
   template <class Store>
-  GUID Add(typename Store::RecordType record) {
-    Store store;
+  static GUID AddTo(typename Store::RecordType record) {
+    Opened<Store> store;
     GUID id{};
-    EXPECT_EQ(store.DBOpen(), kOk);
     EXPECT_EQ(store.DBAlertRecAdd(record, id), kOk);
     return id;
   }
 
   template <class User>
-  void AddUser(const GUID& service, User user) {
+  static void AddUser(const ALRTNTFYSERV& service, User user) {
     Opened<CAlertUsrInstServDB> links;
-    RecordStore<User> users;
-    ASSERT_EQ(users.DBOpen(), kOk);
+    Opened<RecordStore<User>> users;
     ALRTUSRINSTSERV link{};
-    link.serviceId = service;
-    GUID id{}, user_id{};
-    ASSERT_EQ(links.DBAlertRecAdd(link, id, user, user_id), kOk);
+    link.serviceId = service.serviceId;
+    ASSERT_EQ(::Add(links, link, user), kOk);
   }
 
   /// One service of every type, with what belongs to it.
   void AddFullSite();
 
-  std::uint32_t Write() { return dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0); }
+  static std::uint32_t Write() { return dbconfig::MakeDbConfig()->CreateAlertServerConfigFile(0); }
   std::string Path() const { return directory_ + "/alert-managers.json"; }
   std::string Bytes() const {
     std::string bytes;
@@ -93,39 +86,33 @@ class DbConfigTest : public StoreTest {
     return json::parse(Bytes());
   }
 
-  CAlertNtfyServDB services_;
+  Services services_;
 };
 
 void DbConfigTest::AddFullSite() {
   AddService(1, WithBody<ALRTMHSSERVICEREC>("mhs"));
   AddService(2, WithBody<ALRTSNMPSERVICEREC>("snmp"));
-  const auto mci = AddService(3, WithBody<ALRTMCISERVICEREC>("mci"));
+  AddUser(AddService(3, WithBody<ALRTMCISERVICEREC>("mci")), ALRTUSR_MCISERVICEREC{});
   AddService(4, WithBody<ALRTCOMPUSSERVICEREC>("compuserve"));
   const auto smtp = AddService(5, WithBody<ALRTSMTPSERVICEREC>("smtp"));
+  AddUser(smtp, ALRTUSR_SMTPSERVICEREC{});
   AddService(6, WithBody<ALRTMAPISERVICEREC>("mapi"));
   AddService(7, WithBody<ALRTCCMAILSERVICEREC>("cc"));
   AddService(8, ALRTWAVESERVICEREC{});
   AddService(9, WithBody<ALRTTTSSERVICEREC>("speech"));
-  const auto alpha = AddService(11, WithBody<ALRTAPAGESERVICEREC>("alpha"));
-  const auto numeric = AddService(12, WithBody<ALRTNPAGESERVICEREC>("911"));
+  AddUser(AddService(11, WithBody<ALRTAPAGESERVICEREC>("alpha")), ALRTUSR_APAGESERVICEREC{});
+  AddUser(AddService(12, WithBody<ALRTNPAGESERVICEREC>("911")), ALRTUSR_NPAGESERVICEREC{});
   AddService(13, WithBody<ALRTGENPORTSERVICEREC>("port"));
-  GUID id{};
-  ALRTNTFYSERV program = Common(14, "Program");
-  ASSERT_EQ(services_.DBAlertRecAdd(program, id), kOk);
-
-  AddUser(smtp.serviceId, ALRTUSR_SMTPSERVICEREC{});
-  AddUser(mci.serviceId, ALRTUSR_MCISERVICEREC{});
-  AddUser(alpha.serviceId, ALRTUSR_APAGESERVICEREC{});
-  AddUser(numeric.serviceId, ALRTUSR_NPAGESERVICEREC{});
-  Add<CAlertRespDB>(ALERTRESPREC{});
-  Add<CAlertUSR_SNMPDB>(ALRTUSR_SNMPSERVICEREC{});
-  Add<CAlertSERV_MODEMDB>(ALRTSERV_MODEM{});
-  Add<CAlertMODEM_LOCATIONDB>(ALRTMODEM_LOCATION{});
-  Add<CAlertAPAGE_SERVICE_PROVIDERDB>(ALRTAPAGE_SERVICE_PROVIDER_REC{});
+  AddCommon(14, "Program");
+  AddTo<CAlertRespDB>({});
+  AddTo<CAlertUSR_SNMPDB>({});
+  AddTo<CAlertSERV_MODEMDB>({});
+  AddTo<CAlertMODEM_LOCATIONDB>({});
+  AddTo<CAlertAPAGE_SERVICE_PROVIDERDB>({});
   ALRTSERV_INST_NTFY_SERVREC enabled{};
-  enabled.managerGuid = Add<CAlert_SRV_CFGDB>(ALRT_SRV_CFGREC{});
+  enabled.managerGuid = AddTo<CAlert_SRV_CFGDB>({});
   enabled.serviceGuid = smtp.serviceId;
-  Add<CAlertSERV_INST_NTFY_SERVDB>(enabled);
+  AddTo<CAlertSERV_INST_NTFY_SERVDB>(enabled);
 }
 
 JsonSchema FileSchema() {
@@ -147,27 +134,21 @@ TEST_F(DbConfigTest, AFileOfAllTypesFollowsTheSchema) {
 TEST_F(DbConfigTest, TheSchemaRefusesWhatTheFileNeverSays) {
   AddFullSite();
   const json good = WrittenDocument();
-  const struct {
-    const char* what;
-    std::function<void(json&)> change;
-  } cases[] = {
-      {"a later version", [](json& d) { d["version"] = 2; }},
-      {"no responses", [](json& d) { d.erase("responses"); }},
-      {"an unknown type", [](json& d) { d["services"][0]["type"] = "pigeon"; }},
-      {"an unknown member", [](json& d) { d["modems"][0]["colour"] = "blue"; }},
-      {"another type's settings",
-       [](json& d) { d["services"][0]["settings"] = d["services"][4]["settings"]; }},
-      {"a number as text", [](json& d) { d["responses"][0]["priority"] = "1"; }},
-      {"a malformed identity", [](json& d) { d["services"][0]["id"] = "{1}"; }},
-      {"mail without users", [](json& d) { d["services"][4].erase("users"); }},
-      {"a broken backup modem", [](json& d) { d["services"][2]["backupModem"] = json::object(); }},
-      {"a negative speed", [](json& d) { d["modems"][0]["baudRate"] = -1; }},
-  };
-  for (const auto& [what, change] : cases) {
+  const std::pair<const char*, json> rows[] = {{"/version", 2},
+                                               {"/services/0/type", "pigeon"},
+                                               {"/modems/0/colour", "blue"},
+                                               {"/services/0/settings", good["services"][4]["settings"]},
+                                               {"/responses/0/priority", "1"},
+                                               {"/services/0/id", "{1}"},
+                                               {"/services/2/backupModem", json::object()},
+                                               {"/modems/0/baudRate", -1}};
+  for (const auto& [place, value] : rows) {
     json bad = good;
-    change(bad);
-    EXPECT_FALSE(FileSchema().Problems(bad).empty()) << what;
+    bad[json::json_pointer(place)] = value;
+    EXPECT_FALSE(FileSchema().Problems(bad).empty()) << place;
   }
+  for (const char* needed : {"/responses", "/services/4/users"})
+    EXPECT_FALSE(FileSchema().Problems(good.patch({{{"op", "remove"}, {"path", needed}}})).empty()) << needed;
 }
 
 TEST_F(DbConfigTest, AServiceIsToldWithItsSettingsMessageAndUsers) {
@@ -184,7 +165,7 @@ TEST_F(DbConfigTest, AServiceIsToldWithItsSettingsMessageAndUsers) {
   user.userName.Assign("Ann");
   user.userAddress.Assign("ann@example.org");
   user.userEnabled = 1;
-  AddUser(service.serviceId, user);
+  AddUser(service, user);
 
   const json told = WrittenDocument()["services"][0];
   EXPECT_EQ(told["id"], service.serviceId.ToString());
@@ -208,7 +189,7 @@ TEST_F(DbConfigTest, ModemAndBackupModemComeFromTheirOwnRecords) {
   EXPECT_EQ(WrittenDocument()["services"][0]["backupModem"], nullptr);
 
   record.modemName.Assign("second");
-  service.backupSpecificRecordId = Add<CAlertNPAGENtfyServDB>(record);
+  service.backupSpecificRecordId = AddTo<CAlertNPAGENtfyServDB>(record);
   ASSERT_EQ(services_.DBAlertRecUpdate(service), kOk);
   const json told = WrittenDocument()["services"][0];
   EXPECT_EQ(told["modem"]["modemName"], "first");
@@ -219,16 +200,16 @@ TEST_F(DbConfigTest, ModemAndBackupModemComeFromTheirOwnRecords) {
 }
 
 TEST_F(DbConfigTest, EachManagerListsItsOwnServices) {
-  ALRT_SRV_CFGREC manager{};
-  manager.managerName.Assign("server-1");
-  const GUID first = Add<CAlert_SRV_CFGDB>(manager);
-  manager.managerName.Assign("server-2");
-  Add<CAlert_SRV_CFGDB>(manager);
   ALRTSERV_INST_NTFY_SERVREC entry{};
-  entry.managerGuid = first;
+  for (const char* name : {"server-1", "server-2"}) {
+    ALRT_SRV_CFGREC manager{};
+    manager.managerName.Assign(name);
+    const GUID id = AddTo<CAlert_SRV_CFGDB>(manager);
+    if (entry.managerGuid.IsNull()) entry.managerGuid = id;
+  }
   entry.serviceGuid = GUID::Generate();
   entry.isBackup = 1;
-  Add<CAlertSERV_INST_NTFY_SERVDB>(entry);
+  AddTo<CAlertSERV_INST_NTFY_SERVDB>(entry);
 
   const json managers = WrittenDocument()["alertManagers"];
   EXPECT_EQ(managers[0]["name"], "server-1");
@@ -243,7 +224,7 @@ TEST_F(DbConfigTest, AResponseNamesItsKeywords) {
   response.message.Assign("%s");
   response.messageKeywords[0] = 2;
   response.userName.Assign("Ann");
-  Add<CAlertRespDB>(response);
+  AddTo<CAlertRespDB>(response);
   const json told = WrittenDocument()["responses"][0];
   EXPECT_EQ(told["serviceType"], "internet-mail");
   EXPECT_EQ(told["serviceId"], nullptr);
@@ -252,14 +233,11 @@ TEST_F(DbConfigTest, AResponseNamesItsKeywords) {
 }
 
 TEST_F(DbConfigTest, LooseEndsAreLeftOut) {
-  ALRTNTFYSERV alone = Common(5, "no record of its own"), script = Common(15, "script");
-  GUID id{};
-  ASSERT_EQ(services_.DBAlertRecAdd(alone, id), kOk);
-  ASSERT_EQ(services_.DBAlertRecAdd(script, id), kOk);
   ALRTUSRINSTSERV link{};
-  link.serviceId = alone.serviceId;
+  link.serviceId = AddCommon(5, "no record of its own");
   link.userRecordId = GUID::Generate();
-  Add<CAlertUsrInstServDB>(link);
+  AddTo<CAlertUsrInstServDB>(link);
+  AddCommon(15, "script");
 
   const json document = WrittenDocument();
   ASSERT_EQ(document["services"].size(), 1u);
@@ -272,17 +250,13 @@ TEST_F(DbConfigTest, TheFileIsForItsOwnerAndTheSameWhenNothingChanged) {
   AddFullSite();
   ASSERT_EQ(Write(), 0u);
   const std::string first = Bytes();
-  struct stat status {};
-  ASSERT_EQ(stat(Path().c_str(), &status), 0);
-  EXPECT_EQ(status.st_mode & 0777, 0600u);
+  EXPECT_EQ(std::filesystem::status(Path()).permissions(), std::filesystem::perms{0600});
   ASSERT_EQ(Write(), 0u);
   EXPECT_EQ(Bytes(), first);
 }
 
 TEST_F(DbConfigTest, BytesThatAreNoUtf8AreReplaced) {
-  ALRTNTFYSERV service = Common(14, "a\xFFz");
-  GUID id{};
-  ASSERT_EQ(services_.DBAlertRecAdd(service, id), kOk);
+  AddCommon(14, "a\xFFz");
   EXPECT_EQ(WrittenDocument()["services"][0]["name"], "a\uFFFDz");
 }
 
@@ -290,10 +264,7 @@ TEST_F(DbConfigTest, AnyStoreThatCannotBeReadFailsTheWriteAndKeepsTheFile) {
   AddFullSite();
   ASSERT_EQ(Write(), 0u);
   const std::string before = Bytes();
-  ALRTNTFYSERV more = Common(14, "one more");
-  GUID id{};
-  ASSERT_EQ(services_.DBAlertRecAdd(more, id), kOk);
-
+  AddCommon(14, "one more");
   const auto engine = std::make_shared<FailingEngine>(CurrentEngine());
   SetEngine(engine);
   int failed = 0;
