@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Fails every store call of every sequence in turn. One driver: it writes down, for each call that fails, the
-// answer, the messages and what had been written by the end; the last line is the sequence that goes well. No
-// lock may be left on any way out.
+// answer, the messages and what had been written by the end, so that the lines name the calls in their order; the
+// last line is the answer when all goes well. No lock may be left on any way out.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -41,7 +41,9 @@ class FaultSweep : public ServiceTest {
     return lines;
   }
 
-  void Expect(const Lines& lines, const std::function<Operation()>& prepare) {
+  /// The lines, and behind them the answer when all goes well.
+  void Expect(Lines lines, const std::function<Operation()>& prepare, const std::string& answer = "yes") {
+    lines.push_back("goes well: " + answer);
     EXPECT_EQ(Sweep(prepare), lines);
   }
 
@@ -66,13 +68,12 @@ class FaultSweep : public ServiceTest {
  private:
   std::string Line(bool answer) {
     const bool failed = library.engine->Failures() > 0;
-    std::string line = failed ? FailedCall() + " fails: " : "goes well: ";
-    line += answer ? "yes" : "no";
+    std::string line = (failed ? FailedCall() + " fails: " : "goes well: ") + (answer ? "yes" : "no");
     for (const std::string& text : desktop.TakeMessages()) line += " [" + text + "]";
-    std::string writes;
-    const std::vector<StoreCall> calls = failed ? library.engine->Writes() : library.engine->Calls();
-    for (const StoreCall& call : calls) writes += (writes.empty() ? "" : ", ") + Name(call);
-    return line + (failed ? (writes.empty() ? "" : "; wrote " + writes) : "; " + writes);
+    const char* before = "; wrote ";
+    for (const StoreCall& call : failed ? library.engine->Writes() : std::vector<StoreCall>())
+      line += std::exchange(before, ", ") + Name(call);
+    return line;
   }
   std::string FailedCall() const {
     for (const StoreCall& call : library.engine->Calls())
@@ -97,107 +98,75 @@ class FaultSweep : public ServiceTest {
 
 // What the operations of a service's records do, per family of types.
 
-constexpr char kCommonRead[] = " [Unable to read the record from the notification service database.]";
-constexpr char kSpecificRead[] =
-    " [Unable to read the record from the notification service-specific database.]";
-constexpr char kCommonUpdate[] = " [Unable to update the notification service database record.]";
-constexpr char kSpecificUpdate[] = " [Unable to update the notification service-specific database record.]";
-constexpr char kErrorCode[] = " [000200d2 is the error code.]";
-constexpr char kAdd[] = " [Unable to add a record to the notification service database.]";
+const std::string kCommonRead = " [Unable to read the record from the notification service database.]",
+                  kSpecificRead =
+                      " [Unable to read the record from the notification service-specific database.]",
+                  kCommonUpdate = " [Unable to update the notification service database record.]",
+                  kSpecificUpdate = " [Unable to update the notification service-specific database record.]",
+                  kErrorCode = " [000200d2 is the error code.]",
+                  kAdd = " [Unable to add a record to the notification service database.]";
 
 struct Family {
-  const char* name;
   std::vector<std::uint32_t> types;
   Lines load, reload, save, copy;
 };
 
+/// Of a service with so many specific records.
+Lines Save(int specifics) {
+  std::string written = "; wrote Update services", whole = written;
+  for (int i = 0; i < specifics; ++i) whole += ", Update specific";
+  if (specifics > 1) written = whole.substr(0, whole.rfind(','));
+  Lines lines = {"Lock services fails: no" + kCommonUpdate, "Retrieve services fails: yes" + whole,
+                 "Update services fails: no" + kCommonUpdate, "Unlock services fails: yes" + whole};
+  if (specifics > 0) {
+    lines.push_back("Lock specific fails: no" + kSpecificUpdate + "; wrote Update services");
+    lines.push_back("Retrieve specific fails: yes" + whole);
+    for (int i = 0; i < specifics; ++i)
+      lines.push_back("Update specific fails: no" + kSpecificUpdate + written);
+    lines.push_back("Unlock specific fails: yes" + whole);
+  }
+  return lines;
+}
+
+Family Plain(std::vector<std::uint32_t> types, const std::string& specific_read) {
+  return {types,
+          {"Retrieve services fails: no" + kCommonRead, "Retrieve specific fails: yes" + specific_read},
+          {"Retrieve services fails: no" + kCommonRead, "Retrieve specific fails: no" + specific_read},
+          Save(1),
+          {"AddPair services fails: no" + kErrorCode + kAdd}};
+}
+
+Family DialOut(std::vector<std::uint32_t> types, const std::string& error_code) {
+  const std::string added = "; wrote Add specific";
+  return {types,
+          {"Retrieve services fails: no" + kCommonRead, "Retrieve specific fails: yes" + kSpecificRead,
+           "Lock specific fails: yes", "Add specific fails: yes",
+           "Unlock specific fails: yes" + added + ", Update services",
+           "Lock services fails: yes" + kCommonUpdate + added,
+           "Update services fails: yes" + kCommonUpdate + added,
+           "Unlock services fails: yes" + added + ", Update services"},
+          {"Retrieve services fails: no" + kCommonRead, "Retrieve specific fails: no" + kSpecificRead,
+           "Retrieve specific fails: yes"},  // goes on without its backup,
+          Save(2),
+          {"Lock specific fails: no" + kAdd, "Add specific fails: no" + kAdd,
+           "Unlock specific fails: yes" + added + ", AddPair services",
+           "AddPair services fails: no" + error_code + kAdd + added}};
+}
+
 std::vector<Family> Families() {
-  const std::string read = kCommonRead, specific_read = kSpecificRead, update = kCommonUpdate,
-                    specific_update = kSpecificUpdate, code = kErrorCode, add = kAdd;
-  const Lines plain_save = {
-      "Lock services fails: no" + update,
-      "Retrieve services fails: yes; wrote Update services, Update specific",
-      "Update services fails: no" + update,
-      "Unlock services fails: yes; wrote Update services, Update specific",
-      "Lock specific fails: no" + specific_update + "; wrote Update services",
-      "Retrieve specific fails: yes; wrote Update services, Update specific",
-      "Update specific fails: no" + specific_update + "; wrote Update services",
-      "Unlock specific fails: yes; wrote Update services, Update specific",
-      "goes well: yes; Lock services, Retrieve services, Update services, Unlock services, "
-      "Lock specific, Retrieve specific, Update specific, Unlock specific"};
-  const Lines plain_copy = {"AddPair services fails: no" + code + add, "goes well: yes; AddPair services"};
-  const Lines modem_load = {
-      "Retrieve services fails: no" + read,
-      "Retrieve specific fails: yes" + specific_read,
-      "Lock specific fails: yes",
-      "Add specific fails: yes",
-      "Unlock specific fails: yes; wrote Add specific, Update services",
-      "Lock services fails: yes" + update + "; wrote Add specific",
-      "Update services fails: yes" + update + "; wrote Add specific",
-      "Unlock services fails: yes; wrote Add specific, Update services",
-      "goes well: yes; Retrieve services, Retrieve specific, Lock specific, Add specific, Unlock specific, "
-      "Lock services, Update services, Unlock services"};
-  const Lines modem_reload = {"Retrieve services fails: no" + read,
-                              "Retrieve specific fails: no" + specific_read,
-                              "Retrieve specific fails: yes",  // goes on without its backup
-                              "goes well: yes; Retrieve services, Retrieve specific, Retrieve specific"};
-  const Lines modem_save = {
-      "Lock services fails: no" + update,
-      "Retrieve services fails: yes; wrote Update services, Update specific, Update specific",
-      "Update services fails: no" + update,
-      "Unlock services fails: yes; wrote Update services, Update specific, Update specific",
-      "Lock specific fails: no" + specific_update + "; wrote Update services",
-      "Retrieve specific fails: yes; wrote Update services, Update specific, Update specific",
-      "Update specific fails: no" + specific_update + "; wrote Update services, Update specific",
-      "Update specific fails: no" + specific_update + "; wrote Update services, Update specific",
-      "Unlock specific fails: yes; wrote Update services, Update specific, Update specific",
-      "goes well: yes; Lock services, Retrieve services, Update services, Unlock services, Lock specific, "
-      "Retrieve specific, Update specific, Update specific, Unlock specific"};
-  const auto modem_copy = [&](const std::string& error) {
-    return Lines{"Lock specific fails: no" + add, "Add specific fails: no" + add,
-                 "Unlock specific fails: yes; wrote Add specific, AddPair services",
-                 "AddPair services fails: no" + error + add + "; wrote Add specific",
-                 "goes well: yes; Lock specific, Add specific, Unlock specific, AddPair services"};
-  };
-  return {
-      {"plain",
-       {0, 4, 5, 6, 7, 8},
-       {"Retrieve services fails: no" + read, "Retrieve specific fails: yes" + specific_read,
-        "goes well: yes; Retrieve services, Retrieve specific"},
-       {"Retrieve services fails: no" + read, "Retrieve specific fails: no" + specific_read,
-        "goes well: yes; Retrieve services, Retrieve specific"},
-       plain_save,
-       plain_copy},
-      {"SNMP Trap, whose specific record fails silently",
-       {1},
-       {"Retrieve services fails: no" + read, "Retrieve specific fails: yes",
-        "goes well: yes; Retrieve services, Retrieve specific"},
-       {"Retrieve services fails: no" + read, "Retrieve specific fails: no",
-        "goes well: yes; Retrieve services, Retrieve specific"},
-       plain_save,
-       plain_copy},
-      {"dial-out", {2, 3, 11, 12}, modem_load, modem_reload, modem_save, modem_copy(code)},
-      {"Alphanumeric Pager, which shows no error code",
-       {10},
-       modem_load,
-       modem_reload,
-       modem_save,
-       modem_copy("")},
-      {"Program Launch, which has no specific record",
-       {13},
-       {"Retrieve services fails: no" + read, "goes well: yes; Retrieve services"},
-       {"Retrieve services fails: no" + read, "goes well: yes; Retrieve services"},
-       {"Lock services fails: no" + update, "Retrieve services fails: yes; wrote Update services",
-        "Update services fails: no" + update, "Unlock services fails: yes; wrote Update services",
-        "goes well: yes; Lock services, Retrieve services, Update services, Unlock services"},
-       {"Add services fails: no" + add, "goes well: yes; Add services"}},
-  };
+  const Lines program_read = {"Retrieve services fails: no" + kCommonRead};
+  return {Plain({0, 4, 5, 6, 7, 8}, kSpecificRead),
+          Plain({1}, ""),  // SNMP Trap, whose specific record fails silently
+          DialOut({2, 3, 11, 12}, kErrorCode),
+          DialOut({10}, ""),  // Alphanumeric Pager, which shows no error code
+          // Program Launch, which has no specific record
+          {{13}, program_read, program_read, Save(0), {"Add services fails: no" + kAdd}}};
 }
 
 TEST_F(FaultSweep, RecordsOfEveryType) {
   for (const Family& family : Families()) {
     for (const std::uint32_t code : family.types) {
-      SCOPED_TRACE(::testing::Message() << family.name << ", type " << code);
+      SCOPED_TRACE(code);
       Expect(family.load, [&] {
         const GUID id = SeedService(code, "Service");
         return Operation([id, code] { return MakeService(code, id)->Load(); });
@@ -205,8 +174,7 @@ TEST_F(FaultSweep, RecordsOfEveryType) {
       Expect(family.reload, [&] { return [&service = Fresh(code)] { return service.ReloadRecords(); }; });
       Expect(family.save, [&] { return [&service = Fresh(code)] { return service.SaveRecords(); }; });
       Expect(family.copy, [&] { return [&service = Fresh(code)] { return Copy(service); }; });
-      Expect({std::string("Delete services fails: no") + kCommonRead,
-              std::string("goes well: yes; Delete services")},
+      Expect({"Delete services fails: no" + kCommonRead},
              [&] { return [&service = Fresh(code)] { return service.DeleteRecord(); }; });
     }
   }
@@ -216,9 +184,9 @@ TEST_F(FaultSweep, RecordsOfEveryType) {
 
 struct UserOperation {
   const char* name;
-  bool known;  ///< the user has an entry before
   std::function<bool(CNtfyServiceUserBase& service, const GUID& user)> run;
   Lines expected;
+  bool known = true;  ///< the user has an entry before
 };
 
 /// A user with an entry.
@@ -245,61 +213,51 @@ std::vector<UserOperation> UserOperations() {
                     user_delete = " [Unable to delete record in the service-specific user database.]",
                     link_add = " [Unable to add record to the user installed services database.]",
                     link_update = " [Unable to update record in the user installed services database.]",
-                    no_users = " [No records in the user installed services database.]";
+                    no_users = " [No records in the user installed services database.]",
+                    first = "; wrote Add users", again = "; wrote Update users";
   // A read that fails counts as "not found", as it does to every caller of the store.
   return {
       {"save a new entry",
-       false,
-       [](CNtfyServiceUserBase& service, const GUID& user) {
+       [](auto& service, auto& user) {
          return service.SaveUserEntry(user, {"Op", "1", 1});
        },
-       {"FindFirst links fails: yes; wrote Add users, Add links", "Lock users fails: no" + user_add,
-        "Add users fails: no" + user_add, "Unlock users fails: yes; wrote Add users, Add links",
-        "FindFirst links fails: yes; wrote Add users, Add links",
-        "Add links fails: no" + link_add + "; wrote Add users",
-        "goes well: yes; FindFirst links, Lock users, Add users, Unlock users, FindFirst links, Add links"}},
+       {"FindFirst links fails: yes" + first + ", Add links", "Lock users fails: no" + user_add,
+        "Add users fails: no" + user_add, "Unlock users fails: yes" + first + ", Add links",
+        "FindFirst links fails: yes" + first + ", Add links", "Add links fails: no" + link_add + first},
+       false},
       {"save an entry again",
-       true,
-       [](CNtfyServiceUserBase& service, const GUID& user) {
+       [](auto& service, auto& user) {
          return service.SaveUserEntry(user, {"Op", "2", 1});
        },
-       {"FindFirst links fails: yes; wrote Add users, Update links", "Lock users fails: no" + user_update,
-        "FindFirst users fails: yes; wrote Add users, Update links", "Update users fails: no" + user_update,
-        "Unlock users fails: yes; wrote Update users, Update links",
-        "FindFirst links fails: yes; wrote Update users, Add links",
-        "Update links fails: no" + link_update + "; wrote Update users",
-        "goes well: yes; FindFirst links, Lock users, FindFirst users, Update users, Unlock users, FindFirst "
-        "links, Update links"}},
+       {"FindFirst links fails: yes" + first + ", Update links", "Lock users fails: no" + user_update,
+        "FindFirst users fails: yes" + first + ", Update links", "Update users fails: no" + user_update,
+        "Unlock users fails: yes" + again + ", Update links",
+        "FindFirst links fails: yes" + again + ", Add links",
+        "Update links fails: no" + link_update + again}},
       {"read an entry",
-       true,
-       [](CNtfyServiceUserBase& service, const GUID& user) {
+       [](auto& service, auto& user) {
          UserEntry entry;
          return service.GetUserEntry(user, entry) && entry.name == "Op";
        },
-       {"FindFirst links fails: no", "FindFirst users fails: no",
-        "goes well: yes; FindFirst links, FindFirst users"}},
+       {"FindFirst links fails: no", "FindFirst users fails: no"}},
       {"suggest an address",
-       true,
-       [](CNtfyServiceUserBase& service, const GUID& user) {
+       [](auto& service, auto& user) {
          std::string address;
          return service.GetUserAddress(user, address);
        },
-       {"FindFirst users fails: no", "goes well: yes; FindFirst users"}},
+       {"FindFirst users fails: no"}},
       {"delete a user",
-       true,
-       [](CNtfyServiceUserBase& service, const GUID& user) { return service.DeleteUser(user); },
+       [](auto& service, auto& user) { return service.DeleteUser(user); },
        {"FindFirst links fails: yes; wrote Delete links",
         "Delete users fails: no" + user_delete + "; wrote Delete links",
-        "FindFirst links fails: no; wrote Delete users", "Delete links fails: yes; wrote Delete users",
-        "goes well: yes; FindFirst links, Delete users, FindFirst links, Delete links"}},
+        "FindFirst links fails: no; wrote Delete users", "Delete links fails: yes; wrote Delete users"}},
       {"list the users",
-       true,
-       [](CNtfyServiceUserBase& service, const GUID&) {
+       [](auto& service, auto&) {
          ListDialog dialog;
          return service.FillUserList(dialog.list);
        },
        {"FindFirst users fails: no" + no_users, "FindFirst links fails: no" + no_users,
-        "FindNext users fails: yes", "goes well: yes; FindFirst users, FindFirst links, FindNext users"}},
+        "FindNext users fails: yes"}},
   };
 }
 
@@ -319,78 +277,66 @@ TEST_F(FaultSweep, UsersOfEveryTypeThatHasThem) {
 }
 
 TEST_F(FaultSweep, MailUsers) {
-  Expect({"AddPair links fails: no [Unable to add a record the user installed services database.]",
-          "goes well: yes; AddPair links"},
-         [&] {
-           auto& service = FreshAs<CNtfyServiceMailBase>(kTypeSmtp);
-           return [&service] { return service.AddUserWithLink("Op", "1", GUID::Generate()); };
-         });
+  Expect({"AddPair links fails: no [Unable to add a record the user installed services database.]"}, [&] {
+    auto& service = FreshAs<CNtfyServiceMailBase>(kTypeSmtp);
+    return [&service] { return service.AddUserWithLink("Op", "1", GUID::Generate()); };
+  });
+  const auto mci_user = [&](auto operation) {
+    return [this, operation]() -> Operation {
+      auto& service = FreshAs<CNtfyServiceMCI>(kTypeMci);
+      const GUID user = Known(service, GUID::Generate());
+      return [&service, user, operation] { return operation(service, user); };
+    };
+  };
   const std::string reread = " [Unable to reread user record just written for the service.]";
-  Expect(Lines{"Lock users fails: no" + reread, "FindFirst users fails: no" + reread,
-               "Update users fails: no [Unable to update record in the service-specific user database.]",
-               "Unlock users fails: yes; wrote Update users",
-               "goes well: yes; Lock users, FindFirst users, Update users, Unlock users"},
-         [&] {
-           auto& service = FreshAs<CNtfyServiceMCI>(kTypeMci);
-           const GUID user = Known(service, GUID::Generate());
-           return [&service, user] { return service.SetUserExtra(1, "EMS", user); };
-         });
+  Expect({"Lock users fails: no" + reread, "FindFirst users fails: no" + reread,
+          "Update users fails: no [Unable to update record in the service-specific user database.]",
+          "Unlock users fails: yes; wrote Update users"},
+         mci_user([](auto& service, auto& user) { return service.SetUserExtra(1, "EMS", user); }));
+  Expect({"FindFirst users fails: no"}, mci_user([](auto& service, auto& user) {
+           std::uint32_t enabled = 0;
+           std::string address;
+           return service.GetUserExtra(enabled, address, user);
+         }));
 }
 
-TEST_F(FaultSweep, AddingToTheListAndExtraAddresses) {
-  const std::string list_read = " [Unable to read records from the notification service database. (waiting)]";
-  const auto add_from_store = [&] {
-    Fresh(kTypeSmtp);
-    TheServices().RemoveAll();
-    const GUID id = SeedService(kTypeSmtp, "Other");
-    return [id] { return TheServices().AddFromStore(id); };
-  };
-  Expect({"FindFirst services fails: no" + list_read,
-          "Retrieve services fails: yes [Unable to read the record from the notification service database. "
-          "(waiting)]",
+TEST_F(FaultSweep, AddingToTheList) {
+  const std::string waiting = "the notification service database. (waiting)]";
+  Expect({"FindFirst services fails: no [Unable to read records from " + waiting,
+          "Retrieve services fails: yes [Unable to read the record from " + waiting,
           "Retrieve specific fails: yes [Unable to read the record from the notification service-specific "
-          "database. (waiting)]",
-          "goes well: yes; FindFirst services, Retrieve services, Retrieve specific"},
-         add_from_store);
-  Expect({"FindFirst users fails: no", "goes well: yes; FindFirst users"}, [&] {
-    auto& service = FreshAs<CNtfyServiceMCI>(kTypeMci);
-    const GUID user = Known(service, GUID::Generate());
-    return [&service, user] {
-      std::uint32_t enabled = 0;
-      std::string address;
-      return service.GetUserExtra(enabled, address, user);
-    };
-  });
+          "database. (waiting)]"},
+         [&] {
+           TheServices().RemoveAll();
+           const GUID id = SeedService(kTypeSmtp, "Other");
+           return [id] { return TheServices().AddFromStore(id); };
+         });
 }
 
 TEST_F(FaultSweep, EnablingAndDisabling) {
-  const auto enable = [](CNtfyService& service, const GUID& manager, bool on) {
-    return [&service, manager, on] {
-      EnableServiceOnManager(service.Common(), manager, on);
-      return IsServiceOnManager(service.ServiceId(), manager);
+  const auto change = [&](std::uint32_t code, bool on) {
+    return [this, code, on]() -> Operation {
+      CNtfyService& service = Fresh(code);
+      const GUID manager = GUID::Generate();
+      if (!on) EnableServiceOnManager(service.Common(), manager, true);
+      return [&service, manager, on] {
+        EnableServiceOnManager(service.Common(), manager, on);
+        return IsServiceOnManager(service.ServiceId(), manager);
+      };
     };
   };
-  const std::string add = " [Unable to add record to enabled services per manager database.]";
-  Expect(Lines{"FindFirst enabled fails: yes; wrote Add enabled", "Add enabled fails: no" + add,
-               "FindFirst enabled fails: no; wrote Add enabled",
-               "goes well: yes; FindFirst enabled, Add enabled, FindFirst enabled"},
-         [&] { return enable(Fresh(kTypeSmtp), GUID::Generate(), true); });
+  const std::string add = " [Unable to add record to enabled services per manager database.]",
+                    wrote = "; wrote Add enabled";
+  Expect({"FindFirst enabled fails: yes" + wrote, "Add enabled fails: no" + add,
+          "FindFirst enabled fails: no" + wrote},
+         change(kTypeSmtp, true));
   Expect({"FindFirst enabled fails: yes", "Delete enabled fails: yes",
-          "FindFirst enabled fails: no; wrote Delete enabled",
-          "goes well: no; FindFirst enabled, Delete enabled, FindFirst enabled"},
-         [&] {
-           CNtfyService& service = Fresh(kTypeSmtp);
-           const GUID manager = GUID::Generate();
-           EnableServiceOnManager(service.Common(), manager, true);
-           return enable(service, manager, false);
-         });
+          "FindFirst enabled fails: no; wrote Delete enabled"},
+         change(kTypeSmtp, false), "no");
   BackupManagerGuid() = GUID::Generate();
-  Expect(Lines{"FindFirst enabled fails: yes; wrote Add enabled, Add enabled",
-               "Add enabled fails: no" + add + "; wrote Add enabled",
-               "Add enabled fails: yes" + add + "; wrote Add enabled",
-               "FindFirst enabled fails: no; wrote Add enabled, Add enabled",
-               "goes well: yes; FindFirst enabled, Add enabled, Add enabled, FindFirst enabled"},
-         [&] { return enable(Fresh(kTypeNumeric), GUID::Generate(), true); });
+  Expect({"FindFirst enabled fails: yes" + wrote + ", Add enabled", "Add enabled fails: no" + add + wrote,
+          "Add enabled fails: yes" + add + wrote, "FindFirst enabled fails: no" + wrote + ", Add enabled"},
+         change(kTypeNumeric, true));
   BackupManagerGuid() = kNullGuid;
 }
 
