@@ -197,13 +197,10 @@ GUID Known(CNtfyServiceUserBase& service, const GUID& user) {
 
 /// Takes every user record from the type's store, so that a listing sees its own users alone.
 void ForgetUsers(CNtfyServiceUserBase& service) {
-  AsItsClass(service, [](auto& typed) {
-    if constexpr (requires { typed.CurrentUser(); }) {
-      using Users = typename std::remove_reference_t<decltype(typed)>::UserStoreClass;
-      auto record = typed.CurrentUser();
-      while (UserStore<Users>().DBAlertRecFindFirst(Users::kSelectors.scan, 0, nullptr, record) == kOk)
-        UserStore<Users>().DBAlertRecDelete(record.guid);
-    }
+  WithUserRecord(service, [](auto& store, auto record) {
+    while (store.DBAlertRecFindFirst(store.kSelectors.scan, 0, nullptr, record) == kOk)
+      store.DBAlertRecDelete(record.guid);
+    return "";
   });
 }
 

@@ -66,16 +66,13 @@ TEST_F(ManagersTest, ABackupManagerGetsASecondEntryForServicesWithABackupRecord)
 TEST_F(ManagersTest, TheCacheIsAsFreshAsItsLastLoad) {
   const ALRTNTFYSERV& service = Find(SeedService(kTypeSmtp, "Mail"))->Common();
   EnabledServicesCache cache;
-  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
-  EnableServiceOnManager(service, one_, true);
-  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
-  cache.Load();
-  EXPECT_TRUE(cache.Contains(service.serviceId, one_));
-  EXPECT_FALSE(cache.Contains(service.serviceId, two_));
-  EnableServiceOnManager(service, one_, false);
-  EXPECT_TRUE(cache.Contains(service.serviceId, one_));
-  cache.Load();
-  EXPECT_FALSE(cache.Contains(service.serviceId, one_));
+  for (const bool enabled : {true, false}) {
+    EnableServiceOnManager(service, one_, enabled);
+    EXPECT_EQ(cache.Contains(service.serviceId, one_), !enabled);
+    cache.Load();
+    EXPECT_EQ(cache.Contains(service.serviceId, one_), enabled);
+    EXPECT_FALSE(cache.Contains(service.serviceId, two_));
+  }
 }
 
 TEST_F(ManagersTest, FindsManagersByTheirWholeNameAndListsThem) {
@@ -99,9 +96,9 @@ TEST_F(ManagersTest, FindsManagersByTheirWholeNameAndListsThem) {
 
 TEST_F(ManagersTest, AConfigurationFileThatCannotBeWrittenIsReported) {
   WriteAlertServerConfig();
-  EXPECT_EQ(library.dbconfig.files_written, 1);
   library.dbconfig.result = 2;
   WriteAlertServerConfig();
+  EXPECT_EQ(library.dbconfig.files_written, 2);
   EXPECT_THAT(desktop.TakeMessages(),
               ElementsAre("Error writing to alert manager configuration file. (waiting)"));
 }

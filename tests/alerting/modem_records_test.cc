@@ -59,9 +59,6 @@ class ModemRecordsTest : public ServiceTest {
     EXPECT_EQ(ModemStore().DBAlertRecAdd(modem, id), kOk);
     return id;
   }
-  static CNtfyServiceUserBase& Users(CNtfyService& service) {
-    return dynamic_cast<CNtfyServiceUserBase&>(service);
-  }
   static ModemSettings Settings(const GUID& modem) { return {modem, 9600, 7, 1, 2, "dial.scr"}; }
 };
 
@@ -86,10 +83,8 @@ TEST_F(ModemRecordsTest, SettingsReachTheChosenRecordAtTheirOffsetsOnSave) {
   for (const Block& block : kBlocks) {
     for (const bool backup : {false, true}) {
       SCOPED_TRACE(::testing::Message() << block.code << (backup ? " backup" : " primary"));
-      TheServices().RemoveAll();
-      const GUID id = SeedService(block.code, "Service", kPattern);
-      CNtfyService& service = *Find(id);
-      const ALRTNTFYSERV common = StoredCommon(id);
+      CNtfyService& service = NewService(block.code, "Service", kPattern);
+      const ALRTNTFYSERV common = StoredCommon(service.ServiceId());
       const std::string primary = StoredSpecific(block.code, common.specificRecordId);
       const std::string spare = StoredSpecific(block.code, common.backupSpecificRecordId);
       ASSERT_TRUE(Users(service).SetModemSettings(Settings(modem), "Modem A", backup));
@@ -111,8 +106,7 @@ TEST_F(ModemRecordsTest, SettingsReachTheChosenRecordAtTheirOffsetsOnSave) {
 TEST_F(ModemRecordsTest, AModemIsThereOnceItWasChosen) {
   const GUID modem = AddModem();
   for (const bool backup : {false, true}) {
-    TheServices().RemoveAll();
-    CNtfyService& service = *Find(SeedService(kTypeNumeric, "Pager"));
+    CNtfyService& service = NewService(kTypeNumeric);
     EXPECT_FALSE(service.HasModem() || service.HasBackupModem());
     ASSERT_TRUE(Users(service).SetModemSettings(Settings(modem), "Modem A", backup));
     EXPECT_EQ(service.HasModem(), !backup);
@@ -134,7 +128,7 @@ TEST_F(ModemRecordsTest, ABackupThatCouldNotBeLinkedIsLinkedByTheNextSave) {
 }
 
 TEST_F(ModemRecordsTest, AnUnknownModemIsRefusedAndChangesNothing) {
-  CNtfyService& service = *Find(SeedService(kTypeNumeric, "Pager"));
+  CNtfyService& service = NewService(kTypeNumeric);
   EXPECT_FALSE(Users(service).SetModemSettings(Settings(GUID::Generate()), "gone", false));
   EXPECT_FALSE(service.HasModem());
   EXPECT_THAT(desktop.TakeMessages(),
@@ -143,29 +137,14 @@ TEST_F(ModemRecordsTest, AnUnknownModemIsRefusedAndChangesNothing) {
 }
 
 TEST_F(ModemRecordsTest, ABackupRecordThatIsGoneLeavesTheServiceWithoutOneInMemory) {
-  const GUID id = SeedService(kTypeGeneric, "Port");
-  CNtfyService& service = *Find(id);
+  CNtfyService& service = NewService(kTypeGeneric);
   const GUID backup = service.GetModemId();
   ASSERT_TRUE(Users(service).SetModemSettings(Settings(AddModem()), "Modem A", true));
   ASSERT_EQ(ServiceStore().SpecificStore<ALRTGENPORTSERVICEREC>()->DBAlertRecDelete(backup), kOk);
   EXPECT_TRUE(service.ReloadRecords());
   EXPECT_TRUE(service.GetModemId().IsNull());
   EXPECT_FALSE(service.HasBackupModem());
-  EXPECT_EQ(StoredCommon(id).backupSpecificRecordId, backup) << "until the next save";
-}
-
-TEST_F(ModemRecordsTest, ThePagerFollowsItsProvider) {
-  const GUID id = SeedService(kTypeAlpha, "Pager");
-  auto& pager = FindAs<CNtfyServiceAlpha>(id);
-  pager.SetProviderFields({"Company", "North  zone", "555-0000", 120});
-  EXPECT_EQ(pager.GetMaxMessageLength(), 120);
-  ASSERT_TRUE(pager.SaveRecords());
-  const std::string stored = StoredSpecific(kTypeAlpha, StoredCommon(id).specificRecordId);
-  EXPECT_STREQ(stored.data() + 16, "North  zone");
-  EXPECT_STREQ(stored.data() + 2326, "Company");
-  EXPECT_STREQ(stored.data() + 2391, "555-0000");
-  EXPECT_EQ(static_cast<unsigned char>(stored[2322]), 120U);
-  EXPECT_EQ(pager.GetProviderFields().phone, "555-0000");
+  EXPECT_EQ(StoredCommon(service.ServiceId()).backupSpecificRecordId, backup) << "until the next save";
 }
 
 }  // namespace

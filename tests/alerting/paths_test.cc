@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "alerting/frame/strings.h"
 #include "alerting/ui/scripts_folder.h"
 #include "alerting/ui/universal_path.h"
 #include "tests/support/service_fixture.h"
@@ -11,7 +10,7 @@ namespace {
 
 using Optional = std::optional<std::string>;
 
-class PathsTest : public test_support::ServiceTest {};
+using PathsTest = test_support::ServiceTest;
 
 TEST_F(PathsTest, APathIsBroughtAsNearToUniversalFormAsItCanBe) {
   struct Row {
@@ -38,34 +37,6 @@ TEST_F(PathsTest, APathIsBroughtAsNearToUniversalFormAsItCanBe) {
     char path[kPathSize] = "x.wav";
     EXPECT_EQ(MakeUniversalPath(path, path), row.code);
     EXPECT_EQ(path, row.path);
-  }
-}
-
-TEST_F(PathsTest, WhatBecameOfAPathIsToldOrAsked) {
-  constexpr char kRest[] =
-      "\nThe product may not operate correctly as a result.\nRefer to the implementation guide for "
-      "additional "
-      "information.";
-  const std::string tree =
-      "Console has detected that the path you entered contains the NDS tree.\nIt is recommended that you "
-      "enter "
-      "the UNC path or map the drive directly not through the NDS tree.\nRefer to the implementation guide "
-      "for "
-      "additional information.";
-  const std::string not_universal =
-      std::string("Unable to create a UNC universal pathname to the file you selected.") + kRest;
-  const std::string invalid = std::string("Path is invalid.") + kRest;
-  const platform::ModuleScope scope(TheModule());
-  ShowPathWarning(kPathDone);
-  EXPECT_TRUE(ConfirmPathWarning(kPathDone));
-  for (const auto& [code, text] : {std::pair<int, std::string>{kPathInTree, tree},
-                                   {kPathNotUniversal, not_universal},
-                                   {kPathInvalid, invalid},
-                                   {9, invalid}}) {
-    ShowPathWarning(code);
-    EXPECT_FALSE(ConfirmPathWarning(code));
-    EXPECT_EQ(desktop.TakeMessages(),
-              (std::vector<std::string>{text, text + "\nDo you wish to use the non-UNC path anyway?"}));
   }
 }
 

@@ -20,8 +20,6 @@ constexpr char kFileWarning[] =
 
 class ResponsesTest : public ServiceTest {
  protected:
-  CNtfyService& Make(std::uint32_t code) { return *Find(SeedService(code, "Service")); }
-
   /// A response full of something else, every byte of it.
   static ALERTRESPREC Full(std::uint32_t record_type) {
     ALERTRESPREC response;
@@ -43,16 +41,13 @@ TEST_F(ResponsesTest, DefaultMessagesFillWhatTheTypeOwns) {
   message.priority = 1;
   for (const std::uint32_t code : ConfiguredTypes()) {
     SCOPED_TRACE(code);
-    TheServices().RemoveAll();
-    CNtfyService& service = Make(code);
+    CNtfyService& service = NewService(code);
     ASSERT_TRUE(service.SetDefaultMessage(message));
-    const ALERTRESPREC before = Full(1);
-    ALERTRESPREC response = before;
+    ALERTRESPREC response = Full(1), expected = response;
     ASSERT_TRUE(service.InitWithDefaultMessage(response));
     const bool mail = service.Type().code <= kTypeVim && code != kTypeSnmp;
     const bool file = code == kTypeWave || code == kTypeProgram;
     const bool subject = mail || code == kTypeSnmp;
-    ALERTRESPREC expected = before;
     if (!file) {
       expected.message.Assign("%s!");
       std::memset(expected.messageKeywords, 0, 20);
@@ -64,12 +59,12 @@ TEST_F(ResponsesTest, DefaultMessagesFillWhatTheTypeOwns) {
       expected.subjectKeywords[0] = 8;
     }
     if (mail) expected.priority = 1;
-    EXPECT_EQ(std::memcmp(&response, &expected, sizeof(response)), 0);
+    EXPECT_EQ(BytesOf(response), BytesOf(expected));
   }
 }
 
 TEST_F(ResponsesTest, AnEmptyDefaultMessageClearsAndWideIdentifiersKeepTheirLowByte) {
-  CNtfyService& service = Make(kTypeSmtp);
+  CNtfyService& service = NewService(kTypeSmtp);
   ALERTRESPREC response = Full(1);
   ASSERT_TRUE(service.InitWithDefaultMessage(response));
   EXPECT_TRUE(response.message.Empty());
@@ -86,7 +81,7 @@ TEST_F(ResponsesTest, AnEmptyDefaultMessageClearsAndWideIdentifiersKeepTheirLowB
 }
 
 TEST_F(ResponsesTest, RetargetingTakesOverTheServiceOnce) {
-  CNtfyService& service = Make(kTypeSmtp);
+  CNtfyService& service = NewService(kTypeSmtp);
   ALERTRESPREC response = Full(1);
   ASSERT_TRUE(service.ReinitializeResponse(response));
   EXPECT_EQ(response.serviceRecordType, 5U);
@@ -102,7 +97,7 @@ TEST_F(ResponsesTest, RetargetingTakesOverTheServiceOnce) {
   response.message.Assign("typed since");
   const ALERTRESPREC before = response;
   EXPECT_FALSE(service.ReinitializeResponse(response));
-  EXPECT_EQ(std::memcmp(&response, &before, sizeof(response)), 0);
+  EXPECT_EQ(BytesOf(response), BytesOf(before));
 }
 
 TEST_F(ResponsesTest, MovingFromWaveToProgramKeepsTheFileAndMovingToMailClearsIt) {
@@ -121,7 +116,7 @@ TEST_F(ResponsesTest, MovingFromWaveToProgramKeepsTheFileAndMovingToMailClearsIt
 }
 
 TEST_F(ResponsesTest, ANumericPagerEmptiesTheMessageInEveryCase) {
-  CNtfyService& pager = Make(kTypeNumeric);
+  CNtfyService& pager = NewService(kTypeNumeric);
   ALERTRESPREC response = Full(RecordTypeOf(kTypeNumeric));
   EXPECT_FALSE(pager.ReinitializeResponse(response));
   EXPECT_TRUE(response.message.Empty());
@@ -129,24 +124,20 @@ TEST_F(ResponsesTest, ANumericPagerEmptiesTheMessageInEveryCase) {
 }
 
 TEST_F(ResponsesTest, ValidationAsksForTheMessageOrTheFile) {
-  const struct {
-    std::uint32_t code;
-    const char* text;
-  } cases[] = {
+  const std::pair<std::uint32_t, const char*> rows[] = {
       {kTypeSmtp, "No message in response.  Please enter a message using the message tab."},
       {kTypeNumeric, "No message in response.  Please enter a message using the message tab."},
       {kTypeWave, "No wave filename in response.  Please enter a filename using the file tab."},
       {kTypeProgram, "No program filename in response.  Please enter a filename using the program tab."},
   };
-  for (const auto& row : cases) {
-    SCOPED_TRACE(row.code);
-    TheServices().RemoveAll();
-    CNtfyService& service = Make(row.code);
+  for (const auto& [code, text] : rows) {
+    SCOPED_TRACE(code);
+    CNtfyService& service = NewService(code);
     ALERTRESPREC response{};
-    const bool file = row.code == kTypeWave || row.code == kTypeProgram;
+    const bool file = code == kTypeWave || code == kTypeProgram;
     (file ? response.message.Assign("m") : response.subject.Assign("s"));
     EXPECT_FALSE(service.ValidateResponse(response));
-    EXPECT_THAT(desktop.TakeMessages(), ElementsAre(row.text));
+    EXPECT_THAT(desktop.TakeMessages(), ElementsAre(text));
     (file ? response.subject.Assign("s") : response.message.Assign("m"));
     EXPECT_TRUE(service.ValidateResponse(response));
   }

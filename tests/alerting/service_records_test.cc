@@ -94,17 +94,15 @@ void Edit(CNtfyService& service) {
   EXPECT_TRUE(AsItsClass(service, [&](auto& typed) { return typed.SetGeneralFields(fields); }));
 }
 
-std::string WithoutIdentity(const std::string& record) { return record.substr(16); }
-
-class ServiceRecordsTest : public ServiceTest {};
+using ServiceRecordsTest = ServiceTest;
 
 TEST_F(ServiceRecordsTest, ASaveWritesItsFieldsAtTheirOffsetsAndNothingElse) {
   for (const Layout& layout : kLayouts) {
     SCOPED_TRACE(layout.code);
-    TheServices().RemoveAll();
     const GUID id = SeedService(layout.code, "Service", kPattern);
     const ALRTNTFYSERV before = StoredCommon(id);
     const std::string specific_before = StoredSpecific(layout.code, before.specificRecordId);
+    TheServices().RemoveAll();
     CNtfyService& service = *Find(id);
     Edit(service);
     EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), specific_before)
@@ -113,22 +111,18 @@ TEST_F(ServiceRecordsTest, ASaveWritesItsFieldsAtTheirOffsetsAndNothingElse) {
 
     EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), Expected(layout, specific_before));
     ALRTNTFYSERV expected = before;
-    expected.enabled = 0;
-    expected.virgin = 0;
+    expected.enabled = expected.virgin = 0;
     expected.backupSpecificRecordId = service.Common().backupSpecificRecordId;
-    const ALRTNTFYSERV after = StoredCommon(id);
-    EXPECT_EQ(std::memcmp(&after, &expected, sizeof(after)), 0);
-    EXPECT_EQ(after.backupSpecificRecordId.IsNull(), !service.IsModemService());
+    EXPECT_EQ(BytesOf(StoredCommon(id)), BytesOf(expected));
+    EXPECT_EQ(expected.backupSpecificRecordId.IsNull(), !service.IsModemService());
   }
 }
 
 TEST_F(ServiceRecordsTest, ACopyCarriesTheUnsavedEditsUnderNewIdentities) {
   for (const Layout& layout : kLayouts) {
     SCOPED_TRACE(layout.code);
-    TheServices().RemoveAll();
-    const GUID id = SeedService(layout.code, "Service", kPattern);
-    const std::string source = StoredSpecific(layout.code, StoredCommon(id).specificRecordId);
-    CNtfyService& service = *Find(id);
+    CNtfyService& service = NewService(layout.code, "Service", kPattern);
+    const std::string source = StoredSpecific(layout.code, service.Common().specificRecordId);
     Edit(service);
     GUID copy_id{};
     ASSERT_TRUE(service.MakeCopy("A name of more than thirty-two characters", copy_id));
@@ -138,15 +132,15 @@ TEST_F(ServiceRecordsTest, ACopyCarriesTheUnsavedEditsUnderNewIdentities) {
     EXPECT_EQ(copy.enabled, 1U);
     EXPECT_EQ(copy.virgin, 1U);
     EXPECT_NE(copy.specificRecordId, service.Common().specificRecordId);
-    EXPECT_EQ(WithoutIdentity(StoredSpecific(layout.code, copy.specificRecordId)),
-              WithoutIdentity(Expected(layout, source)));
+    EXPECT_EQ(StoredSpecific(layout.code, copy.specificRecordId).substr(16),
+              Expected(layout, source).substr(16));
     ALRTNTFYSERV expected = service.Common();
     expected.serviceId = copy.serviceId;
     expected.specificRecordId = copy.specificRecordId;
     expected.backupSpecificRecordId = copy.backupSpecificRecordId;
     expected.name = copy.name;
     expected.enabled = expected.virgin = 1;
-    EXPECT_EQ(std::memcmp(&copy, &expected, sizeof(copy)), 0);
+    EXPECT_EQ(BytesOf(copy), BytesOf(expected));
     if (!service.IsModemService()) continue;
     EXPECT_NE(copy.backupSpecificRecordId, service.Common().backupSpecificRecordId);
     EXPECT_FALSE(copy.backupSpecificRecordId.IsNull());
@@ -164,8 +158,7 @@ TEST_F(ServiceRecordsTest, ProgramLaunchSavesAndCopiesItsCommonRecordAlone) {
   service.SetEnabled(0);
   ASSERT_TRUE(service.SaveRecords());
   expected.enabled = expected.virgin = 0;
-  const ALRTNTFYSERV after = StoredCommon(id);
-  EXPECT_EQ(std::memcmp(&after, &expected, sizeof(after)), 0);
+  EXPECT_EQ(BytesOf(StoredCommon(id)), BytesOf(expected));
 
   GUID copy{};
   service.Common().specificRecordId = GUID::Generate();
@@ -176,7 +169,7 @@ TEST_F(ServiceRecordsTest, ProgramLaunchSavesAndCopiesItsCommonRecordAlone) {
 }
 
 TEST_F(ServiceRecordsTest, PasswordsThatDifferAreRefusedAndTheEnabledFlagDefaultsToOn) {
-  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp);
   GeneralFields fields;
   fields.smtpServer = "mail.example.org";
   fields.password = "one";
@@ -198,7 +191,7 @@ TEST_F(ServiceRecordsTest, PasswordsThatDifferAreRefusedAndTheEnabledFlagDefault
 }
 
 TEST_F(ServiceRecordsTest, TextsTooLongForTheirFieldsAreCutInStepWithTheirKeywords) {
-  auto& service = FindAs<CNtfyServiceCIS>(SeedService(kTypeCompuServe, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceCIS>(kTypeCompuServe);
   DefaultMessage message;
   message.subject = std::string(37, 'x') + "%s%s";  // the second placeholder would end in byte 41
   message.subjectKeywords = {1, 2};
@@ -234,18 +227,14 @@ TEST_F(ServiceRecordsTest, AReloadRefusesAServiceOfAnotherTypeOrNone) {
 }
 
 TEST_F(ServiceRecordsTest, AMissingSpecificStoreFailsTheLoadOfEveryTypeButSnmpWithItsMessage) {
-  SeedService(kTypeSmtp, "Mail");
-  SeedService(kTypeSnmp, "Traps");
-  SeedService(kTypeNumeric, "Pager");
+  for (const std::uint32_t code : {kTypeSmtp, kTypeSnmp, kTypeNumeric}) SeedService(code, "Service");
   ServiceStore().DropSpecificStore<ALRTSMTPSERVICEREC>();
   ServiceStore().DropSpecificStore<ALRTSNMPSERVICEREC>();
   ServiceStore().DropSpecificStore<ALRTNPAGESERVICEREC>();
   EXPECT_TRUE(TheServices().Read());
-  EXPECT_THAT(
-      desktop.TakeMessages(),
-      ElementsAre(
-          "The reference to a service specific database object is invalid.  Record not read. (waiting)",
-          "The reference to a service specific database object is invalid.  Record not read. (waiting)"));
+  const char* text =
+      "The reference to a service specific database object is invalid.  Record not read. (waiting)";
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre(text, text));
   for (int i = 0; i < 3; ++i) EXPECT_FALSE(TheServices().GetAt(i)->SaveRecords());
   EXPECT_EQ(desktop.TakeMessages().size(), 3U);
 }

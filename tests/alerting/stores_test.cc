@@ -29,29 +29,22 @@ Files OfTheEighteen(Files files) {
   return files;
 }
 
-class StoreSetTest : public ServiceTest {
- protected:
-  static int Created() {
-    int created = 0;
-    TheStores().ForEach([&created](const auto& store) {
-      created += store != nullptr;
-      return true;
-    });
-    return created;
-  }
-  static int Opened() {
-    int opened = 0;
-    TheStores().ForEach([&opened](const auto& store) {
-      opened += store != nullptr && store->IsOpen();
-      return true;
-    });
-    return opened;
-  }
-};
+using StoreSetTest = ServiceTest;
+
+/// How many stores there are, and how many of them are open.
+std::pair<int, int> Counts() {
+  int created = 0, opened = 0;
+  TheStores().ForEach([&](const auto& store) {
+    created += store != nullptr;
+    opened += store != nullptr && store->IsOpen();
+    return true;
+  });
+  return {created, opened};
+}
 
 TEST_F(StoreSetTest, OpensTheEighteenStoresOnceAndDestroysThemInTheSameOrder) {
   EXPECT_EQ(TheApp().OpenStores(), 0U);
-  EXPECT_EQ(Opened(), 18);
+  EXPECT_EQ(Counts(), std::pair(18, 18));
   EXPECT_TRUE(TheApp().StoresOpen());
   Files opened;
   for (const StoreCall& call : library.engine->Calls()) opened.push_back(call.store);
@@ -68,11 +61,10 @@ TEST_F(StoreSetTest, StopsAtTheFirstStoreThatDoesNotOpen) {
     SCOPED_TRACE(broken);
     library.engine->FailNth("", StoreOp::kOpen, broken);
     EXPECT_EQ(TheApp().OpenStores(), 131274U);
-    EXPECT_EQ(Created(), 18) << "those behind it are created but not opened";
-    EXPECT_EQ(Opened(), broken - 1);
+    EXPECT_EQ(Counts(), std::pair(18, broken - 1)) << "those behind it are created but not opened";
     EXPECT_FALSE(TheApp().StoresOpen());
     TheApp().CloseStores();
-    EXPECT_EQ(Created(), 0);
+    EXPECT_EQ(Counts(), std::pair(0, 0));
   }
 }
 
@@ -81,7 +73,7 @@ TEST_F(StoreSetTest, ClosingWaitsForTheConversionAndEmptiesTheList) {
   ASSERT_TRUE(TheServices().Read());
   library.dbconfig.polls_until_complete = 3;
   desktop.when_sleeping = [] {
-    EXPECT_EQ(Created(), 0);
+    EXPECT_EQ(Counts(), std::pair(0, 0));
     EXPECT_EQ(TheServices().GetCount(), 1) << "emptied after the wait";
   };
   TheApp().CloseStores();

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include "alerting/services/service_ui.h"
-#include "platform/ui/modal.h"
 #include "tests/support/service_fixture.h"
 
 namespace {
@@ -56,22 +54,14 @@ TEST(ServiceTypeRegistry, MapsStoredValuesAndOffersThirteenNames) {
   EXPECT_STREQ(GetServiceTypeName(4), " ");
 }
 
-class TypeSweep : public ServiceTest {
- protected:
-  CNtfyService& Make(std::uint32_t code) {
-    const GUID id = SeedService(code, "Service");
-    CNtfyService& service = *Find(id);
-    if (code == kTypeAlpha)
-      static_cast<ALRTAPAGESERVICEREC*>(service.GetSpecificRecord())->maxTextLength = 77;
-    return service;
-  }
-};
+using TypeSweep = ServiceTest;
 
 TEST_F(TypeSweep, EveryTypeGivesItsAnswersAndLimits) {
   for (const Expected& type : kExpected) {
     SCOPED_TRACE(type.name);
-    TheServices().RemoveAll();
-    CNtfyService& service = Make(type.code);
+    CNtfyService& service = NewService(type.code);
+    if (type.code == kTypeAlpha)
+      static_cast<ALRTAPAGESERVICEREC*>(service.GetSpecificRecord())->maxTextLength = 77;
     EXPECT_EQ(service.Code(), type.code);
     EXPECT_EQ(service.IsUserService(), type.user);
     EXPECT_EQ(service.IsDeviceService(), type.device);
@@ -97,47 +87,6 @@ TEST_F(TypeSweep, EveryTypeGivesItsAnswersAndLimits) {
       EXPECT_EQ(service.FillPriorityList(dialog.combo, current), mail);
       EXPECT_EQ(dialog.combo.Text(), mail ? shown : "");
     }
-  }
-}
-
-TEST_F(TypeSweep, DefaultMessagesKeepWhatTheTypeTakes) {
-  DefaultMessage given;
-  given.body = "%s: %s";
-  given.subject = "About %s";
-  given.priority = 1;
-  given.bodyKeywords = {1, 12};
-  given.subjectKeywords = {8};
-  for (const Expected& type : kExpected) {
-    SCOPED_TRACE(type.name);
-    TheServices().RemoveAll();
-    CNtfyService& service = Make(type.code);
-    EXPECT_TRUE(service.SetDefaultMessage(given));
-    DefaultMessage taken;
-    EXPECT_TRUE(service.GetDefaultMessage(taken));
-    const bool none = type.code == kTypeWave || type.code == kTypeProgram;
-    const bool body_only = type.code == kTypeTts || type.code >= kTypeAlpha;
-    EXPECT_EQ(taken.body, none ? "" : given.body);
-    EXPECT_EQ(taken.bodyKeywords, none ? KeywordIds{} : given.bodyKeywords);
-    EXPECT_EQ(taken.subject, none || body_only ? "" : given.subject);
-    EXPECT_EQ(taken.subjectKeywords, none || body_only ? KeywordIds{} : given.subjectKeywords);
-    EXPECT_EQ(taken.priority, none || body_only ? 0U : given.priority);
-  }
-}
-
-TEST_F(TypeSweep, WindowsThatATypeDoesNotHaveAreNullZeroOrCancelled) {
-  for (const std::uint32_t code : ConfiguredTypes()) {
-    SCOPED_TRACE(GetServiceTypeName(code));
-    TheServices().RemoveAll();
-    CNtfyService& service = Make(code);
-    ALERTRESPREC response{};
-    std::string name;
-    GUID user{};
-    EXPECT_NE(ServiceUiOf(code).property_sheet, nullptr) << "every type has one";
-    EXPECT_EQ(service.CreateResponsePanel(0, &response, 0), nullptr);
-    EXPECT_EQ(service.CreateAddUserPanel(0, user, 0), nullptr);
-    EXPECT_FALSE(service.SelectUser(nullptr, name, user));
-    EXPECT_FALSE(service.TestDialog(user, nullptr));
-    EXPECT_FALSE(service.SendTestAlert(user, "test", nullptr, 0, nullptr));
   }
 }
 

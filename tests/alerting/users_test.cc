@@ -28,15 +28,7 @@ class UsersTest : public ServiceTest {
  protected:
   /// The type's current user record as bytes.
   static std::string CurrentUser(CNtfyService& service) {
-    return AsItsClass(service, [](auto& typed) -> std::string {
-      if constexpr (requires { typed.CurrentUser(); })
-        return {reinterpret_cast<const char*>(&typed.CurrentUser()), sizeof(typed.CurrentUser())};
-      else
-        return {};
-    });
-  }
-  static CNtfyServiceUserBase& Users(CNtfyService& service) {
-    return dynamic_cast<CNtfyServiceUserBase&>(service);
+    return WithUserRecord(service, [](auto&, auto& record) { return BytesOf(record); });
   }
   static auto Links(const GUID& user) { return RecordsOf(UserLinkStore(), kLinkByUser, &user); }
 };
@@ -44,10 +36,9 @@ class UsersTest : public ServiceTest {
 TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
   for (const UserLayout& layout : kUserLayouts) {
     SCOPED_TRACE(layout.code);
-    TheServices().RemoveAll();
     const GUID user = MakeUser("Operator");
-    const GUID id = SeedService(layout.code, "A service");
-    CNtfyService& service = *Find(id);
+    CNtfyService& service = NewService(layout.code, "A service");
+    const GUID id = service.ServiceId();
     EXPECT_FALSE(service.IsUserConfigured(user));
     ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-1", 1}));
 
@@ -69,19 +60,13 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
     ASSERT_EQ(UserLinkStore().DBAlertRecUpdate(link), kOk);
 
     // The bytes that are not its own are carried through an update.
-    std::string expected = AsItsClass(service, [](auto& typed) -> std::string {
-      if constexpr (requires { typed.CurrentUser(); }) {
-        auto record = typed.CurrentUser();
-        const GUID id = record.guid, user_id = record.userId;
-        std::memset(&record, 0x5A, sizeof(record));
-        record.guid = id;
-        record.userId = user_id;
-        using Store = typename std::remove_reference_t<decltype(typed)>::UserStoreClass;
-        EXPECT_EQ(UserStore<Store>().DBAlertRecUpdate(record), kOk);
-        return {reinterpret_cast<const char*>(&record), sizeof(record)};
-      } else {
-        return {};
-      }
+    std::string expected = WithUserRecord(service, [&](auto& store, auto changed) {
+      const GUID guid = changed.guid;
+      std::memset(&changed, 0x5A, sizeof(changed));
+      changed.guid = guid;
+      changed.userId = user;
+      EXPECT_EQ(store.DBAlertRecUpdate(changed), kOk);
+      return BytesOf(changed);
     });
     ASSERT_TRUE(Users(service).SaveUserEntry(user, {"Op", "555-2", 0}));
     ASSERT_EQ(Links(user).size(), 1U);
@@ -106,7 +91,7 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
 }
 
 TEST_F(UsersTest, AListHoldsTenThousandUsers) {
-  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp, "Mail");
   for (int i = 0; i < 10'005; ++i)
     ASSERT_TRUE(service.AddUserWithLink("User " + std::to_string(i), "a", GUID::Generate()));
   ListDialog dialog;
@@ -116,7 +101,7 @@ TEST_F(UsersTest, AListHoldsTenThousandUsers) {
 
 TEST_F(UsersTest, AUserWithoutAnEntryHasTheConsolesNameAndIsEnabled) {
   const GUID user = MakeUser("Operator One");
-  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp, "Mail");
   UserEntry entry{"", "as it was", 0};
   EXPECT_TRUE(service.GetUserEntry(user, entry));
   EXPECT_EQ(entry.name, "Operator One");
@@ -130,10 +115,8 @@ TEST_F(UsersTest, AUserWithoutAnEntryHasTheConsolesNameAndIsEnabled) {
 
 TEST_F(UsersTest, ALinkToAnotherServiceOfTheTypeIsNoLinkToThisOne) {
   const GUID user = MakeUser("Operator");
-  auto& first = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "First"));
-  ASSERT_TRUE(first.SaveUserEntry(user, {"Op", "op@example.org", 1}));
-  TheServices().RemoveAll();
-  auto& second = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Second"));
+  ASSERT_TRUE(Users(NewService(kTypeSmtp)).SaveUserEntry(user, {"Op", "op@example.org", 1}));
+  auto& second = Users(NewService(kTypeSmtp));
   EXPECT_FALSE(second.IsUserConfigured(user));
   EXPECT_FALSE(second.DeleteUser(user));
   std::string address;
@@ -144,7 +127,7 @@ TEST_F(UsersTest, ALinkToAnotherServiceOfTheTypeIsNoLinkToThisOne) {
 
 TEST_F(UsersTest, DeletingTakesRecordAndLinkButLeavesARecordWithoutALink) {
   const GUID user = MakeUser("Operator");
-  auto& service = FindAs<CNtfyServiceNum>(SeedService(kTypeNumeric, "Pager"));
+  auto& service = NewServiceAs<CNtfyServiceNum>(kTypeNumeric, "Pager");
   ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "555-1", 1}));
   ASSERT_TRUE(service.DeleteUserLink(user));
   EXPECT_FALSE(service.DeleteUser(user));
@@ -160,11 +143,11 @@ TEST_F(UsersTest, DeletingTakesRecordAndLinkButLeavesARecordWithoutALink) {
 
 TEST_F(UsersTest, OneCallAddsAMailUserWithItsLink) {
   const GUID user = MakeUser("Operator");
-  auto& service = FindAs<CNtfyServiceMHS>(SeedService(kTypeMhs, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceMHS>(kTypeMhs, "Mail");
   ASSERT_TRUE(service.AddUserWithLink("Op", "op@site", user));
   UserEntry entry;
   EXPECT_TRUE(service.GetUserEntry(user, entry));
-  EXPECT_EQ(entry.address, "op@site");
+  EXPECT_EQ(entry.name + entry.address, "Opop@site");
   EXPECT_EQ(entry.enabled, 1U);
   ASSERT_EQ(Links(user).size(), 1U);
   EXPECT_EQ(Links(user)[0].serviceName.View(), "Mail");
@@ -172,7 +155,7 @@ TEST_F(UsersTest, OneCallAddsAMailUserWithItsLink) {
 
 TEST_F(UsersTest, MciKeepsTheOtherMailSystemOfAUser) {
   const GUID user = MakeUser("Operator");
-  auto& service = FindAs<CNtfyServiceMCI>(SeedService(kTypeMci, "MCI"));
+  auto& service = NewServiceAs<CNtfyServiceMCI>(kTypeMci, "MCI");
   std::uint32_t enabled = 7;
   std::string address = "kept";
   EXPECT_FALSE(service.GetUserExtra(enabled, address, user));
@@ -190,14 +173,12 @@ TEST_F(UsersTest, MciKeepsTheOtherMailSystemOfAUser) {
 }
 
 TEST_F(UsersTest, ListsTheUsersOfThisServiceWithTheirIdentities) {
-  auto& other = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Other"));
+  auto& other = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp, "Other");
   ListDialog dialog;
   EXPECT_FALSE(other.FillUserList(dialog.list));
   const GUID ann = MakeUser("Ann"), bob = MakeUser("Bob"), eve = MakeUser("Eve");
   ASSERT_TRUE(other.SaveUserEntry(eve, {"Eve", "e", 1}));
-  const GUID other_id = other.ServiceId();
-  TheServices().RemoveAll();
-  auto& service = FindAs<CNtfyServiceSMTP>(SeedService(kTypeSmtp, "Mail"));
+  auto& service = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp, "Mail");
   EXPECT_FALSE(service.FillUserList(dialog.list)) << "the store has users, but none of this service";
   ASSERT_TRUE(service.SaveUserEntry(bob, {"Bob", "b", 1}));
   ASSERT_TRUE(service.SaveUserEntry(ann, {"Ann", "a", 1}));
@@ -206,7 +187,6 @@ TEST_F(UsersTest, ListsTheUsersOfThisServiceWithTheirIdentities) {
   EXPECT_EQ(dialog.list.ItemText(0), "Ann");
   EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(0)), ann);
   EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(1)), bob);
-  EXPECT_NE(Find(other_id), nullptr);
   EXPECT_THAT(desktop.TakeMessages(), ElementsAre("No records in the user installed services database.",
                                                   "No records in the user installed services database."));
 }
@@ -214,9 +194,8 @@ TEST_F(UsersTest, ListsTheUsersOfThisServiceWithTheirIdentities) {
 TEST_F(UsersTest, TypesWithoutUsersAnswerForNone) {
   for (const std::uint32_t code : {1U, 7U, 8U, 12U, 13U}) {
     SCOPED_TRACE(code);
-    TheServices().RemoveAll();
     const GUID user = MakeUser("Operator");
-    CNtfyService& service = *Find(SeedService(code, "Service"));
+    CNtfyService& service = NewService(code);
     ListDialog dialog;
     EXPECT_FALSE(service.DeleteUser(user));
     EXPECT_TRUE(service.FillUserList(dialog.list));

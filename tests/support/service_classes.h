@@ -28,4 +28,16 @@ auto AsItsClass(alerting::CNtfyService& service, Visit&& visit) {
       PlaceOf(service.Type().code), [&]<class Service>() { return visit(dynamic_cast<Service&>(service)); });
 }
 
+/// What `visit` answers to the store of the type's user records and the current one of them; "" for a type without.
+template <class Visit>
+std::string WithUserRecord(alerting::CNtfyService& service, Visit visit) {
+  return AsItsClass(service, [&](auto& typed) -> std::string {
+    if constexpr (requires { typed.CurrentUser(); })
+      return visit(alerting::UserStore<typename std::remove_reference_t<decltype(typed)>::UserStoreClass>(),
+                   typed.CurrentUser());
+    else
+      return {};
+  });
+}
+
 }  // namespace test_support

@@ -113,7 +113,7 @@ std::string StoredSpecific(std::uint32_t code, const GUID& record_id) {
     Record record{};
     record.guid = record_id;
     EXPECT_EQ(alerting::ServiceStore().SpecificStore<Record>()->DBAlertRecRetrieve(record_id, record), kOk);
-    return std::string(reinterpret_cast<const char*>(&record), sizeof(record));
+    return BytesOf(record);
   });
 }
 
@@ -129,6 +129,11 @@ alerting::CNtfyService* Find(const GUID& service) {
   EXPECT_TRUE(alerting::TheServices().Read());
   const std::optional<int> index = alerting::TheServices().FindById(service);
   return index ? alerting::TheServices().GetAt(*index) : nullptr;
+}
+
+alerting::CNtfyService& NewService(std::uint32_t code, std::string_view name, std::uint8_t pattern) {
+  alerting::TheServices().RemoveAll();
+  return *Find(SeedService(code, name, pattern));
 }
 
 GUID MakeUser(std::string_view name) {

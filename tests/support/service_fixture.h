@@ -169,6 +169,23 @@ Service& FindAs(const platform::GUID& service) {
   return dynamic_cast<Service&>(*Find(service));
 }
 
+/// A new service, in a list that is read anew.
+alerting::CNtfyService& NewService(std::uint32_t code, std::string_view name = "Service",
+                                   std::uint8_t pattern = 0);
+template <class Service>
+Service& NewServiceAs(std::uint32_t code, std::string_view name = "Service") {
+  return dynamic_cast<Service&>(NewService(code, name));
+}
+
+inline alerting::CNtfyServiceUserBase& Users(alerting::CNtfyService& service) {
+  return dynamic_cast<alerting::CNtfyServiceUserBase&>(service);
+}
+
+template <class Record>
+std::string BytesOf(const Record& record) {
+  return {reinterpret_cast<const char*>(&record), sizeof(record)};
+}
+
 /// Adds a console user.
 platform::GUID MakeUser(std::string_view name);
 
