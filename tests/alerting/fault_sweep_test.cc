@@ -3,13 +3,11 @@
 // answer, the messages and what had been written by the end, so that the lines name the calls in their order; the
 // last line is the answer when all goes well. No lock may be left on any way out.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <functional>
 
 #include "alerting/managers/enabled_services.h"
 #include "tests/support/service_classes.h"
-#include "tests/support/service_fixture.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 #include "alerting/responses/keywords.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>

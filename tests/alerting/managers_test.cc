@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Alert managers, and the services enabled on them.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "alerting/managers/alert_managers.h"
 #include "alerting/managers/config_file.h"

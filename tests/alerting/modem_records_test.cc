@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The dial-out types: backup records and modem settings.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/support/service_classes.h"
-#include "tests/support/service_fixture.h"
 
 namespace {
 

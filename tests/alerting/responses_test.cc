@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 // How services fill, re-target and check responses.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/support/service_classes.h"
-#include "tests/support/service_fixture.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 #include "alerting/services/service_list.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/support/service_fixture.h"
 

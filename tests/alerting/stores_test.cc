@@ -3,7 +3,6 @@
 #include "alerting/frame/stores.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Users' entries on services: links, user records, lists.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "alerting/services/user_list.h"
 #include "tests/support/service_classes.h"
-#include "tests/support/service_fixture.h"
 
 namespace {
 

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "companions/dbconfig/dbconfig.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/file.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <nlohmann/json.hpp>
@@ -14,6 +11,7 @@
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
 #include "platform/base/paths.h"
+#include "platform/base/process_lock.h"
 #include "tests/companions/json_schema.h"
 #include "tests/companions/store_fixture.h"
 #include "tests/support/failing_engine.h"
@@ -273,8 +271,8 @@ TEST_F(DbConfigTest, AnyStoreThatCannotBeReadFailsTheWriteAndKeepsTheFile) {
     const std::uint32_t status = Write();
     if (engine->Failures() == 0) break;
     ++failed;
-    EXPECT_EQ(status, dbconfig::kStoresUnreadable) << engine->Calls().back().Text();
-    EXPECT_EQ(Bytes(), before) << engine->Calls().back().Text();
+    EXPECT_EQ(status, dbconfig::kStoresUnreadable) << n;
+    EXPECT_EQ(Bytes(), before) << n;
     engine->Forget();
   }
   EXPECT_GT(failed, 60);  // 29 stores are opened and read, and one read transaction begun
@@ -292,8 +290,7 @@ TEST_F(DbConfigTest, WithoutTheLockOrThePlaceNothingIsWritten) {
 }
 
 TEST_F(DbConfigTest, AWriteWaitsForAnotherConsoleAndIsUnderWayMeanwhile) {
-  const int other_console = open((Path() + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  ASSERT_EQ(flock(other_console, LOCK_EX), 0);
+  auto other_console = std::make_unique<platform::ProcessLock>(Path() + ".lock", std::chrono::seconds(1));
   const auto component = dbconfig::MakeDbConfig();
   std::uint32_t status = 99;
   std::thread writer([&] { status = component->CreateAlertServerConfigFile(0); });
@@ -301,7 +298,7 @@ TEST_F(DbConfigTest, AWriteWaitsForAnotherConsoleAndIsUnderWayMeanwhile) {
   std::this_thread::sleep_for(std::chrono::milliseconds(100));
   EXPECT_EQ(component->IsConversionComplete(), 0u);
   EXPECT_FALSE(std::filesystem::exists(Path()));
-  close(other_console);
+  other_console.reset();
   writer.join();
   EXPECT_EQ(status, 0u);
   EXPECT_EQ(component->IsConversionComplete(), 1u);

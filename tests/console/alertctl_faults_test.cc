@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Sites, arguments and surroundings that are not as they should be.
-#include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include "companions/alertstore/console_users.h"
 #include "tests/console/alertctl_fixture.h"
+#include "tests/support/raw_database.h"
 
 using namespace alertstore;
 using nlohmann::json;
@@ -16,15 +16,6 @@ using testing::IsEmpty;
 using testing::Not;
 
 namespace {
-
-/// Changes the database behind the program's back.
-void Sql(const std::string& statement) {
-  sqlite3* connection = nullptr;
-  ASSERT_EQ(sqlite3_open((platform::DataDirectory() + "/alerting.db").c_str(), &connection), SQLITE_OK);
-  EXPECT_EQ(sqlite3_exec(connection, statement.c_str(), nullptr, nullptr, nullptr), SQLITE_OK)
-      << sqlite3_errmsg(connection);
-  sqlite3_close(connection);
-}
 
 void WriteFile(const std::string& path, const std::string& bytes) {
   ASSERT_TRUE(platform::WriteFileAtomically(path, bytes, 0600));
@@ -50,8 +41,7 @@ TEST_F(AlertctlTest, OnlyVerbsThatAddMakeADataDirectory) {
   }
 }
 
-TEST_F(AlertctlSiteTest, TextsThatNobodyCouldReadAreRefusedAndNeverEchoed) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, TextsThatNobodyCouldReadAreRefusedAndNeverEchoed) {
   for (const char* text : {"\x1B[31mred", "two\nlines", "broken \xFF byte", "\x7F", "csi \xC2\x9B", "   "}) {
     for (const Arguments& verb : {Arguments{"user", "add", text},
                                   {"service", "copy", "Internet Mail", text},
@@ -87,24 +77,23 @@ TEST_F(AlertctlSiteTest, AServiceWithoutItsRecordIsNotCopiedAndDisturbsNoOther) 
 }
 
 TEST_F(AlertctlSiteTest, ManagersOfOneNameAreToldApartByIdentity) {
-  CAlert_SRV_CFGDB managers;
-  ALRT_SRV_CFGREC twin = Find(managers, Any);
+  Opened<CAlert_SRV_CFGDB> managers;
+  ALRT_SRV_CFGREC twin = managers.First();
   GUID id{};
   twin.guid = platform::kNullGuid;
   ASSERT_EQ(managers.DBAlertRecAdd(twin, id), kOk);
-  EXPECT_THAT(Run({"service", "enable", "Internet Mail"}), Fails(4, HasSubstr("name it by its identity")));
+  EXPECT_THAT(Run({"service", "enable", "Internet Mail"}), Fails(4, "name it by its identity"));
   EXPECT_THAT(Run({"service", "enable", "Internet Mail", "--manager", id.ToString()}),
-              Fails(4, HasSubstr("disable it there first")));
+              Fails(4, "disable it there first"));
   RunJson({"service", "disable", "Internet Mail"});
   EXPECT_EQ(RunJson({"service", "enable", "Internet Mail", "--manager", id.ToString()})["changed"], true);
   EXPECT_EQ(RunJson({"manager", "list"})[1]["services"], json::array({"Internet Mail"}));
 }
 
-TEST_F(AlertctlSiteTest, SettingAnEntryPrintsWhatIsStored) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, SettingAnEntryPrintsWhatIsStored) {
   RunJson({"entry", "set", "Ann", "MCI Mail", "123-4567"});
-  CAlertUSR_MCIDB users;
-  ALRTUSR_MCISERVICEREC stored = Find(users, Any);
+  Opened<CAlertUSR_MCIDB> users;
+  ALRTUSR_MCISERVICEREC stored = users.First();
   stored.emsEnabled = 1;
   stored.emsAddress.Assign("elsewhere");
   ASSERT_EQ(users.DBAlertRecUpdate(stored), kOk);
@@ -117,8 +106,7 @@ TEST_F(AlertctlSiteTest, SettingAnEntryPrintsWhatIsStored) {
 TEST_F(AlertctlSiteTest, OutputThatCannotBeWrittenIsAFailure) {
   for (const char* elsewhere : {" >&-", " >/dev/full"}) {
     for (const Arguments& verb : {Arguments{"service", "list"}, {"service", "list", "--help"}}) {
-      EXPECT_THAT(RunLine(CommandOf(verb) + elsewhere), Fails(5, HasSubstr("cannot write the output")))
-          << elsewhere;
+      EXPECT_THAT(RunLine(CommandOf(verb) + elsewhere), Fails(5, "cannot write the output")) << elsewhere;
     }
   }
   EXPECT_EQ(std::filesystem::file_size(data_ + "/alertctl.lock"), 0u);
@@ -132,13 +120,15 @@ TEST_F(AlertctlSiteTest, WhatShowsNoConfigurationFileSaysWhatIsThere) {
   std::filesystem::remove(file + ".lock");
 
   std::filesystem::create_directories(file);
-  EXPECT_THAT(Run({"config", "show"}), Fails(5, HasSubstr("directory")));
+  EXPECT_THAT(Run({"config", "show"}), Fails(5, "directory"));
   std::filesystem::remove(file);
-  for (const char* bytes : {"{\"password\": \"x\"}", "[]", "{"}) {
+  const std::string too_deep = "{\"a\":" + std::string(12000, '[') + std::string(12000, ']') + "}";
+  for (const std::string& bytes :
+       {std::string("{\"password\": \"x\"}"), std::string("[]"), std::string("{"), too_deep}) {
     WriteFile(file, bytes);
     EXPECT_THAT(Run({"config", "show", "--json"}),
                 Fails(4, AllOf(HasSubstr(file), HasSubstr("config write"))))
-        << bytes;
+        << bytes.substr(0, 20);
   }
 }
 
@@ -150,12 +140,13 @@ TEST_F(AlertctlTest, AWrongPathInTheEnvironmentIsNamed) {
   const std::string other = (program.parent_path() / "../lib/libalertplatform.so").lexically_normal();
   for (const std::string& library : {other, std::string("/no/such/library.so")}) {
     EXPECT_THAT(RunLine("ALERTING_LIBRARY=" + library + " " + CommandOf({"service", "delete", "Wave File"})),
-                Fails(4, HasSubstr(library)));
+                Fails(4, library));
   }
 }
 
 TEST_F(AlertctlSiteTest, ADamagedRecordIsToldAndHidesNoOther) {
-  Sql("UPDATE \"NtfyServDB.dat\" SET record=substr(record,1,2279) WHERE id=4");
+  test_support::RawDatabase(data_).Ask(
+      "UPDATE \"NtfyServDB.dat\" SET record=substr(record,1,2279) WHERE id=4");
   const Ran ran = Run({"service", "list", "--json"});
   EXPECT_EQ(ran.code, 0);
   EXPECT_EQ(json::parse(ran.out).size(), 12u);
@@ -164,13 +155,13 @@ TEST_F(AlertctlSiteTest, ADamagedRecordIsToldAndHidesNoOther) {
 }
 
 // The library does not look at the second of two deletes.
-TEST_F(AlertctlSiteTest, WhatALaterWriteFailedToDoIsToldAfterASuccess) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, WhatALaterWriteFailedToDoIsToldAfterASuccess) {
   RunJson({"entry", "set", "Ann", "Internet Mail", "ann@example.org"});
   RunJson({"service", "copy", "Internet Mail", "Night mail"});
   for (const char* table : {"InstNtfyServDB.dat", "UsrInstServDB.dat"})
-    Sql("CREATE TRIGGER \"refuse " + std::string(table) + "\" BEFORE DELETE ON \"" + table +
-        "\" BEGIN SELECT RAISE(ABORT,'no'); END");
+    test_support::RawDatabase(data_).Ask("CREATE TRIGGER \"refuse " + std::string(table) +
+                                         "\" BEFORE DELETE ON \"" + table +
+                                         "\" BEGIN SELECT RAISE(ABORT,'no'); END");
   EXPECT_THAT(
       Run({"service", "delete", "Night mail"}),
       Fails(5, AllOf(HasSubstr("deleted the service \"Night mail\", but"), HasSubstr("InstNtfyServDB.dat"))));
@@ -182,7 +173,7 @@ TEST_F(AlertctlSiteTest, ADirectoryThatOthersCanWriteIsRefusedWithWhatToDo) {
   const std::string what = "chmod go-w " + data_;
   chmod(data_.c_str(), 0777);
   for (const Arguments& verb : {Arguments{"service", "list"}, {"init"}, {"config", "write"}})
-    EXPECT_THAT(Run(verb), Fails(5, HasSubstr(what))) << testing::PrintToString(verb);
+    EXPECT_THAT(Run(verb), Fails(5, what)) << testing::PrintToString(verb);
 }
 
 TEST_F(AlertctlTest, WhatTheAdministratorsAccountMakesBelongsToTheDirectorysOwner) {
@@ -204,40 +195,16 @@ TEST_F(AlertctlTest, ARelativeDataDirectoryIsToldAsAWhole) {
   EXPECT_EQ(RunJson({"config", "write", "--data", "here"})["path"], root_ + "/here/alert-managers.json");
 }
 
-TEST_F(AlertctlSiteTest, AFileNestedTooDeepIsDamaged) {
-  WriteFile(data_ + "/alert-managers.json",
-            "{\"a\":" + std::string(12000, '[') + std::string(12000, ']') + "}");
-  EXPECT_THAT(Run({"config", "show", "--json"}), Fails(4, HasSubstr("damaged")));
-}
-
-TEST_F(AlertctlSiteTest, CommunityNamesAreMasked) {
-  CAlertUSR_SNMPDB managers;
-  ALRTUSR_SNMPSERVICEREC manager{};
-  GUID id{};
-  manager.community.Assign("s3cret");
-  ASSERT_EQ(managers.DBOpen(), kOk);
-  ASSERT_EQ(managers.DBAlertRecAdd(manager, id), kOk);
-  ASSERT_THAT(ConfigFile(), HasSubstr("s3cret"));
-  EXPECT_THAT(Run({"config", "show", "--json"}).out, AllOf(HasSubstr("********"), Not(HasSubstr("s3cret"))));
-}
-
 TEST_F(AlertctlSiteTest, ABackupIsPutBackUnderAConsoleAtWork) {
-  CAlertNtfyServDB console;
-  const auto count = [&] {
-    int services = 0;
-    ALRTNTFYSERV service{};
-    Status status = console.DBAlertRecFindFirst(kByIdentity, 0, nullptr, service);
-    for (; status == kOk; status = console.DBAlertRecFindNext(service)) ++services;
-    return services;
-  };
-  ASSERT_EQ(console.DBOpen(), kOk);
+  Opened<CAlertNtfyServDB> console;
+  const auto count = [&] { return test_support::RecordsOf(console, kByIdentity).size(); };
   const std::string before = ConfigFile();
   const json backup = RunJson({"backup", "site.db"});
   EXPECT_FALSE(std::filesystem::exists(root_ + "/site.db-wal"));
   RunJson({"service", "copy", "Internet Mail", "New"});
-  EXPECT_EQ(count(), 14);
+  EXPECT_EQ(count(), 14u);
   EXPECT_EQ(RunJson({"restore", "site.db"})["records"], backup["records"]);
-  EXPECT_EQ(count(), 13);
+  EXPECT_EQ(count(), 13u);
   EXPECT_EQ(ConfigFile(), before);
   EXPECT_EQ(RunJson({"backup", "site.db"})["records"], backup["records"]) << "over the older one";
 }
@@ -246,8 +213,11 @@ TEST_F(AlertctlSiteTest, ADamagedDatabaseMakesRoomForABackup) {
   const std::string before = ConfigFile();
   RunJson({"backup", "site.db"});
   std::filesystem::remove(data_ + "/alerting.db-wal");
+  std::filesystem::resize_file(data_ + "/alerting.db", 100);
+  for (const Arguments& verb : {Arguments{"user", "list"}, {"init"}, {"config", "write"}})
+    EXPECT_EQ(Run(verb).code, 5) << testing::PrintToString(verb);
   WriteFile(data_ + "/alerting.db", std::string(100000, 'x'));
-  EXPECT_THAT(Run({"service", "list"}), Fails(5, HasSubstr("alertctl restore FILE")));
+  EXPECT_THAT(Run({"service", "list"}), Fails(5, "alertctl restore FILE"));
   EXPECT_EQ(RunJson({"restore", "site.db"})["setAside"], data_ + "/alerting.db.damaged");
   EXPECT_EQ(ConfigFile(), before);
   EXPECT_EQ(std::filesystem::file_size(data_ + "/alerting.db.damaged"), 100000u);
@@ -256,12 +226,12 @@ TEST_F(AlertctlSiteTest, ADamagedDatabaseMakesRoomForABackup) {
 TEST_F(AlertctlSiteTest, WhatIsNoBackupIsNeitherReplacedNorPutBack) {
   const std::string letter = root_ + "/letter", before = ConfigFile();
   WriteFile(letter, "Dear Ann");
-  EXPECT_THAT(Run({"backup", letter}), Fails(4, HasSubstr("is no backup")));
-  EXPECT_THAT(Run({"restore", letter}), Fails(4, HasSubstr("no backup")));
-  EXPECT_THAT(Run({"restore", "missing"}), Fails(3, HasSubstr("missing")));
+  EXPECT_THAT(Run({"backup", letter}), Fails(4, "is no backup"));
+  EXPECT_THAT(Run({"restore", letter}), Fails(4, "no backup"));
+  EXPECT_THAT(Run({"restore", "missing"}), Fails(3, "missing"));
   RunJson({"backup", "site.db"});
   std::filesystem::resize_file(root_ + "/site.db", std::filesystem::file_size(root_ + "/site.db") / 2);
-  EXPECT_THAT(Run({"restore", "site.db"}), Fails(4, HasSubstr("damaged")));
+  EXPECT_THAT(Run({"restore", "site.db"}), Fails(4, "damaged"));
   EXPECT_EQ(ConfigFile(), before);
   EXPECT_EQ(std::filesystem::file_size(letter), 8u);
 }

@@ -12,9 +12,9 @@
 #include <thread>
 #include <vector>
 
-#include "companions/alertstore/stores.h"
 #include "platform/base/atomic_write.h"
 #include "platform/base/paths.h"
+#include "tests/support/records_of.h"
 #include "tests/support/temporary.h"
 
 struct Ran {
@@ -28,11 +28,13 @@ inline std::ostream& operator<<(std::ostream& out, const Ran& ran) {
 }
 
 /// Ended with that code and said so on standard error alone.
-template <class Says>
-auto Fails(int code, const Says& says) {
+inline auto Fails(int code, const testing::Matcher<std::string>& says) {
   using testing::Field;
   return testing::AllOf(Field(&Ran::code, code), Field(&Ran::err, says), Field(&Ran::out, ""));
 }
+/// And this stands in what it said.
+inline auto Fails(int code, const char* text) { return Fails(code, testing::HasSubstr(text)); }
+inline auto Fails(int code, const std::string& text) { return Fails(code, testing::HasSubstr(text)); }
 
 /// Runs the real program in a data directory of the test's own.
 class AlertctlTest : public testing::Test {
@@ -102,29 +104,38 @@ class AlertctlSiteTest : public AlertctlTest {
   void SetUp() override { RunJson({"init"}); }
 };
 
-/// The first record of the store for which `wanted` holds; a missing one fails the test.
-template <class Store, class Wanted>
-typename Store::RecordType Find(Store& store, Wanted wanted) {
-  typename Store::RecordType record{};
-  EXPECT_EQ(store.DBOpen(), alertstore::kOk);
-  const std::uint32_t selector = store.Schema().selectors.front().number;
-  alertstore::Status status = store.DBAlertRecFindFirst(selector, 0, nullptr, record);
-  while (status == alertstore::kOk && !wanted(record)) status = store.DBAlertRecFindNext(record);
-  EXPECT_EQ(status, alertstore::kOk) << "no such record in " << store.Schema().file;
-  return record;
-}
+/// With a console user on it.
+class AlertctlUserTest : public AlertctlSiteTest {
+ protected:
+  void SetUp() override {
+    AlertctlSiteTest::SetUp();
+    RunJson({"user", "add", "Ann"});
+  }
+};
 
+/// A store that is open; a failure fails the test.
 template <class Store>
-Store& Opened(Store& store) {
-  EXPECT_EQ(store.DBOpen(), alertstore::kOk);
-  return store;
-}
-
-inline constexpr auto Any = [](const auto&) { return true; };
+struct Opened : Store {
+  template <class... Arguments>
+  explicit Opened(Arguments... arguments) : Store(arguments...) {
+    EXPECT_EQ(this->DBOpen(), alertstore::kOk);
+  }
+  /// The first record for which `wanted` holds; a missing one fails the test.
+  template <class Wanted>
+  typename Store::RecordType Find(Wanted wanted) {
+    for (const auto& record : test_support::RecordsOf(*this, this->Schema().selectors.front().number))
+      if (wanted(record)) return record;
+    ADD_FAILURE() << "no such record in " << this->Schema().file;
+    return {};
+  }
+  typename Store::RecordType First() {
+    return Find([](const auto&) { return true; });
+  }
+};
 
 /// Deletes the first record of a store.
 template <class Store, class... Arguments>
 void DeleteFirst(Arguments... arguments) {
-  Store store(arguments...);
-  EXPECT_EQ(store.DBAlertRecDelete(Find(store, Any).guid), alertstore::kOk);
+  Opened<Store> store(arguments...);
+  EXPECT_EQ(store.DBAlertRecDelete(store.First().guid), alertstore::kOk);
 }

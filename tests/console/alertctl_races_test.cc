@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Several of them, and consoles, on one data directory at once.
-#include <fcntl.h>
-#include <sys/file.h>
-#include <unistd.h>
-
 #include "companions/alertstore/console_users.h"
+#include "platform/base/process_lock.h"
 #include "tests/console/alertctl_fixture.h"
 
 using namespace alertstore;
@@ -13,10 +10,8 @@ using testing::HasSubstr;
 
 namespace {
 
-std::size_t CountOf(const std::vector<Ran>& ran, int code) {
-  std::size_t count = 0;
-  for (const Ran& one : ran) count += one.code == code ? 1u : 0u;
-  return count;
+std::ptrdiff_t CountOf(const std::vector<Ran>& ran, int code) {
+  return std::ranges::count(ran, code, &Ran::code);
 }
 
 TEST_F(AlertctlTest, SeveralInitsAtOnceMakeOneSite) {
@@ -32,20 +27,19 @@ TEST_F(AlertctlTest, SeveralInitsAtOnceMakeOneSite) {
   EXPECT_EQ(managers[0]["services"].size(), 13u);
 }
 
-TEST_F(AlertctlSiteTest, TheSameChangeMadeSeveralTimesAtOnceLeavesNoDoubles) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, TheSameChangeMadeSeveralTimesAtOnceLeavesNoDoubles) {
   const auto entries =
       RunTogether(std::vector<Arguments>(5, {"entry", "set", "Ann", "Internet Mail", "ann@example.org"}));
-  EXPECT_EQ(CountOf(entries, 0), 5u);
+  EXPECT_EQ(CountOf(entries, 0), 5);
   EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);
 
   const auto copies = RunTogether(std::vector<Arguments>(5, {"service", "copy", "Internet Mail", "Twin"}));
-  EXPECT_EQ(CountOf(copies, 0), 1u);
-  EXPECT_EQ(CountOf(copies, 4), 4u);
+  EXPECT_EQ(CountOf(copies, 0), 1);
+  EXPECT_EQ(CountOf(copies, 4), 4);
   EXPECT_EQ(RunJson({"service", "list"}).size(), 14u);
 
   RunJson({"service", "disable", "Twin"});
-  EXPECT_EQ(CountOf(RunTogether(std::vector<Arguments>(5, {"service", "enable", "Twin"})), 0), 5u);
+  EXPECT_EQ(CountOf(RunTogether(std::vector<Arguments>(5, {"service", "enable", "Twin"})), 0), 5);
   EXPECT_EQ(RunJson({"service", "show", "Twin"})["alertManagers"].size(), 1u);
 }
 
@@ -63,15 +57,13 @@ TEST_F(AlertctlSiteTest, AUserWhoGetsAnEntryIsNotRemoved) {
   }
 }
 
-TEST_F(AlertctlSiteTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
   std::vector<ConsoleUser> users;
   ASSERT_EQ(ListConsoleUsers(users), kOk);
-  CAlertNtfyServDB services;
-  const ALRTNTFYSERV mail = Find(services, [](const ALRTNTFYSERV& s) { return s.recordType == 5; });
+  const auto mail = Opened<CAlertNtfyServDB>().Find([](const auto& s) { return s.recordType == 5; });
 
-  CAlertUSR_SMTPDB entries;
-  ASSERT_EQ(Opened(entries).File().DBFileLock(), kOk);
+  Opened<CAlertUSR_SMTPDB> entries;
+  ASSERT_EQ(entries.File().DBFileLock(), kOk);
   std::thread other([&] { Run({"entry", "set", "Ann", "Internet Mail", "new@example.org"}); });
   std::this_thread::sleep_for(std::chrono::milliseconds(1000));  // it has come to the lock by then
   ALRTUSR_SMTPSERVICEREC entry{};
@@ -81,8 +73,7 @@ TEST_F(AlertctlSiteTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
   link.serviceId = mail.serviceId;
   link.recordType = 5;
   platform::GUID id{}, entry_id{};
-  CAlertUsrInstServDB links;
-  EXPECT_EQ(Opened(links).DBAlertRecAdd(link, id, entry, entry_id), kOk);
+  EXPECT_EQ(Opened<CAlertUsrInstServDB>().DBAlertRecAdd(link, id, entry, entry_id), kOk);
   EXPECT_EQ(entries.File().DBFileUnlock(), kOk);
   other.join();
   const json listed = RunJson({"entry", "list"});
@@ -90,31 +81,17 @@ TEST_F(AlertctlSiteTest, AnEntryThatAConsoleIsAddingIsChangedNotAddedAgain) {
   EXPECT_EQ(listed[0]["address"], "new@example.org");
 }
 
-/// Holds the lock of a file as another process would.
-class HeldFile {
- public:
-  explicit HeldFile(const std::string& path) : file_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600)) {
-    EXPECT_EQ(flock(file_, LOCK_EX | LOCK_NB), 0);
-  }
-  ~HeldFile() { close(file_); }
-  HeldFile(const HeldFile&) = delete;
-  HeldFile& operator=(const HeldFile&) = delete;
-
- private:
-  const int file_;
-};
-
-TEST_F(AlertctlSiteTest, WhoeverWaitedTooLongSaysForWhomAndChangesNothing) {
-  RunJson({"user", "add", "Ann"});
+TEST_F(AlertctlUserTest, WhoeverWaitedTooLongSaysForWhomAndChangesNothing) {
   const std::string other_data = root_ + "/other";
   std::filesystem::copy(data_, other_data);
   setenv("ALERTING_DATA", other_data.c_str(), 1);
-  CAlertUSR_SMTPDB entries;
-  ASSERT_EQ(Opened(entries).File().DBFileLock(), kOk);
+  Opened<CAlertUSR_SMTPDB> entries;
+  ASSERT_EQ(entries.File().DBFileLock(), kOk);
   setenv("ALERTING_DATA", data_.c_str(), 1);
 
-  const HeldFile another_alertctl(data_ + "/alertctl.lock");
-  const HeldFile another_console(data_ + "/alert-managers.json.lock");
+  const std::chrono::seconds wait(1);
+  const platform::ProcessLock alertctl(data_ + "/alertctl.lock", wait),
+      console(data_ + "/alert-managers.json.lock", wait);
   EXPECT_EQ(Run({"user", "list"}).code, 0) << "reading waits for nobody";
   const auto ran = RunTogether({{"user", "add", "Bob"},
                                 {"config", "write"},

@@ -20,12 +20,13 @@ std::string_view NameOf(StoreOp op) {
   return kNames[static_cast<std::size_t>(op)];
 }
 
-std::string StoreCall::Text() const {
-  std::string text{NameOf(op)};
-  if (!store.empty()) text += ' ' + store;
-  if (!other_store.empty()) text += '+' + other_store;
-  return status == kOk ? text : text + " failed";
+namespace {
+
+bool Matches(const StoreCall& call, std::string_view store, StoreOp op) {
+  return (store == kAnyStore || store == call.store) && (op == StoreOp::kAny || op == call.op);
 }
+
+}  // namespace
 
 template <class Operation>
 Status FailingEngine::Make(StoreCall call, Operation operation) {
@@ -35,31 +36,17 @@ Status FailingEngine::Make(StoreCall call, Operation operation) {
 }
 
 bool FailingEngine::MustFail(const StoreCall& call) {
-  if (!rule_active_) return false;
-  if (rule_.store != kAnyStore && rule_.store != call.store) return false;
-  if (rule_.op != StoreOp::kAny && rule_.op != call.op) return false;
+  if (!rule_.active || !Matches(call, rule_.store, rule_.op)) return false;
   if (rule_.remaining > 0) {
     if (--rule_.remaining > 0) return false;
-    rule_active_ = false;
+    rule_.active = false;
   }
   ++failures_;
   return true;
 }
 
-void FailingEngine::FailNth(std::string_view store, StoreOp op, int n) {
-  rule_ = {std::string(store), op, n};
-  rule_active_ = n > 0;
-  failures_ = 0;
-}
-
-void FailingEngine::FailAll(std::string_view store, StoreOp op) {
-  rule_ = {std::string(store), op, 0};
-  rule_active_ = true;
-  failures_ = 0;
-}
-
-void FailingEngine::FailNone() {
-  rule_active_ = false;
+void FailingEngine::Fail(Rule rule) {
+  rule_ = std::move(rule);
   failures_ = 0;
 }
 
@@ -72,9 +59,8 @@ std::vector<StoreCall> FailingEngine::Writes() const {
 }
 
 int FailingEngine::Count(std::string_view store, StoreOp op) const {
-  return static_cast<int>(std::ranges::count_if(calls_, [&](const StoreCall& call) {
-    return (store == kAnyStore || call.store == store) && (op == StoreOp::kAny || call.op == op);
-  }));
+  return static_cast<int>(
+      std::ranges::count_if(calls_, [&](const StoreCall& call) { return Matches(call, store, op); }));
 }
 
 std::vector<std::string> FailingEngine::HeldLocks() const {
@@ -110,8 +96,7 @@ class FailingTable : public Table {
     return engine_.Make(Call(StoreOp::kAdd), [&] { return base_->Add(record); });
   }
   Status AddPair(const void* record, const StoreSchema& other, const void* other_record) override {
-    return engine_.Make({store_, StoreOp::kAddPair, kOk, other.file},
-                        [&] { return base_->AddPair(record, other, other_record); });
+    return engine_.Make(Call(StoreOp::kAddPair), [&] { return base_->AddPair(record, other, other_record); });
   }
   Status Update(const void* record) override {
     return engine_.Make(Call(StoreOp::kUpdate), [&] { return base_->Update(record); });

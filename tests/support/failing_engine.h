@@ -37,10 +37,6 @@ struct StoreCall {
   std::string store;  ///< empty for kBeginRead
   StoreOp op;
   alertstore::Status status;
-  std::string other_store = {};  ///< kAddPair
-
-  /// "Update NtfyServDB.dat", with " failed" behind it when it did.
-  std::string Text() const;
 };
 
 /// Hands every call to another engine, except those that it was told to fail; these change nothing, but a
@@ -61,10 +57,10 @@ class FailingEngine : public alertstore::Engine {
   // Each rule replaces the one before it and sets Failures() to 0.
 
   /// Fails the n-th matching call from now on, counted from 1, and no other.
-  void FailNth(std::string_view store, StoreOp op, int n);
+  void FailNth(std::string_view store, StoreOp op, int n) { Fail({std::string(store), op, n, n > 0}); }
   /// Fails every matching call from now on.
-  void FailAll(std::string_view store, StoreOp op);
-  void FailNone();
+  void FailAll(std::string_view store, StoreOp op) { Fail({std::string(store), op, 0, true}); }
+  void FailNone() { Fail({}); }
 
   /// How many calls the present rule has failed.
   int Failures() const { return failures_; }
@@ -93,16 +89,17 @@ class FailingEngine : public alertstore::Engine {
     std::string store;
     StoreOp op = StoreOp::kAny;
     int remaining = 0;  // matching calls until the one that fails; 0: every one fails
+    bool active = false;
   };
 
   // Makes the call, or fails it, and notes it.
   template <class Operation>
   alertstore::Status Make(StoreCall call, Operation operation);
+  void Fail(Rule rule);
   bool MustFail(const StoreCall& call);
 
   const std::shared_ptr<alertstore::Engine> base_;
   Rule rule_;
-  bool rule_active_ = false;
   int failures_ = 0;
   std::vector<StoreCall> calls_;
   std::vector<std::string> closed_;
