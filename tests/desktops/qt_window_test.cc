@@ -191,19 +191,16 @@ TEST_F(QtWindowTest, ArrowKeysInTheFieldStepItsSpin) {
   EXPECT_EQ(dialog.changes, 3);
 }
 
-TEST_F(QtWindowTest, HelpIsAskedByKeyAndByClick) {
+TEST_F(QtWindowTest, HelpIsAskedByAClickToo) {
   FullDialog dialog;
-  Show(dialog, [&](Person& person) {
-    person.Focus("&Name:");
-    person.Press(Key::kF1);
+  Show(dialog, [&](Person&) {
     QWidget& field = Widget<QLineEdit>();
     QHelpEvent click(QEvent::WhatsThis, QPoint(2, 2), field.mapToGlobal(QPoint(2, 2)));
     QApplication::sendEvent(&field, &click);
   });
-  ASSERT_EQ(dialog.help.size(), 2u);
-  EXPECT_EQ(dialog.help[0].kind, HelpEvent::Kind::kHelpKey);
-  EXPECT_EQ(dialog.help[1].kind, HelpEvent::Kind::kContextMenu);
-  for (const HelpEvent& event : dialog.help) EXPECT_EQ(event.control, &dialog.name);
+  ASSERT_EQ(dialog.help.size(), 1u);
+  EXPECT_EQ(dialog.help[0].kind, HelpEvent::Kind::kContextMenu);
+  EXPECT_EQ(dialog.help[0].control, &dialog.name);
 }
 
 /// Scrolls by whole steps, whatever the bar does.
@@ -333,24 +330,6 @@ TEST_F(QtWindowTest, AFileThatIsClickedIsHighlightedAndASizeIsTold) {
   });
   EXPECT_EQ(dialog.RunModal(), kCancel);
   EXPECT_THAT(dialog.heard, testing::ElementsAre(path.toStdString()));
-}
-
-bool ShowsWaitCursor() {
-  const QCursor* cursor = QGuiApplication::overrideCursor();
-  return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
-}
-
-TEST_F(QtWindowTest, AWindowTakesTheWaitCursorAwayUntilRestored) {
-  const WaitCursor outer;
-  {
-    WaitCursor inner;
-    EXPECT_TRUE(ShowsWaitCursor());
-    ReportingDialog dialog;
-    Show(dialog, [](Person&) { EXPECT_FALSE(ShowsWaitCursor()); });
-    inner.Restore();
-    EXPECT_TRUE(ShowsWaitCursor());
-  }
-  EXPECT_TRUE(ShowsWaitCursor()) << "the outer one still waits";
 }
 
 TEST_F(QtWindowTest, SleepingRunsWhatWasPosted) {

@@ -7,7 +7,6 @@
 #include <thread>
 
 #include "platform/base/module.h"
-#include "platform/ui/canvas.h"
 #include "platform/ui/desktop.h"
 #include "platform/ui/dialog.h"
 #include "platform/ui/edit.h"
@@ -18,12 +17,6 @@ namespace platform::ui {
 namespace {
 
 using testing::ElementsAre;
-
-class Watcher : public WindowObserver {
- public:
-  std::vector<Change> changes;
-  void OnWindowChanged(Window&, Change change) override { changes.push_back(change); }
-};
 
 TEST(WindowTest, AHandleFindsALiveWindowOrNothing) {
   auto window = std::make_unique<Window>();
@@ -48,20 +41,6 @@ TEST(WindowTest, HandlesMayBeAskedForOnAnyThread) {
   }
   for (std::thread& thread : threads) thread.join();
   EXPECT_FALSE(wrong);
-}
-
-TEST(WindowTest, AnObserverHearsOfChangesAndLastOfTheEnd) {
-  Watcher watcher;
-  {
-    Window window;
-    window.SetObserver(&watcher);
-    window.SetLabel("x");
-    window.Enable(false);
-    window.Enable(false);
-    window.Show(false);
-  }
-  EXPECT_THAT(watcher.changes,
-              ElementsAre(Change::kLabel, Change::kEnabled, Change::kVisible, Change::kDestroyed));
 }
 
 TEST(WindowTest, LabelsAndTheirAccessKeys) {
@@ -186,18 +165,6 @@ TEST_F(FormTest, TheRowMovedToIsInView) {
   EXPECT_EQ(list.FirstVisibleRow(), 21);
 }
 
-TEST_F(FormTest, ScrollingStopsAtTheLastPage) {
-  struct Row {
-    int position, maximum, page, result;
-  };
-  Canvas strip(dialog, 1, "Strip");
-  for (const Row& row :
-       {Row{5, 11, 8, 4}, Row{3, 11, 8, 3}, Row{-1, 11, 8, 0}, Row{2, 3, 8, 0}, Row{9, -1, 0, 0}}) {
-    strip.SetScroll(row.position, row.maximum, row.page);
-    EXPECT_EQ(strip.ScrollPosition(), row.result) << row.position << " of " << row.maximum;
-  }
-}
-
 class TwoPageSheet : public PropertySheet {
  public:
   TwoPageSheet() : PropertySheet("Sheet", nullptr) {
@@ -241,25 +208,16 @@ class CountingDialog : public Dialog {
  public:
   CountingDialog() : Dialog(nullptr, "Counting") {}
   int opened = 0;
-  bool closed = false;
 
  private:
   void OnInitDialog() override { ++opened; }
-  void Destroy() override {
-    closed = true;
-    Dialog::Destroy();
-  }
 };
 
 TEST(BaseDesktopTest, ModalWindowsEndAsCancelled) {
   CountingDialog dialog;
-  Watcher watcher;
-  dialog.SetObserver(&watcher);
   EXPECT_EQ(dialog.RunModal(), kCancel);
   EXPECT_EQ(dialog.opened, 1);
-  EXPECT_TRUE(dialog.closed);
-  EXPECT_THAT(watcher.changes, testing::Contains(Change::kEnded));
-  dialog.SetObserver(nullptr);
+  EXPECT_FALSE(dialog.Created()) << "and are closed";
 }
 
 TEST(BaseDesktopTest, MessagesGoToStandardErrorAndQuestionsAreAnsweredNo) {
@@ -294,20 +252,6 @@ TEST(ModuleTest, ScopesNestAndHoldOnTheirThreadOnly) {
     EXPECT_EQ(Module::Current().Title(), "Outer");
   }
   EXPECT_EQ(Module::Current().Title(), "");
-}
-
-TEST(DynamicLibraryTest, FindsFunctionsByNameAndVersion) {
-  DynamicLibrary library;
-  EXPECT_EQ(library.Find("cos"), nullptr) << "nothing is loaded";
-  EXPECT_FALSE(library.Load("/nowhere/libnothing.so"));
-  EXPECT_THAT(library.Error(), testing::HasSubstr("libnothing.so"));
-  ASSERT_TRUE(library.Load("libm.so.6")) << library.Error();
-  EXPECT_EQ(library.Error(), "");
-  EXPECT_NE(library.Find("cos"), nullptr);
-  EXPECT_EQ(library.Find("cos@8"), nullptr) << "no such version";
-  EXPECT_EQ(library.Find("cos@GLIBC_2.2.5"), nullptr)
-      << "a decoration names bytes of arguments, no other version";
-  EXPECT_EQ(library.Find("no_such_function"), nullptr);
 }
 
 }  // namespace

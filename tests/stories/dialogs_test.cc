@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include <filesystem>
-#include <fstream>
-
 #include "platform/ui/desktop.h"
 #include "platform/ui/dialog.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/lists.h"
 #include "tests/stories/story_test.h"
-#include "tests/support/temporary.h"
 
 namespace stories {
 namespace {
@@ -16,28 +12,13 @@ using namespace platform::ui;
 using desktops::Person;
 using testing::ElementsAre;
 
-class OkCancelDialog : public Dialog {
- public:
-  OkCancelDialog(Window* parent, std::string caption) : Dialog(parent, std::move(caption)) {
-    ok.SetDefault(true);
-    ok.SetOnClick([this] { OnOk(); });
-    cancel.SetOnClick([this] { OnCancel(); });
-  }
-
- protected:
-  LayoutNode ButtonRow() { return Row({Stretch(), Bare(ok), Bare(cancel)}); }
-
-  Button ok{*this, kIdOk, "OK"};
-  Button cancel{*this, kIdCancel, "Cancel"};
-};
-
 /// Every kind of exchanged value.
-class ExchangeDialog : public OkCancelDialog {
+class ExchangeDialog : public Dialog {
  public:
-  ExchangeDialog() : OkCancelDialog(nullptr, "Exchange") {
+  ExchangeDialog() : Dialog(nullptr, "Exchange") {
     for (const char* item : {"Low", "High"}) priority_combo_.Add(item);
     SetLayout(Column({Field(name_edit_), Field(count_edit_), Field(on_box_), Field(mode_group_),
-                      Field(priority_combo_), ButtonRow()}));
+                      Field(priority_combo_), buttons_.Row()}));
   }
 
   std::string name = "Ann", priority = "high";
@@ -59,14 +40,20 @@ class ExchangeDialog : public OkCancelDialog {
   CheckBox on_box_{*this, 403, "&On"};
   RadioGroup mode_group_{*this, 404, "Mode", {"A", "B"}};
   ComboBox priority_combo_{*this, 405, "&Priority:"};
+  OkCancelButtons buttons_{*this};
 };
 
 class DialogsTest : public StoryTest {};
 
 TEST_F(DialogsTest, ValuesGoIntoTheControlsAndBackAtOk) {
   ExchangeDialog dialog;
+  Script().ExpectWindow("Exchange", [](Person& p) {
+    p.Type("&Name:", "Cy");
+    p.Press("Cancel");
+  });
+  EXPECT_EQ(dialog.RunModal(), kCancel);
   Script().ExpectWindow("Exchange", [&](Person& p) {
-    EXPECT_EQ(p.Text("&Name:"), "Ann");
+    EXPECT_EQ(p.Text("&Name:"), "Ann") << "what was cancelled is gone";
     EXPECT_EQ(p.Text("&Count:"), "5");
     EXPECT_TRUE(p.IsChecked("&On"));
     EXPECT_EQ(p.ChosenOption("Mode"), "B");
@@ -85,16 +72,6 @@ TEST_F(DialogsTest, ValuesGoIntoTheControlsAndBackAtOk) {
   EXPECT_FALSE(dialog.on);
   EXPECT_EQ(dialog.mode, 0);
   EXPECT_EQ(dialog.priority, "Low");
-}
-
-TEST_F(DialogsTest, CancelLeavesTheValues) {
-  ExchangeDialog dialog;
-  Script().ExpectWindow("Exchange", [](Person& p) {
-    p.Type("&Name:", "Bob");
-    p.Press("Cancel");
-  });
-  EXPECT_EQ(dialog.RunModal(), kCancel);
-  EXPECT_EQ(dialog.name, "Ann");
 }
 
 TEST_F(DialogsTest, ANumberOutOfRangeKeepsTheDialogOpen) {
@@ -120,14 +97,14 @@ TEST_F(DialogsTest, ANumberOutOfRangeKeepsTheDialogOpen) {
 }
 
 /// Opens another of its kind, asks before it is left, and records what comes about.
-class NestedDialog : public OkCancelDialog {
+class NestedDialog : public Dialog {
  public:
-  NestedDialog(Window* parent, int depth) : OkCancelDialog(parent, "Level " + std::to_string(depth)) {
+  NestedDialog(Window* parent, int depth) : Dialog(parent, "Level " + std::to_string(depth)) {
     deeper.SetOnClick([this, depth] {
       NestedDialog next(this, depth + 1);
       result = next.RunModal();
     });
-    SetLayout(Column({Bare(deeper), ButtonRow()}));
+    SetLayout(Column({Bare(deeper), buttons.Row()}));
   }
 
   int result = 0;
@@ -135,10 +112,11 @@ class NestedDialog : public OkCancelDialog {
  private:
   void OnCancel() override {
     const Answer answer = MessageBox("Leave?", Buttons::kYesNoCancel, MessageIcon::kQuestion, this);
-    if (answer == Answer::kYes) OkCancelDialog::OnCancel();
+    if (answer == Answer::kYes) Dialog::OnCancel();
   }
 
   Button deeper{*this, 410, "&Deeper..."};
+  OkCancelButtons buttons{*this};
 };
 
 TEST_F(DialogsTest, WindowsAndMessagesNest) {
@@ -188,77 +166,6 @@ TEST_F(DialogsTest, PostedTasksRunBetweenActionsInTheForegroundWindow) {
     p.Press("OK");
   });
   dialog.RunModal();
-}
-
-class PreviewDialog : public FileDialog {
- public:
-  PreviewDialog() : FileDialog(nullptr) {
-    title = "Select Sound";
-    filters = {{"Sounds", "*.wav"}, {"All Files", "*.*"}};
-    SetPreviewSize(300, 60);
-    Place(play, 10, 10, 80, 30);
-    play.SetOnClick(
-        [this] { log.push_back("play " + std::filesystem::path(Highlighted()).filename().string()); });
-  }
-
-  // The button stays at the right edge.
-  void OnLayout(const Rect& whole) override {
-    area = whole;
-    Place(play, whole.width - 100, 10, 80, 30);
-  }
-  void OnFileHighlighted(const std::string& path) override {
-    if (path == wanted) log.push_back("highlighted");
-  }
-  void OnFileAccepted(const std::string& path) override {
-    log.push_back("accepted");
-    FileDialog::OnFileAccepted(path);
-  }
-
-  Rect area{};
-  std::string wanted;
-  std::vector<std::string> log;
-
- private:
-  Button play{*this, 420, "Play"};
-};
-
-class FileDialogsTest : public DialogsTest {
- protected:
-  FileDialogsTest() { std::ofstream(file_) << "RIFF"; }
-
-  const test_support::TemporaryDirectory folder_;
-  const std::string file_ = folder_.Path() + "/beep.wav";
-};
-
-TEST_F(FileDialogsTest, AFileIsPreviewedAndChosen) {
-  PreviewDialog dialog;
-  dialog.wanted = file_;
-  Script().ExpectFileDialog("Select Sound", file_, [](Person& p) { p.Press("Play"); });
-  EXPECT_EQ(dialog.RunModal(), kOk);
-  EXPECT_EQ(dialog.Path(), file_);
-  EXPECT_EQ(dialog.log.front(), "highlighted");
-  EXPECT_THAT(dialog.log, testing::IsSupersetOf({"play beep.wav", "accepted"}));
-}
-
-TEST_F(FileDialogsTest, ADialogOpensWithItsFileAndKnowsItsSize) {
-  PreviewDialog dialog;
-  dialog.wanted = dialog.initial_path = file_;
-  Script().ExpectFileDialog("Select Sound", "", [&](Person& p) {
-    EXPECT_GT(dialog.area.width, 300);
-    p.Press("Play");
-  });
-  EXPECT_EQ(dialog.RunModal(), kCancel);
-  EXPECT_EQ(dialog.log.front(), "highlighted");
-  EXPECT_EQ(dialog.log.back(), "play beep.wav");
-}
-
-TEST_F(FileDialogsTest, AFolderIsChosen) {
-  FolderDialog dialog(nullptr, "Select Folder");
-  Script().ExpectFileDialog("Select Folder", folder_.Path());
-  EXPECT_EQ(dialog.RunModal(), kOk);
-  EXPECT_EQ(dialog.Path(), folder_.Path());
-  Script().ExpectFileDialog("Select Folder", "");
-  EXPECT_EQ(dialog.RunModal(), kCancel);
 }
 
 }  // namespace

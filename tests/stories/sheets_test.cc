@@ -212,7 +212,8 @@ TEST_F(SheetsTest, AWizardGoesBackAndForth) {
     EXPECT_FALSE(p.IsEnabled("< Back"));
     EXPECT_FALSE(p.IsVisible("Finish"));
     EXPECT_FALSE(p.IsVisible("Apply"));
-    p.Press("Next >");
+    p.Press(Key::kEnter);
+    EXPECT_EQ(sheet.ActivePage(), &sheet.message);
     sheet.SetWizardButtons(kWizardBack | kWizardNext | kWizardFinish);
     EXPECT_TRUE(p.IsVisible("Next >"));
     p.Press("< Back");
@@ -229,7 +230,7 @@ TEST_F(SheetsTest, AWizardGoesBackAndForth) {
     sheet.modems.refuse_finish = true;
     p.Press("Finish");
     sheet.modems.refuse_finish = false;
-    p.Press("Finish");
+    p.Press(Key::kEnter);
   });
   EXPECT_EQ(result, kOk);
   EXPECT_THAT(sheet.log, ElementsAre("command", "Modems finish", "command", "Modems finish", "destroyed"));

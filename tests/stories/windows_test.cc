@@ -144,6 +144,7 @@ class WaitingDialog : public Dialog {
   explicit WaitingDialog(TestDesktop& desk) : Dialog(nullptr, "Waiting") {
     work.SetOnClick([&] {
       const WaitCursor wait;
+      { const WaitCursor inner; }
       MessageBox("Halfway", Buttons::kOk, MessageIcon::kNone, this);
       after_message = desk.ShowsWaitCursor();
       Dialog inner(this, "Inner");
@@ -241,21 +242,6 @@ TEST_F(WindowsTest, ASheetWithoutPagesIsOperated) {
     });
     EXPECT_EQ(sheet.RunModal(), result);
   }
-}
-
-TEST_F(WindowsTest, EnterGoesThroughAWizard) {
-  PropertyPage first("First"), last("Last");
-  PropertySheet wizard("Wizard", nullptr);
-  for (PropertyPage* page : {&first, &last}) wizard.AddPage(*page);
-  Edit field(first, 1, "Field:"), other(last, 2, "Other:");
-  wizard.SetWizardMode();
-  Script().ExpectWindow("Wizard", [&](Person& p) {
-    p.Press(Key::kEnter);
-    EXPECT_EQ(wizard.ActivePage(), &last);
-    wizard.SetWizardButtons(kWizardBack | kWizardFinish);
-    p.Press(Key::kEnter);
-  });
-  EXPECT_EQ(wizard.RunModal(), kOk);
 }
 
 }  // namespace
