@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 
-#include "alerting/alerting.h"
+#include "alerting/services/default_message.h"
 #include "companions/dbconfig/dbconfig.h"
 #include "platform/base/paths.h"
-#include "tests/stories/story_test.h"
-#include "tests/support/service_fixture.h"
+#include "tests/stories/service_sheet_fixture.h"
 
 namespace stories {
 namespace {
@@ -15,29 +14,10 @@ using platform::ui::Answer;
 using platform::ui::kCancel;
 using platform::ui::kOk;
 using test_support::StoreOp;
-using testing::ElementsAre;
+using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
-
-constexpr char kSheet[] = "Site service";
-constexpr char kEnable[] = "&Enable Service";
-constexpr char kMessageTab[] = "Default Message";
-constexpr char kLogin[] = "&Login ID:";
-constexpr char kPassword[] = "&Password:";
-constexpr char kVerify[] = "&Verify Password:";
-constexpr char kDirectory[] = "&Server/Volume path (MHS Directory):";
-constexpr char kPhone[] = "P&hone #:";
-constexpr char kDelay[] = "&Delay:";
-constexpr char kLength[] = "Te&xt Length:";
-constexpr char kSubject[] = "Mail Message &Subject:";
-constexpr char kBody[] = "Mail &Message Body:";
-constexpr char kHalfBody[] = "&Edit Default Message:";
-constexpr char kNumericBody[] = "&Edit Default Message";
-constexpr char kFields[] = "<< &Fields...";
-constexpr char kTestLater[] = "Test sends are not available in this version.";
-constexpr char kApplyFirst[] =
-    "Do you want to apply changes to this service before running the test?  If yes, the changes will be "
-    "saved.  If no, the test will be run using the old values.";
+using testing::Not;
 
 /// What a person enters in a field and where that is stored. Width 0: as a number.
 struct Entry {
@@ -107,54 +87,6 @@ const std::vector<SheetRow>& Rows() {
   return rows;
 }
 
-class ServiceSheetsTest : public StoryTest {
- protected:
-  void Seed(std::uint32_t code) {
-    code_ = code;
-    id_ = test_support::SeedService(code, kSheet);
-    if (code == alerting::kTypeAlpha)
-      Store<alertstore::ALRTAPAGESERVICEREC>([](auto& record) { record.maxTextLength = 100; });
-    alerting::TheServices().RemoveAll();
-    Service();  // a type that dials out gets its backup record
-    Engine().Forget();
-  }
-  alerting::CNtfyService& Service() { return *test_support::Find(id_); }
-  test_support::FakeNetPath& NetPath() { return library_.netpath; }
-  test_support::FailingEngine& Engine() { return *library_.engine; }
-  const std::string& Directory() const { return library_.Directory(); }
-
-  alertstore::ALRTNTFYSERV Common() const { return test_support::StoredCommon(id_); }
-  bool HasRecord() const { return code_ != alerting::kTypeProgram; }
-  std::string Bytes() const {
-    return HasRecord() ? test_support::StoredSpecific(code_, Common().specificRecordId) : "";
-  }
-  /// Changes the stored record, as another console would.
-  template <class Record, class Edit>
-  void Store(Edit&& edit) {
-    Record record;
-    std::memcpy(&record, Bytes().data(), sizeof(record));
-    edit(record);
-    EXPECT_EQ(alerting::ServiceStore().SpecificStore<Record>()->DBAlertRecUpdate(record), alertstore::kOk);
-  }
-  std::string SpecificFile() const {
-    return test_support::WithRecordOf(code_, []<class Record>() {
-      return std::string(alerting::ServiceStore().SpecificStore<Record>()->Schema().file);
-    });
-  }
-
-  void Expect(desktops::Script::Story story) { Script().ExpectWindow(kSheet, std::move(story)); }
-  int Open() { return DomainServicePropertySheet(nullptr, *alerting::TheServices().FindById(id_)); }
-  int Open(desktops::Script::Story story) {
-    Expect(std::move(story));
-    return Open();
-  }
-
- private:
-  test_support::LibraryUnderTest library_;
-  platform::GUID id_{};
-  std::uint32_t code_ = 0;
-};
-
 void TypeAll(Person& p, const Entries& entries) {
   for (const Entry& entry : entries) p.Type(entry.label, entry.typed);
 }
@@ -204,7 +136,7 @@ TEST_F(ServiceSheetsTest, WhatIsEnteredOnEveryPageReachesTheStoreAndTheConfigura
     EXPECT_EQ(FirstDifference(Bytes(), expected), -1) << "offset in the record";
     EXPECT_EQ(Common().enabled, 0u);
     std::string file;
-    ASSERT_TRUE(platform::ReadWholeFile(Directory() + "/" + dbconfig::kConfigFileName, file));
+    ASSERT_TRUE(platform::ReadWholeFile(Library().Directory() + "/" + dbconfig::kConfigFileName, file));
     for (const Entries* entries : {&row.general, &row.message})
       for (const Entry& entry : *entries)
         EXPECT_THAT(file,
@@ -250,12 +182,14 @@ TEST_F(ServiceSheetsTest, AFailedUpdateIsToldAndKeepsTheSheetOpen) {
     Seed(row.code);
     Expect([&](Person& p) {
       p.Check(kEnable, false);
-      Engine().FailAll(alerting::ServiceStore().Schema().file, StoreOp::kUpdate);
+      Engine().FailAll(CommonFile(), StoreOp::kUpdate);
       p.Press("OK");
       EXPECT_FALSE(p.IsChecked(kEnable));
+      EXPECT_TRUE(p.IsEnabled("Apply"));
       EXPECT_THAT(Engine().Writes(), IsEmpty());
       if (HasRecord()) Engine().FailAll(SpecificFile(), StoreOp::kUpdate);
       if (HasRecord()) p.Press("OK");
+      EXPECT_EQ(Engine().Writes().size(), HasRecord() ? 1u : 0u) << "the common record";
       EXPECT_THAT(Engine().HeldLocks(), IsEmpty());
       Engine().FailNone();
       p.Press("OK");
@@ -268,21 +202,21 @@ TEST_F(ServiceSheetsTest, AFailedUpdateIsToldAndKeepsTheSheetOpen) {
   }
 }
 
-TEST_F(ServiceSheetsTest, TheTestButtonFollowsTheEnableBoxAndAsksAboutPendingEdits) {
+TEST_F(ServiceSheetsTest, TheTestButtonFollowsTheEnableBox) {
   for (const SheetRow& row : Rows()) {
     SCOPED_TRACE(alerting::GetServiceTypeName(row.code));
     Seed(row.code);
-    Expect([&](Person& p) {
+    Open([](Person& p) {
       p.Check(kEnable, false);
       EXPECT_FALSE(p.IsEnabled("&Test"));
+      p.Press("OK");
+    });
+    Open([](Person& p) {
+      EXPECT_FALSE(p.IsChecked(kEnable) || p.IsEnabled("&Test"));
       p.Check(kEnable, true);
-      p.Press("&Test");
-      EXPECT_THAT(Engine().Writes(), IsEmpty());
+      EXPECT_TRUE(p.IsEnabled("&Test"));
       p.Press("Cancel");
     });
-    Script().ExpectMessage(kApplyFirst, Answer::kNo);
-    Script().ExpectMessage(kTestLater);
-    Open();
   }
 }
 
@@ -290,11 +224,16 @@ TEST_F(ServiceSheetsTest, PasswordsThatDifferAreNotSaved) {
   for (const std::uint32_t code : {alerting::kTypeMci, alerting::kTypeCompuServe, alerting::kTypeVim}) {
     Seed(code);
     Expect([&](Person& p) {
-      p.Type(kLogin, "alerts");
       p.Type(kPassword, "secret");
+      p.SelectTab(kMessageTab);
+      p.Type(kBody, "edited");
       p.Press("OK");
-      EXPECT_EQ(p.Text(kPassword), "******");
       EXPECT_THAT(Engine().Writes(), IsEmpty());
+      EXPECT_TRUE(p.IsEnabled("Apply"));
+      p.Press("Apply");
+      EXPECT_THAT(Bytes(), AllOf(HasSubstr("edited"), Not(HasSubstr("secret")))) << "nor tried again";
+      p.SelectTab("General");
+      EXPECT_EQ(p.Text(kPassword), "******");
       p.Type(kVerify, "secret");
       p.Press("OK");
     });
@@ -350,9 +289,9 @@ constexpr char kUseAnyway[] = "\nDo you wish to use the non-UNC path anyway?";
 
 TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
   Seed(alerting::kTypeMhs);
-  NetPath().operation13 = 0;
-  NetPath().resolved = "/net/post";
-  const std::string deep = Directory() + "/" + std::string(200, 'd') + "/" + std::string(60, 'd');
+  Library().netpath.operation13 = 0;
+  Library().netpath.resolved = "/net/post";
+  const std::string deep = Library().Directory() + "/" + std::string(200, 'd') + "/" + std::string(60, 'd');
   ASSERT_TRUE(std::filesystem::create_directories(deep));
   Script().ExpectWindow(kSheet, [&](Person& p) {
     p.PressBeside(kDirectory, "...");
@@ -360,7 +299,7 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
     EXPECT_FALSE(p.IsEnabled("Apply")) << "cancelled";
     p.PressBeside(kDirectory, "...");
     EXPECT_EQ(p.Text(kDirectory), "/net/post");
-    NetPath().universal = "\\\\server\\post";
+    Library().netpath.universal = "\\\\server\\post";
     p.PressBeside(kDirectory, "...");
     p.PressBeside(kDirectory, "...");
     EXPECT_EQ(p.Text(kDirectory), "\\\\server\\post") << "the one before, as there is no room for this one";
@@ -381,7 +320,7 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
 
 TEST_F(ServiceSheetsTest, APostOfficeWithoutUniversalFormIsStoredOnlyWhenThePersonAgrees) {
   Seed(alerting::kTypeMhs);
-  NetPath().operation13 = 0;
+  Library().netpath.operation13 = 0;
   Expect([&](Person& p) {
     p.Type(kDirectory, "/mail/post");
     p.Press("OK");
@@ -405,30 +344,36 @@ TEST_F(ServiceSheetsTest, SystemsWithoutAFolderDialogHaveNoButtonForIt) {
   });
 }
 
-struct LimitRow {
-  std::uint32_t code;
-  const char* label;
-  char character;
-  std::size_t limit;
-};
-
 TEST_F(ServiceSheetsTest, FieldsHoldAsMuchAsTheirRecords) {
   using namespace alerting;  // NOLINT
-  const LimitRow rows[] = {{kTypeMhs, kDirectory, 'd', 260},
-                           {kTypeMci, kPhone, '1', 25},
-                           {kTypeCompuServe, kLogin, 'l', 48},
-                           {kTypeMapi, kPassword, 'p', 8},
-                           {kTypeMapi, "&Login ID or Profile Name:", 'l', 255},
-                           {kTypeVim, kVerify, 'p', 48},
-                           {kTypeNumeric, kDelay, '1', 2},
-                           {kTypeAlpha, "&Company:", 'c', 64},
-                           {kTypeAlpha, "&Location:", 'l', 2048},
-                           {kTypeAlpha, "P&hone:", '1', 25},
-                           {kTypeAlpha, kLength, '1', 3}};
-  for (const LimitRow& row : rows) {
+  const struct {
+    std::uint32_t code;
+    const char* label;
+    char character;
+    std::size_t limit;
+    const char* tab = "General";
+  } rows[] = {{kTypeMhs, kDirectory, 'd', 260},
+              {kTypeMci, kPhone, '1', 25},
+              {kTypeCompuServe, kLogin, 'l', 48},
+              {kTypeSmtp, "&SMTP Server:", 's', 255},
+              {kTypeMapi, kPassword, 'p', 8},
+              {kTypeMapi, "&Login ID or Profile Name:", 'l', 255},
+              {kTypeVim, kVerify, 'p', 48},
+              {kTypeNumeric, kDelay, '1', 2},
+              {kTypeNumeric, kNumericBody, '7', 32, kMessageTab},
+              {kTypeAlpha, "&Company:", 'c', 64},
+              {kTypeAlpha, "&Location:", 'l', 2048},
+              {kTypeAlpha, "P&hone:", '1', 25},
+              {kTypeAlpha, kLength, '1', 3},
+              {kTypeSmtp, kSubject, 's', 256, kMessageTab},
+              {kTypeCompuServe, kSubject, 's', 40, kMessageTab},
+              {kTypeSmtp, kBody, 'b', 1024, kMessageTab},
+              {kTypeTts, kHalfBody, 'b', 510, kMessageTab}};
+  for (const auto& row : rows) {
     SCOPED_TRACE(row.label);
     Seed(row.code);
     Open([&](Person& p) {
+      p.SelectTab(row.tab);
       p.Paste(row.label, std::string(3000, row.character));
       EXPECT_EQ(p.Text(row.label).size(), row.limit);
       p.Press("Cancel");
@@ -437,28 +382,23 @@ TEST_F(ServiceSheetsTest, FieldsHoldAsMuchAsTheirRecords) {
 }
 
 TEST_F(ServiceSheetsTest, PhoneAndPagerFieldsRefuseOtherCharactersWithABeep) {
-  using namespace alerting;  // NOLINT
-  Seed(kTypeAlpha);
-  Open([&](Person& p) {
-    p.Type("P&hone:", "55a5*-(0)");
-    EXPECT_EQ(p.Text("P&hone:"), "555-(0)");
-    p.Press("Cancel");
-  });
-  Seed(kTypeCompuServe);
-  Open([&](Person& p) {
-    p.Type(kPhone, "5 5,x5");
-    EXPECT_EQ(p.Text(kPhone), "55,5");
-    p.Press("Cancel");
-  });
-  Seed(kTypeNumeric);
-  Open([&](Person& p) {
-    p.SelectTab(kMessageTab);
-    p.Type(kNumericBody, "9-1*1a#");
-    EXPECT_EQ(p.Text(kNumericBody), "91*1#");
-    p.Paste(kNumericBody, std::string(40, '7'));
-    EXPECT_EQ(p.Text(kNumericBody).size(), 32u);
-    p.Press("Cancel");
-  });
+  const struct {
+    std::uint32_t code;
+    const char *tab, *label, *typed, *taken;
+  } rows[] = {{alerting::kTypeAlpha, "General", "P&hone:", "55a5*-(0)", "555-(0)"},
+              {alerting::kTypeCompuServe, "General", kPhone, "5 5,x5", "55,5"},
+              {alerting::kTypeNumeric, kMessageTab, kNumericBody, "9-1*1a#", "91*1#"}};
+  for (const auto& row : rows) {
+    Seed(row.code);
+    Open([&](Person& p) {
+      p.SelectTab(row.tab);
+      p.Type(row.label, row.typed);
+      EXPECT_EQ(p.Text(row.label), row.taken);
+      p.Paste(row.label, "a");
+      EXPECT_EQ(p.Text(row.label), row.taken);
+      p.Press("Cancel");
+    });
+  }
   EXPECT_EQ(Script().beeps, 6);
 }
 
@@ -551,39 +491,40 @@ TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
   EXPECT_THAT(Bytes(), HasSubstr("Chosen"));
 }
 
-TEST_F(ServiceSheetsTest, ABodyThatIsTooLongIsShownAndSavedCut) {
-  Seed(alerting::kTypeTts);
-  Store<alertstore::ALRTTTSSERVICEREC>(
-      [](auto& record) { record.defaultBody.Assign(std::string(600, 'b')); });
+TEST_F(ServiceSheetsTest, ABodyAloneIsShownCutAndSavedWithoutSubjectAndWithThePriorityItHad) {
+  Seed(alerting::kTypeSnmp);
+  Store<alertstore::ALRTSNMPSERVICEREC>([](auto& record) {
+    record.defaultBody.Assign(std::string(300, 'b'));
+    record.defaultSubject.Assign("%s");
+    alerting::WriteKeywordSlots({5}, record.subjectKeywords);
+    record.defaultPriority = 2;
+  });
+  std::string expected = WithEntries(Bytes(), Rows()[1]);
+  expected.replace(3155, 257, 257, '\0').replace(4436, 1020, 1020, '\0');
   Open([](Person& p) {
     p.SelectTab(kMessageTab);
-    EXPECT_EQ(p.Text(kHalfBody).size(), 510u);
-    p.Type(kHalfBody, p.Text(kHalfBody));
+    EXPECT_EQ(p.Text(kHalfBody), std::string(255, 'b'));
+    p.Type(kHalfBody, "See to it at <Time>");
     p.Press("OK");
   });
-  EXPECT_EQ(Bytes().substr(16, 600), std::string(510, 'b') + std::string(90, '\0'));
+  EXPECT_EQ(FirstDifference(Bytes(), expected), -1);
 }
 
-TEST_F(ServiceSheetsTest, AKeywordGoesToTheCaretAndTheTwentyFirstStaysText) {
-  Seed(alerting::kTypeGeneric);
-  Expect([](Person& p) {
-    p.SelectTab(kMessageTab);
-    p.Type(kHalfBody, "Alert");
-    p.ClickInText(kHalfBody, 3);
-    p.Press(kFields);
-    EXPECT_EQ(p.Text(kHalfBody), "Ale<Time> rt");
-    EXPECT_EQ(p.Selection(kHalfBody), std::pair(10ul, 10ul));
-    EXPECT_TRUE(p.IsEnabled("Apply"));
-    std::string keywords;
-    for (int i = 0; i < 21; ++i) keywords += "<Time>";
-    p.Type(kHalfBody, keywords);
-    p.Press("OK");
-  });
-  Script().ExpectWindow("Choose Keyword", [](Person& p) { p.DoubleClickItem("&Keywords:", "<Time>"); });
-  Open();
-  std::string stored;
-  for (int i = 0; i < 20; ++i) stored += "%s";
-  EXPECT_EQ(Bytes().substr(16, 47), stored + "<Time>" + '\0');
+TEST_F(ServiceSheetsTest, MciBodiesAreBrokenIntoLinesAndCompuServeHasItsNote) {
+  constexpr char kNote[] =
+      "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
+      "truncated.";
+  for (const std::uint32_t code : {alerting::kTypeMci, alerting::kTypeCompuServe}) {
+    const bool mci = code == alerting::kTypeMci;
+    Seed(code);
+    Open([&](Person& p) {
+      p.SelectTab(kMessageTab);
+      EXPECT_EQ(p.IsVisible(kNote), !mci);
+      p.Type(kBody, std::string(100, 'b'));
+      p.Press("OK");
+    });
+    EXPECT_THAT(Bytes(), HasSubstr(std::string(mci ? 79 : 100, 'b') + (mci ? "\r\n" : "")));
+  }
 }
 
 }  // namespace

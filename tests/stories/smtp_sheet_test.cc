@@ -1,75 +1,56 @@
 // SPDX-License-Identifier: MIT
-#include "alerting/alerting.h"
-#include "companions/dbconfig/dbconfig.h"
-#include "platform/base/paths.h"
-#include "tests/stories/smtp_sheet_fixture.h"
+// What every service sheet does around its pages, and the mail pages at the keyboard, on the sheet of Internet Mail.
+#include "alerting/services/default_message.h"
+#include "tests/stories/service_sheet_fixture.h"
 
 namespace stories {
 namespace {
 
+using alertstore::ALRTSMTPSERVICEREC;
 using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::kCancel;
+using platform::ui::Key;
 using platform::ui::kOk;
 using test_support::StoreOp;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
+constexpr char kServer[] = "&SMTP Server:";
+constexpr char kPriority[] = "P&riority:";
+constexpr char kSubjectFields[] = "<< Fie&lds...";
+constexpr char kShown[] = "Alert for <User Name> at <Time>";
 constexpr char kUpdateFailed[] = "Unable to update the notification service database record.";
-constexpr char kSpecificUpdateFailed[] =
-    "Unable to update the notification service-specific database record.";
 constexpr char kReadFailed[] = "Unable to read the record from the notification service database.";
-constexpr char kCompuServeNote[] =
-    "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
-    "truncated.";
-constexpr char kApplyFirst[] =
-    "Do you want to apply changes to this service before running the test?  If yes, the changes will be "
-    "saved.  If no, the test will be run using the old values.";
 
-/// A text as a field of that width stores it.
-std::string Padded(std::string text, std::size_t width) {
-  text.resize(width);
-  return text;
-}
+const Labels kGeneralControls = {kEnable, "&Test", kServer, "..."};
+const Labels kMessageControls = {kSubject, kSubjectFields, kBody, kFields, kPriority};
 
-TEST_F(SmtpSheetTest, AnEditedServiceReachesTheStoreAndTheConfigurationFile) {
-  alerting::SetCompanions({});  // the real components
-  ExpectSheet([](Person& p) {
-    p.Type(kServer, "mail.example.org");
-    p.SelectTab(kMessageTab);
-    p.Type(kBody, "Dear ");
-    p.Press("<< &Fields...");
-    p.TypeHere("look!");
-    EXPECT_EQ(p.Text(kBody), "Dear <User Name> look!");
-    p.Press("OK");
-  });
-  Script().ExpectWindow("Choose Keyword", [](Person& p) {
-    p.Choose("&Keywords:", "<User Name>");
-    p.Press("OK");
-  });
-  EXPECT_EQ(DomainServicePropertySheet(nullptr, 0), kOk);
+class SmtpSheetTest : public ServiceSheetsTest {
+ protected:
+  void SetUp() override {
+    Seed(alerting::kTypeSmtp, 0xA5);
+    Store<ALRTSMTPSERVICEREC>([](auto& record) {
+      record.smtpServer.Assign("old.example.org");
+      record.defaultBody.Assign("Alert for %s at %s");
+      record.defaultSubject.Assign("Alert");
+      record.defaultPriority = 1;
+      alerting::WriteKeywordSlots({1, 5}, record.bodyKeywords);
+      alerting::WriteKeywordSlots({}, record.subjectKeywords);
+    });
+    Engine().Forget();
+  }
 
-  const std::string bytes = StoredBytes();
-  EXPECT_EQ(bytes.substr(16, 256), Padded("mail.example.org", 256));
-  EXPECT_EQ(bytes.substr(272, 49), Padded("alerts", 49));
-  EXPECT_EQ(bytes.substr(370, 1025), Padded("Dear %s look!", 1025));
-  const std::string id_of_user_name("\x01\0\0\0", 4);
-  EXPECT_EQ(bytes.substr(1656, 51), Padded("<User Name>", 41) + id_of_user_name + Padded("%s", 6));
-  EXPECT_EQ(bytes.substr(1656 + 51, 19 * 51), std::string(19 * 51, '\0'))
-      << "the slots of before are cleared";
-  EXPECT_EQ(bytes.substr(2676, 257), std::string(257, '\xA5')) << "unused bytes travel";
-  EXPECT_EQ(StoredCommon().virgin, 0u);
-
-  std::string file;
-  ASSERT_TRUE(platform::ReadWholeFile(Library().Directory() + "/" + dbconfig::kConfigFileName, file));
-  EXPECT_THAT(file, HasSubstr("\"mail.example.org\""));
-  EXPECT_THAT(file, HasSubstr("\"Dear %s look!\""));
-  EXPECT_THAT(file, HasSubstr("\"<User Name>\""));
-}
+  ALRTSMTPSERVICEREC Stored() const {
+    ALRTSMTPSERVICEREC record;
+    std::memcpy(&record, Bytes().data(), sizeof(record));
+    return record;
+  }
+  std::string StoredServer() const { return std::string(Stored().smtpServer.View()); }
+};
 
 TEST_F(SmtpSheetTest, WhatWasAppliedStaysAfterCancel) {
-  ExpectSheet([this](Person& p) {
+  const int result = Open([this](Person& p) {
     p.Type(kServer, "applied.example.org");
     p.Press("Apply");
     EXPECT_FALSE(p.IsEnabled("Apply"));
@@ -78,79 +59,35 @@ TEST_F(SmtpSheetTest, WhatWasAppliedStaysAfterCancel) {
     p.Type(kServer, "cancelled.example.org");
     p.Press("Cancel");
   });
-  EXPECT_EQ(Open(), kCancel);
+  EXPECT_EQ(result, kCancel);
   EXPECT_EQ(StoredServer(), "applied.example.org");
   EXPECT_EQ(Library().dbconfig.files_written, 1);
 }
 
-TEST_F(SmtpSheetTest, CancelWritesNoRecord) {
-  ExpectSheet([](Person& p) {
-    p.Type(kServer, "cancelled.example.org");
-    p.Check("&Enable Service", false);
-    p.Press("Cancel");
-  });
-  EXPECT_EQ(Open(), kCancel);
-  EXPECT_THAT(Engine().Writes(), IsEmpty());
-  EXPECT_EQ(Library().dbconfig.files_written, 1);
-}
-
 TEST_F(SmtpSheetTest, OkWithNothingTouchedWritesTheRecordsOnceMore) {
-  const std::string before = StoredBytes();
-  ExpectSheet([](Person& p) { p.Press("OK"); });
-  EXPECT_EQ(Open(), kOk);
+  const std::string before = Bytes();
+  EXPECT_EQ(Open([](Person& p) { p.Press("OK"); }), kOk);
   EXPECT_EQ(Engine().Count(CommonFile(), StoreOp::kUpdate), 1);
   EXPECT_EQ(Engine().Count(SpecificFile(), StoreOp::kUpdate), 1);
-  EXPECT_EQ(StoredBytes(), before);
-  EXPECT_EQ(StoredCommon().virgin, 0u);
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(Common().virgin, 0u);
   EXPECT_EQ(Library().dbconfig.files_written, 1);
-}
-
-TEST_F(SmtpSheetTest, AFailedUpdateKeepsTheSheetOpenUntilTheNextOkSucceeds) {
-  struct Row {
-    std::string store;
-    const char* message;
-    int common_writes;
-  };
-  for (const Row& row :
-       {Row{CommonFile(), kUpdateFailed, 0}, Row{SpecificFile(), kSpecificUpdateFailed, 1}}) {
-    SCOPED_TRACE(row.message);
-    Store([](auto& record) { record.smtpServer.Assign("old.example.org"); });
-    Engine().Forget();
-    Engine().FailAll(row.store, StoreOp::kUpdate);
-    ExpectSheet([&](Person& p) {
-      p.Type(kServer, "mail.example.org");
-      p.Press("OK");
-      EXPECT_EQ(p.Text(kServer), "mail.example.org");
-      EXPECT_TRUE(p.IsEnabled("Apply"));
-      EXPECT_THAT(Engine().HeldLocks(), IsEmpty());
-      EXPECT_EQ(Engine().Writes().size(), static_cast<std::size_t>(row.common_writes));
-      EXPECT_EQ(StoredServer(), "old.example.org");
-      Engine().FailNone();
-      p.Press("OK");
-    });
-    Script().ExpectMessage(row.message);
-    EXPECT_EQ(Open(), kOk);
-    EXPECT_EQ(StoredServer(), "mail.example.org");
-  }
 }
 
 TEST_F(SmtpSheetTest, AServiceThatCannotBeReadAgainIsShownAsItWas) {
-  Service();  // the list has read it
   Engine().FailNth(CommonFile(), StoreOp::kRetrieve, 1);
   Script().ExpectMessage(kReadFailed);
-  ExpectSheet([](Person& p) {
-    EXPECT_EQ(p.Text(kServer), "old.example.org");
+  Open([](Person& p) {
+    EXPECT_NE(p.Text(kServer), "old.example.org") << "the list has read it before that";
     p.Press("Cancel");
   });
-  EXPECT_EQ(Open(), kCancel);
 }
 
 TEST_F(SmtpSheetTest, AServiceThatAnotherConsoleDeletedCannotBeSaved) {
-  Service();
   ASSERT_EQ(alerting::ServiceStore().DBAlertRecDelete(ServiceId()), alertstore::kOk);
   Engine().Forget();
   Script().ExpectMessage(kReadFailed);
-  ExpectSheet([](Person& p) {
+  Expect([](Person& p) {
     p.Press("OK");
     p.Press("Cancel");
   });
@@ -161,25 +98,21 @@ TEST_F(SmtpSheetTest, AServiceThatAnotherConsoleDeletedCannotBeSaved) {
 }
 
 TEST_F(SmtpSheetTest, TheSheetShowsWhatIsStoredWhenItOpens) {
-  Service();
-  Store([](auto& record) { record.smtpServer.Assign("newer.example.org"); });
-  ExpectSheet([](Person& p) {
-    EXPECT_EQ(p.Text(kServer), "newer.example.org");
-    EXPECT_FALSE(p.IsEnabled("Apply"));
+  Open([](Person& p) {
+    EXPECT_EQ(p.Text(kServer), "old.example.org") << "newer than what the list has read";
+    for (const char* hidden : {kLogin, kPassword, kVerify}) EXPECT_FALSE(p.IsVisible(hidden)) << hidden;
     p.SelectTab(kMessageTab);
     EXPECT_EQ(p.Text(kSubject), "Alert");
-    EXPECT_EQ(p.Text(kBody), "Alert for <User Name> at <Time>");
-    EXPECT_EQ(p.Text("P&riority:"), "Normal");
-    EXPECT_FALSE(p.IsVisible(kCompuServeNote));
+    EXPECT_EQ(p.Text(kBody), kShown);
+    EXPECT_EQ(p.Text(kPriority), "Normal");
     EXPECT_FALSE(p.IsEnabled("Apply")) << "looking changes nothing";
     p.Press("Cancel");
   });
-  Open();
 }
 
 TEST_F(SmtpSheetTest, AConfigurationFileThatCannotBeWrittenIsReportedAfterTheSheetClosed) {
   Library().dbconfig.result = 1;
-  ExpectSheet([](Person& p) {
+  Expect([](Person& p) {
     p.Type(kServer, "mail.example.org");
     p.Press("OK");
   });
@@ -188,56 +121,171 @@ TEST_F(SmtpSheetTest, AConfigurationFileThatCannotBeWrittenIsReportedAfterTheShe
   EXPECT_EQ(StoredServer(), "mail.example.org");
 }
 
-TEST_F(SmtpSheetTest, ATestWithoutPendingEditsAsksNothing) {
-  ExpectSheet([](Person& p) {
-    p.Press("&Test");
-    p.Press("Cancel");
-  });
-  Script().ExpectMessage(kTestLater);
-  Open();
-  EXPECT_THAT(Engine().Writes(), IsEmpty());
+TEST_F(SmtpSheetTest, ATestAsksWhatToDoWithPendingEdits) {
+  const struct {
+    Answer answer;
+    bool fails;
+    const char* told;
+    const char* stored;
+  } rows[] = {{Answer::kCancel, false, nullptr, "old.example.org"},
+              {Answer::kNo, false, kTestLater, "old.example.org"},
+              {Answer::kYes, true, kUpdateFailed, "old.example.org"},
+              {Answer::kYes, false, kTestLater, "mail.example.org"}};
+  for (const auto& row : rows) {
+    Engine().Forget();
+    if (row.fails) Engine().FailAll(CommonFile(), StoreOp::kUpdate);
+    Expect([&](Person& p) {
+      p.Type(kServer, "mail.example.org");
+      p.Press("&Test");
+      EXPECT_EQ(StoredServer(), row.stored);
+      EXPECT_EQ(p.Text(kServer), "mail.example.org");
+      p.Press("Cancel");
+    });
+    Script().ExpectMessage(kApplyFirst, row.answer);
+    if (row.told != nullptr) Script().ExpectMessage(row.told);
+    Open();
+    Engine().FailNone();
+    EXPECT_EQ(Engine().Writes().empty(), StoredServer() == "old.example.org");
+  }
 }
 
-TEST_F(SmtpSheetTest, YesAppliesPendingEditsBeforeTheTest) {
-  ExpectSheet([this](Person& p) {
-    p.Type(kServer, "mail.example.org");
-    p.Press("&Test");
-    EXPECT_EQ(StoredServer(), "mail.example.org");
+/// Presses Tab from the first control on, once for each other.
+Labels TabOrder(Person& p, const Labels& controls) {
+  p.Focus(controls.front());
+  Labels order = {p.FocusedLabel()};
+  while (order.size() < controls.size()) {
+    p.Press(Key::kTab);
+    order.push_back(p.FocusedLabel());
+  }
+  return order;
+}
+
+TEST_F(SmtpSheetTest, TabFollowsTheReadingOrderAndEveryControlHasAHelpTextOfItsOwn) {
+  Expect([](Person& p) {
+    EXPECT_EQ(TabOrder(p, kGeneralControls), kGeneralControls);
+    ExpectOwnHelp(p, kGeneralControls);
+    p.SelectTab(kMessageTab);
+    EXPECT_EQ(TabOrder(p, kMessageControls), kMessageControls);
+    ExpectOwnHelp(p, kMessageControls);
+    p.Press(kFields);
+    p.Press("Cancel");
+  });
+  Script().ExpectWindow("Choose Keyword", [](Person& p) {
+    ExpectOwnHelp(p, {"&Keywords:", "OK", "Cancel"});
+    p.Press("Cancel");
+  });
+  Open();
+}
+
+TEST_F(SmtpSheetTest, EveryAccessKeyReachesItsControl) {
+  Expect([](Person& p) {
+    p.AccessKey('e');
+    EXPECT_FALSE(p.IsChecked(kEnable));
+    p.AccessKey('e');
+    EXPECT_TRUE(p.IsChecked(kEnable));
+    p.AccessKey('s');
+    EXPECT_EQ(p.FocusedLabel(), kServer);
+    p.AccessKey('a');
     EXPECT_FALSE(p.IsEnabled("Apply"));
+    p.AccessKey('t');
+    p.SelectTab(kMessageTab);
+    for (const auto& [key, label] : {std::pair{'s', kSubject}, {'m', kBody}, {'r', kPriority}}) {
+      p.AccessKey(key);
+      EXPECT_EQ(p.FocusedLabel(), label);
+    }
+    p.AccessKey('l');
+    p.AccessKey('f');
     p.Press("Cancel");
   });
-  Script().ExpectMessage(kApplyFirst, Answer::kYes);
   Script().ExpectMessage(kTestLater);
+  for (int i = 0; i < 2; ++i) {
+    Script().ExpectWindow("Choose Keyword", [](Person& p) {
+      p.AccessKey('k');
+      EXPECT_EQ(p.FocusedLabel(), "&Keywords:");
+      p.Press(Key::kEscape);
+    });
+  }
   Open();
 }
 
-TEST_F(SmtpSheetTest, NoTestRunsWhenTheChangesCannotBeApplied) {
-  Engine().FailAll(CommonFile(), StoreOp::kUpdate);
-  ExpectSheet([](Person& p) {
-    p.Type(kServer, "mail.example.org");
-    p.Press("&Test");
-    p.Press("Cancel");
+TEST_F(SmtpSheetTest, AServerUsedBeforeIsChosenAndHeadsTheListOnceItIsSaved) {
+  Open([this](Person& p) {
+    p.PressBeside(kServer, "...");
+    EXPECT_EQ(p.Text(kServer), "old.example.org") << "nothing was chosen";
+    EXPECT_FALSE(p.IsEnabled("Apply"));
+    Library().agentui.chosen_address = "recent.example.org";
+    p.PressBeside(kServer, "...");
+    EXPECT_EQ(p.Text(kServer), "recent.example.org");
+    p.Press("Apply");
+    p.SelectTab(kMessageTab);
+    p.Type(kBody, "more");
+    p.Press("OK");
   });
-  Script().ExpectMessage(kApplyFirst, Answer::kYes);
-  Script().ExpectMessage(kUpdateFailed);
-  Open();
-  EXPECT_EQ(StoredServer(), "old.example.org");
+  EXPECT_EQ(StoredServer(), "recent.example.org");
+  EXPECT_THAT(Library().agentui.recorded, ElementsAre("recent.example.org"))
+      << "a page is saved once for each edit";
 }
 
-TEST_F(SmtpSheetTest, NoTestsTheStoredValuesAndCancelTestsNothing) {
-  ExpectSheet([](Person& p) {
-    p.Type(kServer, "mail.example.org");
-    p.Press("&Test");
-    p.Press("&Test");
-    EXPECT_EQ(p.Text(kServer), "mail.example.org");
+TEST_F(SmtpSheetTest, SubjectPriorityAndLinesOfTheDefaultMessageAreStored) {
+  Expect([](Person& p) {
+    p.SelectTab(kMessageTab);
+    EXPECT_THAT(p.Items(kPriority), ElementsAre("Urgent", "Normal", "Low"));
+    p.Choose(kPriority, "Urgent");
+    p.Type(kSubject, "On <event name>: ");
+    p.Press(kSubjectFields);
+    p.Type(kBody, "100%s\nof <Tim");
+    p.Press("OK");
+  });
+  Script().ExpectWindow("Choose Keyword", [](Person& p) { p.DoubleClickItem("&Keywords:", "<Event ID>"); });
+  Open();
+  EXPECT_EQ(Stored().defaultPriority, 0u);
+  EXPECT_EQ(Stored().defaultSubject.View(), "On %s: %ld ");
+  EXPECT_EQ(alerting::ReadKeywordSlots(Stored().subjectKeywords), (alerting::KeywordIds{4, 11}));
+  EXPECT_EQ(Stored().defaultBody.View(), "100%s\r\nof <Tim");
+  EXPECT_EQ(Stored().bodyKeywords[0].id, 0u);
+}
+
+TEST_F(SmtpSheetTest, AKeywordIsInsertedAtTheCaretAndTheCaretGoesBehindIt) {
+  Expect([](Person& p) {
+    p.SelectTab(kMessageTab);
+    p.ClickInText(kBody, 3);
+    p.Press(kFields);
+    EXPECT_EQ(p.Text(kBody), kShown);
+    EXPECT_FALSE(p.IsEnabled("Apply")) << "cancelled";
+    p.Press(kFields);
+    EXPECT_EQ(p.Text(kBody), "Ale<User Name> rt for <User Name> at <Time>");
+    EXPECT_EQ(p.FocusedLabel(), kBody);
+    EXPECT_EQ(p.Selection(kBody), std::pair(15ul, 15ul));
     EXPECT_TRUE(p.IsEnabled("Apply"));
     p.Press("Cancel");
   });
-  Script().ExpectMessage(kApplyFirst, Answer::kNo);
-  Script().ExpectMessage(kTestLater);
-  Script().ExpectMessage(kApplyFirst, Answer::kCancel);
+  for (const char* button : {"Cancel", "OK"})
+    Script().ExpectWindow("Choose Keyword", [button](Person& p) { p.Press(button); });
   Open();
-  EXPECT_THAT(Engine().Writes(), IsEmpty());
+}
+
+TEST_F(SmtpSheetTest, AKeywordIsSelectedAndDeletedAsOneByKeyboardAndMouse) {
+  Open([this](Person& p) {
+    p.SelectTab(kMessageTab);
+    p.ClickInText(kBody, 31);
+    p.TypeHere("\b");
+    EXPECT_EQ(p.Selection(kBody), std::pair(25ul, 31ul));
+    EXPECT_EQ(p.Text(kBody), kShown);
+    EXPECT_EQ(Script().beeps, 1);
+    p.TypeHere("\b");
+    EXPECT_EQ(p.Text(kBody), "Alert for <User Name> at ");
+    p.Press("Apply");
+    EXPECT_EQ(Stored().defaultBody.View(), "Alert for %s at ");
+    EXPECT_EQ(alerting::ReadKeywordSlots(Stored().bodyKeywords), (alerting::KeywordIds{1}));
+    p.SelectText(kBody, 5, 16);
+    EXPECT_EQ(p.Selection(kBody), std::pair(5ul, 21ul)) << "a drag into a keyword takes it whole";
+    p.ClickInText(kBody, 12);
+    EXPECT_EQ(p.Selection(kBody), std::pair(10ul, 21ul));
+    p.Press(Key::kDelete);
+    EXPECT_EQ(p.Text(kBody), "Alert for  at ");
+    p.Press("OK");
+  });
+  EXPECT_EQ(Stored().bodyKeywords[0].id, 0u);
 }
 
 }  // namespace
