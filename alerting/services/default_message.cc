@@ -1,11 +1,19 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/services/default_message.h"
 
+#include <algorithm>
+
 namespace alerting {
 
 KeywordIds ReadKeywordSlots(const KeywordSlot (&keyword_slots)[kKeywordSlots]) {
   KeywordIds ids{};
   for (std::size_t i = 0; i < kMaxKeywords; ++i) ids[i] = keyword_slots[i].id;
+  return ids;
+}
+
+KeywordIds ResponseKeywords(const std::uint8_t (&bytes)[kMaxKeywords]) {
+  KeywordIds ids{};
+  std::copy(std::begin(bytes), std::end(bytes), ids.begin());
   return ids;
 }
 

@@ -43,6 +43,9 @@ void WriteDefaultMessage(const DefaultMessage& message, Record& record) {
   }
 }
 
+/// Identifiers as a response stores them.
+KeywordIds ResponseKeywords(const std::uint8_t (&bytes)[kMaxKeywords]);
+
 /// Puts message and keywords of a default message into a response.
 void InitResponseMessage(const DefaultMessage& message, ALERTRESPREC& response);
 /// The same for the subject.

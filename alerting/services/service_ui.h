@@ -15,6 +15,8 @@ struct ServiceUi {
   CAlertPage* (*response_panel)(CNtfyService& service, ALERTRESPREC* response,
                                 std::uint32_t wizard_buttons) = nullptr;
   CAlertPage* (*user_panel)(CNtfyService& service, const GUID& user, std::uint32_t wizard_buttons) = nullptr;
+  /// Tests the service; true when the dialog ended with OK.
+  bool (*site_test)(CNtfyService& service, ui::Window* parent) = nullptr;
   bool (*user_test)(CNtfyService& service, const GUID& user, ui::Window* parent) = nullptr;
   bool (*select_user)(CNtfyService& service, ui::Window* parent, std::string& name, GUID& user) = nullptr;
   bool (*send_test)(CNtfyService& service, const GUID& target, const char* message,

@@ -49,10 +49,7 @@ CPropPgNumericPageDefMsg::CPropPgNumericPageDefMsg()
     : CBodyPage(ctxhelp::kHelpNumericMessage), message_(*this, kIdBody, kNumericCaption) {
   message_.SetLimit(kMaxNumericMessage);
   SetLayout(ui::Column(
-      {ui::Group(kNumericCaption, {ui::Note("Enter a numeric message using numbers 0-9, *, and #.   "
-                                            "Example: *911*"),
-                                   ui::Bare(message_)}),
-       ui::Stretch()}));
+      {ui::Group(kNumericCaption, {ui::Note(kNumericMessageHint), ui::Bare(message_)}), ui::Stretch()}));
 }
 
 void CPropPgNumericPageDefMsg::OnInitDialog() {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "alerting/sheets/general_page.h"
 
-#include "alerting/frame/messages.h"
+#include "alerting/services/service_ui.h"
 #include "alerting/sheets/service_sheet.h"
 
 namespace alerting {
@@ -47,7 +47,7 @@ void CGeneralPage::OnEnableClicked() {
 
 void CGeneralPage::OnTest() {
   if (sheet_ != nullptr && !sheet_->ConfirmApplyBeforeTest()) return;
-  ShowMessage(kIdsTestLater, this);
+  if (const auto test = ServiceUiOf(Service().Type().code).site_test) test(Service(), this);
 }
 
 }  // namespace alerting

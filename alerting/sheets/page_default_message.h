@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "alerting/responses/message_field.h"
+#include "alerting/responses/mail_fields.h"
 #include "alerting/sheets/service_page.h"
 
 namespace alerting {
@@ -13,13 +13,11 @@ class CPropPgDefaultMsg : public CServicePage {
 
  private:
   void OnInitDialog() override;
-  void Exchange(ui::DataExchange& x) override;
-  bool SaveFields() override;
+  void Exchange(ui::DataExchange& x) override { mail_.Exchange(x); }
+  bool SaveFields() override { return Service().SetDefaultMessage(mail_.Message(Service())); }
 
-  MessageField subject_;
+  MailFields mail_;
   ui::StaticText subject_note_;
-  MessageField body_;
-  ui::ComboBox priority_;
 };
 
 }  // namespace alerting

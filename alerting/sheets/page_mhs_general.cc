@@ -14,14 +14,6 @@ constexpr int kIdBrowse = 103;
 constexpr std::size_t kMaxDirectory = 260;
 constexpr int kFirstWithFolderDialog = 4;
 
-/// Brings a path into universal form; the code says how near it came.
-int ToUniversal(std::string& path) {
-  char universal[kPathSize];
-  const int code = MakeUniversalPath(universal, path.c_str());
-  if (code != kPathInvalid) path = universal;
-  return code;
-}
-
 }  // namespace
 
 CPropPgMHSGeneral::CPropPgMHSGeneral()

@@ -45,6 +45,13 @@ PathCode MakeUniversalPath(char* out_path, const char* in_path) {
   return path.size() < kPathSize ? Convert(out_path, path) : kPathInvalid;
 }
 
+PathCode ToUniversal(std::string& path) {
+  PathBuffer universal;
+  const PathCode code = MakeUniversalPath(universal, path.c_str());
+  if (code != kPathInvalid) path = universal;
+  return code;
+}
+
 void ShowPathWarning(int code, ui::Window* parent) {
   if (code != kPathDone)
     ui::MessageBox(WarningText(code), ui::Buttons::kOk, ui::MessageIcon::kWarning, parent);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "companions/netpath/netpath.h"
 #include "platform/ui/window.h"
 
@@ -23,6 +25,9 @@ enum PathCode : int {
 /// machines find the file. `out_path` holds kPathSize bytes and may be `in_path` itself; it stays as it is where the
 /// answer is kPathInvalid.
 PathCode MakeUniversalPath(char* out_path, const char* in_path);
+
+/// The same in place. A path that is too long stays as it is.
+PathCode ToUniversal(std::string& path);
 
 /// Tells what a code other than kPathDone means: after a file was chosen.
 void ShowPathWarning(int code, ui::Window* parent = nullptr);

@@ -77,6 +77,8 @@ class Window {
   /// Copies controls into members (`save`) or members into controls. What a panel asks of its host before it
   /// applies; false when a value is refused, after the message was shown.
   virtual bool UpdateData(bool save);
+  /// Says what a wait of this window's is for, "" at its end. Windows without a place for it say nothing.
+  virtual void ShowProgress(const std::string& /*what*/) {}
   /// Sets the wizard buttons (WizardButton flags) of a window that has them; others ignore it.
   virtual void SetWizardButtons(std::uint32_t flags);
 

@@ -39,7 +39,7 @@ class QuietDesktop : public platform::ui::Desktop {
   std::set<std::string> titles;
   int messages = 0;
   std::vector<std::string> windows;  ///< captions of those that were opened
-  std::string chosen, asked;  ///< in file dialogs; "" cancels
+  std::string chosen, asked;         ///< in file dialogs; "" cancels
 };
 
 /// Every export by name, and how it is called: api.DomainServiceGetCount().
@@ -138,7 +138,7 @@ class ExportsTest : public ::testing::Test {
   const GUID manager_ = GUID::Generate();
 };
 
-TEST_F(ExportsTest, FiftyFourDecoratedNamesLeaveTheLibraryAndNothingElse) {
+TEST_F(ExportsTest, FiftyNineDecoratedNamesLeaveTheLibraryAndNothingElse) {
   std::set<std::string> expected;
 #define ALERTING_EXPORT(result, name, arguments, bytes) expected.insert("_" #name "@@ARGS_" #bytes);
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) expected.insert(#name);
@@ -154,7 +154,7 @@ TEST_F(ExportsTest, FiftyFourDecoratedNamesLeaveTheLibraryAndNothingElse) {
     if (std::sscanf(line, "%63s %7s %255s", address, kind, name) == 3 && kind[0] != 'A') leaving.insert(name);
   ASSERT_EQ(pclose(nm), 0);
   EXPECT_EQ(leaving, expected);
-  EXPECT_EQ(leaving.size(), 54U);
+  EXPECT_EQ(leaving.size(), 59U);
   EXPECT_EQ(library_->Find("_DomainServiceInit@28"), nullptr) << "another byte count";
 }
 
@@ -312,7 +312,8 @@ TEST_F(ExportsTest, DialingHasItsWindowsAndFourFunctionsDoNothing) {
   EXPECT_EQ(api_->DialingPropertiesDialog(nullptr, nullptr), 1);
   EXPECT_EQ(api_->DialingPropertiesDialog(nullptr, "Nowhere"), 1);
   EXPECT_EQ(api_->RulesDialog(nullptr, rule, nullptr, nullptr), 1);
-  EXPECT_THAT(desktop_.windows, testing::ElementsAre("Dialing Properties", "Dialing Properties", "Dialing Rules"));
+  EXPECT_THAT(desktop_.windows,
+              testing::ElementsAre("Dialing Properties", "Dialing Properties", "Dialing Rules"));
   EXPECT_STREQ(rule, "rule");
   EXPECT_EQ(api_->SetPhoneNumberDialog(0, 1, 2, 3, 4), 2);
   EXPECT_EQ(api_->ChooseIPDialog(0, 1), 2);

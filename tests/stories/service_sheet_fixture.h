@@ -22,7 +22,6 @@ inline constexpr char kBody[] = "Mail &Message Body:";
 inline constexpr char kHalfBody[] = "&Edit Default Message:";
 inline constexpr char kNumericBody[] = "&Edit Default Message";
 inline constexpr char kFields[] = "<< &Fields...";
-inline constexpr char kTestLater[] = "Test sends are not available in this version.";
 inline constexpr char kApplyFirst[] =
     "Do you want to apply changes to this service before running the test?  If yes, the changes will be "
     "saved.  If no, the test will be run using the old values.";
@@ -65,6 +64,10 @@ class ServiceSheetsTest : public StoryTest {
   }
 
   void Expect(desktops::Script::Story story) { Script().ExpectWindow(kSheet, std::move(story)); }
+  /// The window of a site test opens; the person goes away from it.
+  void ExpectTest(const std::string& caption = "Site Alerting Service Test: ") {
+    Script().ExpectWindow(caption + " " + kSheet, [](desktops::Person& p) { p.Press("Cancel"); });
+  }
   int Open() { return DomainServicePropertySheet(nullptr, *alerting::TheServices().FindById(id_)); }
   int Open(desktops::Script::Story story) {
     Expect(std::move(story));

@@ -125,12 +125,12 @@ TEST_F(SmtpSheetTest, ATestAsksWhatToDoWithPendingEdits) {
   const struct {
     Answer answer;
     bool fails;
-    const char* told;
+    const char* told;  ///< null: the test is called off; "": it opens
     const char* stored;
   } rows[] = {{Answer::kCancel, false, nullptr, "old.example.org"},
-              {Answer::kNo, false, kTestLater, "old.example.org"},
+              {Answer::kNo, false, "", "old.example.org"},
               {Answer::kYes, true, kUpdateFailed, "old.example.org"},
-              {Answer::kYes, false, kTestLater, "mail.example.org"}};
+              {Answer::kYes, false, "", "mail.example.org"}};
   for (const auto& row : rows) {
     Engine().Forget();
     if (row.fails) Engine().FailAll(CommonFile(), StoreOp::kUpdate);
@@ -142,7 +142,8 @@ TEST_F(SmtpSheetTest, ATestAsksWhatToDoWithPendingEdits) {
       p.Press("Cancel");
     });
     Script().ExpectMessage(kApplyFirst, row.answer);
-    if (row.told != nullptr) Script().ExpectMessage(row.told);
+    if (row.fails) Script().ExpectMessage(row.told);
+    if (row.told != nullptr && !row.fails) ExpectTest();
     Open();
     Engine().FailNone();
     EXPECT_EQ(Engine().Writes().empty(), StoredServer() == "old.example.org");
@@ -197,7 +198,7 @@ TEST_F(SmtpSheetTest, EveryAccessKeyReachesItsControl) {
     p.AccessKey('f');
     p.Press("Cancel");
   });
-  Script().ExpectMessage(kTestLater);
+  ExpectTest();
   for (int i = 0; i < 2; ++i) {
     Script().ExpectWindow("Choose Keyword", [](Person& p) {
       p.AccessKey('k');

@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "companions/agentui/test_request.h"
 #include "companions/alertstore/console_users.h"
 
 namespace test_support {
@@ -17,6 +18,15 @@ void FakeDbConfig::GetQEVDataDirectory(char* buffer, std::size_t size) {
 
 void FakeAgentUi::DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) {
   if (!chosen_address.empty()) std::strcpy(buffer, chosen_address.c_str());
+}
+
+void FakeAgentUi::SendTestButtonToAlertServer(const void* bytes) {
+  agentui::TestRequest asked;
+  std::memcpy(&asked, bytes, sizeof(asked));
+  request.assign(static_cast<const char*>(bytes), sizeof(asked));
+  sent_text = reinterpret_cast<const char*>(static_cast<std::uintptr_t>(std::uint32_t{asked.text_address}));
+  EXPECT_TRUE(agentui::ReadTestRequest(bytes, sent));
+  recorded.push_back("send");
 }
 
 // In memory where the machine has such a place: what survives a power cut is not the matter here.

@@ -45,17 +45,25 @@ class FakeAgentUi : public agentui::AgentUi {
  public:
   void FillComboWithMRUList(platform::ui::ComboBox&) override {}
   void AddEntryToMRUList(const char* program) override { recorded.push_back(program); }
-  void FreeComboMRUData(platform::ui::ComboBox&) override {}
+  void FreeComboMRUData(platform::ui::ComboBox&) override { recorded.push_back("freed"); }
   void AddIPAddressToMRUList(const char* address) override { recorded.push_back(address); }
   void AddCommunityNameToMRUList(const char* community) override { recorded.push_back(community); }
   void DisplayIPAddressMRUListDialog(platform::ui::Window*, char* buffer) override;
   void DisplayCommunityNameMRUListDialog(platform::ui::Window*, char*) override {}
-  void RegisterTestButtonCallbackMessageHandler(void (*)(std::uint32_t)) override {}
-  void SendTestButtonToAlertServer(const void*) override {}
-  void DisplayTestEventResultsDialog(platform::ui::Window*, std::uint32_t) override {}
+  void RegisterTestButtonCallbackMessageHandler(void (*handler)(std::uint32_t)) override {
+    recorded.push_back("register");
+    report = handler;
+  }
+  void SendTestButtonToAlertServer(const void* request) override;
+  void DisplayTestEventResultsDialog(platform::ui::Window*, std::uint32_t value) override {
+    recorded.push_back("report " + std::to_string(value));
+  }
 
   std::string chosen_address;
   std::vector<std::string> recorded;
+  std::string request, sent_text;   ///< the last test's bytes, and the text it names
+  alertstore::ALERTRESPREC sent{};  ///< and the record
+  void (*report)(std::uint32_t) = nullptr;
 };
 
 /// The loaded library over an empty data directory of its own, with stand-ins for the other components and an
