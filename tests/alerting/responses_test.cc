@@ -65,8 +65,7 @@ TEST_F(ResponsesTest, AnEmptyDefaultMessageClearsAndWideIdentifiersKeepTheirLowB
   CNtfyService& service = NewService(kTypeSmtp);
   ALERTRESPREC response = Full(1);
   ASSERT_TRUE(service.InitWithDefaultMessage(response));
-  EXPECT_TRUE(response.message.Empty());
-  EXPECT_TRUE(response.subject.Empty());
+  EXPECT_TRUE(response.message.Empty() && response.subject.Empty());
   EXPECT_EQ(response.priority, 0);
   EXPECT_THAT(response.messageKeywords, Each(0));
 
@@ -82,15 +81,15 @@ TEST_F(ResponsesTest, RetargetingTakesOverTheServiceOnce) {
   CNtfyService& service = NewService(kTypeSmtp);
   ALERTRESPREC response = Full(1);
   ASSERT_TRUE(service.ReinitializeResponse(response));
-  EXPECT_EQ(response.serviceRecordType, 5U);
-  EXPECT_EQ(response.responseType, 1);
-  EXPECT_EQ(response.serviceId, service.ServiceId());
-  EXPECT_EQ(response.serviceName.View(), "Service");
-  EXPECT_TRUE(response.message.Empty());
-  EXPECT_TRUE(response.subject.Empty());
-  EXPECT_THAT(response.messageKeywords, Each(0));
-  EXPECT_THAT(response.subjectKeywords, Each(0));
-  EXPECT_EQ(response.priority, 9) << "left as it was";
+  ALERTRESPREC expected = Full(5);  // the priority is left as it was
+  expected.responseType = 1;
+  expected.serviceId = service.ServiceId();
+  expected.serviceName.Assign("Service");
+  expected.message.Assign("");
+  expected.subject.Assign("");
+  std::memset(expected.messageKeywords, 0, 20);
+  std::memset(expected.subjectKeywords, 0, 20);
+  EXPECT_EQ(BytesOf(response), BytesOf(expected));
 
   response.message.Assign("typed since");
   const ALERTRESPREC before = response;

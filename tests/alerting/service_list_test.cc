@@ -43,10 +43,8 @@ TEST_F(ServiceListTest, AnEmptyStoreIsReportedOnceAndAnswersAsTheLastGoodRead) {
 
 TEST_F(ServiceListTest, ListsTypesWithAClassInTheOrderOfTheStore) {
   SeedService(kTypeWave, "a wave");
-  SeedCommon(RecordTypeOf(kTypePhone), "a phone call");
-  SeedCommon(RecordTypeOf(kTypeScript), "a script");
-  SeedCommon(0, "no type");
-  SeedCommon(16, "no type either");
+  for (const std::uint32_t type : {RecordTypeOf(kTypePhone), RecordTypeOf(kTypeScript), 0U, 16U})
+    SeedCommon(type, "a phone call, a script, or no type");
   SeedService(kTypeProgram, "a program");
   const GUID second_wave = SeedService(kTypeWave, "another wave");
   ASSERT_TRUE(TheServices().Read());
@@ -55,10 +53,7 @@ TEST_F(ServiceListTest, ListsTypesWithAClassInTheOrderOfTheStore) {
   EXPECT_EQ(TheServices().GetAt(3), nullptr);
   EXPECT_EQ(TheServices().FindById(second_wave), 2);
   EXPECT_EQ(TheServices().FindById(kNullGuid), std::nullopt);
-  EXPECT_TRUE(TheServices().IsFirstOfType(0));
-  EXPECT_TRUE(TheServices().IsFirstOfType(1));
-  EXPECT_FALSE(TheServices().IsFirstOfType(2));
-  EXPECT_FALSE(TheServices().IsFirstOfType(3));
+  for (int i = -1; i < 4; ++i) EXPECT_EQ(TheServices().IsFirstOfType(i), i == 0 || i == 1) << i;
 
   EXPECT_TRUE(TheServices().DeleteAt(0));
   EXPECT_THAT(Names(), ElementsAre("a program", "another wave"));

@@ -68,8 +68,7 @@ std::string Expected(const Layout& layout, std::string bytes) {
   PutText(bytes, layout.login, "operator");
   PutText(bytes, layout.password, "secret");
   PutText(bytes, layout.place, "555-1234");
-  PutText(bytes, layout.text1, "");
-  PutText(bytes, layout.text2, "");
+  for (const Place& text : {layout.text1, layout.text2}) PutText(bytes, text, "");
   PutU32(bytes, layout.delay, 17);
   return bytes;
 }

@@ -28,6 +28,16 @@ class UsersTest : public ServiceTest {
   static std::string CurrentUser(CNtfyService& service) {
     return WithUserRecord(service, [](auto&, auto& record) { return BytesOf(record); });
   }
+  /// "name, address, enabled" as they are read over `entry`.
+  static std::string EntryOf(CNtfyServiceUserBase& service, const GUID& user, UserEntry entry = {}) {
+    EXPECT_TRUE(service.GetUserEntry(user, entry));
+    return entry.name + ", " + entry.address + ", " + std::to_string(entry.enabled);
+  }
+  /// The address that is suggested; "-" for none.
+  static std::string AddressOf(CNtfyServiceUserBase& service, const GUID& user) {
+    std::string address;
+    return service.GetUserAddress(user, address) ? address : "-";
+  }
   static auto Links(const GUID& user) { return RecordsOf(UserLinkStore(), kLinkByUser, &user); }
 };
 
@@ -80,10 +90,7 @@ TEST_F(UsersTest, AnEntryIsWrittenAtItsOffsetsAndUpdatedInPlace) {
 
     TheServices().RemoveAll();
     CNtfyService& reread = *Find(id);
-    UserEntry entry;
-    EXPECT_TRUE(Users(reread).GetUserEntry(user, entry));
-    EXPECT_EQ(entry.address, "555-2");
-    EXPECT_EQ(entry.enabled, 0U);
+    EXPECT_EQ(EntryOf(Users(reread), user), "Op, 555-2, 0");
     EXPECT_EQ(CurrentUser(reread), expected) << "what was read is the current user";
   }
 }
@@ -100,15 +107,8 @@ TEST_F(UsersTest, AListHoldsTenThousandUsers) {
 TEST_F(UsersTest, AUserWithoutAnEntryHasTheConsolesNameAndIsEnabled) {
   const GUID user = MakeUser("Operator One");
   auto& service = NewServiceAs<CNtfyServiceSMTP>(kTypeSmtp, "Mail");
-  UserEntry entry{"", "as it was", 0};
-  EXPECT_TRUE(service.GetUserEntry(user, entry));
-  EXPECT_EQ(entry.name, "Operator One");
-  EXPECT_EQ(entry.address, "as it was");
-  EXPECT_EQ(entry.enabled, 1U);
-  UserEntry unknown{"kept", "", 0};
-  EXPECT_TRUE(service.GetUserEntry(GUID::Generate(), unknown));
-  EXPECT_EQ(unknown.name, "kept");
-  EXPECT_EQ(unknown.enabled, 1U);
+  EXPECT_EQ(EntryOf(service, user, {"", "as it was", 0}), "Operator One, as it was, 1");
+  EXPECT_EQ(EntryOf(service, GUID::Generate(), {"kept", "", 0}), "kept, , 1");
 }
 
 TEST_F(UsersTest, ALinkToAnotherServiceOfTheTypeIsNoLinkToThisOne) {
@@ -117,10 +117,8 @@ TEST_F(UsersTest, ALinkToAnotherServiceOfTheTypeIsNoLinkToThisOne) {
   auto& second = Users(NewService(kTypeSmtp));
   EXPECT_FALSE(second.IsUserConfigured(user));
   EXPECT_FALSE(second.DeleteUser(user));
-  std::string address;
-  EXPECT_TRUE(second.GetUserAddress(user, address)) << "an address is suggested without a link";
-  EXPECT_EQ(address, "op@example.org");
-  EXPECT_FALSE(second.GetUserAddress(GUID::Generate(), address));
+  EXPECT_EQ(AddressOf(second, user), "op@example.org") << "an address is suggested without a link";
+  EXPECT_EQ(AddressOf(second, GUID::Generate()), "-");
 }
 
 TEST_F(UsersTest, DeletingTakesRecordAndLinkButLeavesARecordWithoutALink) {
@@ -129,24 +127,18 @@ TEST_F(UsersTest, DeletingTakesRecordAndLinkButLeavesARecordWithoutALink) {
   ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "555-1", 1}));
   ASSERT_TRUE(service.DeleteUserLink(user));
   EXPECT_FALSE(service.DeleteUser(user));
-  std::string address;
-  EXPECT_TRUE(service.GetUserAddress(user, address));
 
   ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "555-2", 1}));
   EXPECT_TRUE(service.DeleteUser(user));
   EXPECT_FALSE(service.IsUserConfigured(user));
-  EXPECT_TRUE(service.GetUserAddress(user, address));
-  EXPECT_EQ(address, "555-1") << "only the record of the link is gone";
+  EXPECT_EQ(AddressOf(service, user), "555-1") << "only the record of the link is gone";
 }
 
 TEST_F(UsersTest, OneCallAddsAMailUserWithItsLink) {
   const GUID user = MakeUser("Operator");
   auto& service = NewServiceAs<CNtfyServiceMHS>(kTypeMhs, "Mail");
   ASSERT_TRUE(service.AddUserWithLink("Op", "op@site", user));
-  UserEntry entry;
-  EXPECT_TRUE(service.GetUserEntry(user, entry));
-  EXPECT_EQ(entry.name + entry.address, "Opop@site");
-  EXPECT_EQ(entry.enabled, 1U);
+  EXPECT_EQ(EntryOf(service, user), "Op, op@site, 1");
   ASSERT_EQ(Links(user).size(), 1U);
   EXPECT_EQ(Links(user)[0].serviceName.View(), "Mail");
 }
@@ -163,8 +155,7 @@ TEST_F(UsersTest, MciKeepsTheOtherMailSystemOfAUser) {
   ASSERT_TRUE(service.SaveUserEntry(user, {"Op", "op", 1}));
   EXPECT_TRUE(service.SetUserExtra(1, "EMS", user));
   EXPECT_TRUE(service.GetUserExtra(enabled, address, user));
-  EXPECT_EQ(enabled, 1U);
-  EXPECT_EQ(address, "EMS");
+  EXPECT_EQ(address + std::to_string(enabled), "EMS1");
   const std::string record = CurrentUser(service);
   EXPECT_STREQ(record.data() + 366, "EMS");
   EXPECT_EQ(record[362], 1);
@@ -185,8 +176,8 @@ TEST_F(UsersTest, ListsTheUsersOfThisServiceWithTheirIdentities) {
   EXPECT_EQ(dialog.list.ItemText(0), "Ann");
   EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(0)), ann);
   EXPECT_EQ(ListedUsers::UserOf(dialog.list.Data(1)), bob);
-  EXPECT_THAT(desktop.TakeMessages(), ElementsAre("No records in the user installed services database.",
-                                                  "No records in the user installed services database."));
+  const char* none = "No records in the user installed services database.";
+  EXPECT_THAT(desktop.TakeMessages(), ElementsAre(none, none));
 }
 
 TEST_F(UsersTest, TypesWithoutUsersAnswerForNone) {
@@ -202,12 +193,9 @@ TEST_F(UsersTest, TypesWithoutUsersAnswerForNone) {
     EXPECT_EQ(service.IsUserConfigured(user), code != kTypeTts && code != kTypeGeneric);
     auto* users = dynamic_cast<CNtfyServiceUserBase*>(&service);
     if (users == nullptr) continue;
-    UserEntry entry{"kept", "kept", 5};
-    std::string address = "kept";
-    EXPECT_TRUE(users->GetUserEntry(user, entry));
-    EXPECT_TRUE(users->SaveUserEntry(user, entry));
-    EXPECT_FALSE(users->GetUserAddress(user, address));
-    EXPECT_EQ(entry.name + address, "keptkept");
+    EXPECT_EQ(EntryOf(*users, user, {"kept", "kept", 5}), "kept, kept, 5");
+    EXPECT_TRUE(users->SaveUserEntry(user, {"kept", "kept", 5}));
+    EXPECT_EQ(AddressOf(*users, user), "-");
   }
 }
 

@@ -122,12 +122,15 @@ TEST_F(AlertctlSiteTest, WhatShowsNoConfigurationFileSaysWhatIsThere) {
   std::filesystem::create_directories(file);
   EXPECT_THAT(Run({"config", "show"}), Fails(5, "directory"));
   std::filesystem::remove(file);
-  const std::string too_deep = "{\"a\":" + std::string(12000, '[') + std::string(12000, ']') + "}";
-  for (const std::string& bytes :
-       {std::string("{\"password\": \"x\"}"), std::string("[]"), std::string("{"), too_deep}) {
+  const std::pair<std::string, const char*> rows[] = {
+      {"{\"password\": \"x\"}", "of this version"},
+      {"[]", "damaged"},
+      {"{", "damaged"},
+      {"{\"a\":" + std::string(12000, '[') + std::string(12000, ']') + "}", "damaged"}};
+  for (const auto& [bytes, says] : rows) {
     WriteFile(file, bytes);
     EXPECT_THAT(Run({"config", "show", "--json"}),
-                Fails(4, AllOf(HasSubstr(file), HasSubstr("config write"))))
+                Fails(4, AllOf(HasSubstr(file), HasSubstr("config write"), HasSubstr(says))))
         << bytes.substr(0, 20);
   }
 }
