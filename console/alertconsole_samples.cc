@@ -5,7 +5,9 @@
 
 #include <filesystem>
 
+#include "companions/alertrecords/user_entry.h"
 #include "companions/alertstore/backup.h"
+#include "companions/alertstore/console_users.h"
 #include "companions/alertstore/problem.h"
 #include "companions/alertstore/stores.h"
 #include "console/alertconsole_library.h"
@@ -87,6 +89,27 @@ void AddSnmpManager() {
   });
 }
 
+/// A user who is reached by Internet Mail.
+void AddUser() {
+  constexpr std::uint32_t kInternetMail = 5;
+  CAlertNtfyServDB services;
+  CAlertUsrInstServDB links;
+  ALRTNTFYSERV service{};
+  if (!FindFirst(services, service)) return;
+  while (service.recordType != kInternetMail)
+    if (services.DBAlertRecFindNext(service) != kOk) return;
+  const auto user = platform::GUID::Generate();
+  platform::GUID link_id{}, record_id{};
+  ALRTUSR_SMTPSERVICEREC record{};
+  ALRTUSRINSTSERV link{};
+  alertrecords::FillUserRecord(user, "Night Operator", "night@example.org", 1, record);
+  alertrecords::FillUserLink(user, service.serviceId, service.name.View(), link);
+  link.recordType = kInternetMail;
+  Require(AddConsoleUser(user, "Night Operator"));
+  Require(links.DBOpen());
+  Require(links.DBAlertRecAdd(link, link_id, record, record_id));
+}
+
 template <class Record>
 void LogIn(Record& record) {
   record.loginId.Assign("alerts");
@@ -133,6 +156,7 @@ SampleSite::SampleSite() : directory_(std::filesystem::temp_directory_path() / "
   CopySite();
   const ALRTSERV_MODEM modem = AddModem();
   AddSnmpManager();
+  AddUser();
   FillMail(modem);
   FillPagers(modem);
 }

