@@ -16,9 +16,10 @@ LayoutMaker CopyOfLayout(const QLayout* layout);
 WidgetMaker CopyOfWidget(const QWidget& widget);
 
 WidgetMaker CopyOf(const QLabel& label) {
-  return [text = label.text(), wraps = label.wordWrap()](QWidget* parent) {
+  return [text = label.text(), wraps = label.wordWrap(), leads = label.buddy() != nullptr](QWidget* parent) {
     auto* copy = new QLabel(text, parent);
     copy->setWordWrap(wraps);
+    if (leads) copy->setBuddy(parent);  // shows the access key
     return copy;
   };
 }
@@ -84,19 +85,23 @@ WidgetMaker CopyOf(const QTreeWidget& list) {
   std::vector<QStringList> rows;
   for (int i = 0; i < list.topLevelItemCount(); ++i) rows.push_back(CellsOf(*list.topLevelItem(i)));
   const int current = list.indexOfTopLevelItem(list.currentItem());
-  return
-      [titles = CellsOf(*list.headerItem()), hidden = list.isHeaderHidden(), rows, current](QWidget* parent) {
-        auto* copy = new QTreeWidget(parent);
-        copy->setRootIsDecorated(false);
-        copy->setUniformRowHeights(true);
-        copy->setHeaderLabels(titles);
-        copy->setHeaderHidden(hidden);
-        QList<QTreeWidgetItem*> items;
-        for (const QStringList& row : rows) items << new QTreeWidgetItem(row);
-        copy->addTopLevelItems(items);
-        copy->setCurrentItem(copy->topLevelItem(current));
-        return copy;
-      };
+  std::vector<int> widths;
+  for (int column = 0; column < list.columnCount(); ++column) widths.push_back(list.columnWidth(column));
+  return [titles = CellsOf(*list.headerItem()), hidden = list.isHeaderHidden(), rows, current,
+          widths](QWidget* parent) {
+    auto* copy = new QTreeWidget(parent);
+    copy->setRootIsDecorated(false);
+    copy->setUniformRowHeights(true);
+    copy->setHeaderLabels(titles);
+    copy->setHeaderHidden(hidden);
+    QList<QTreeWidgetItem*> items;
+    for (const QStringList& row : rows) items << new QTreeWidgetItem(row);
+    copy->addTopLevelItems(items);
+    copy->setCurrentItem(copy->topLevelItem(current));
+    int column = 0;
+    for (const int width : widths) copy->setColumnWidth(column++, width);
+    return copy;
+  };
 }
 
 WidgetMaker CopyOf(const QTabWidget& tabs) {
@@ -185,8 +190,9 @@ LayoutMaker CopyOf(const QGridLayout& grid) {
   }
   for (int i = 0; i < grid.rowCount(); ++i) row_shares.push_back(grid.rowStretch(i));
   for (int i = 0; i < grid.columnCount(); ++i) column_shares.push_back(grid.columnStretch(i));
-  return [=](QWidget* parent) {
+  return [=, margins = grid.contentsMargins()](QWidget* parent) {
     auto* copy = new QGridLayout;
+    copy->setContentsMargins(margins);
     for (const Placed& at : items) {
       if (at.widget)
         copy->addWidget(at.widget(parent), at.row, at.column, at.row_span, at.column_span, at.alignment);
@@ -206,8 +212,11 @@ LayoutMaker CopyOf(const QBoxLayout& box) {
     if (IsHidden(*box.itemAt(i))) continue;
     items.emplace_back(PlacedOf(*box.itemAt(i))).share = box.stretch(i);
   }
-  return [items, direction = box.direction()](QWidget* parent) {
+  return [items, direction = box.direction(), margins = box.contentsMargins(),
+          spacing = box.spacing()](QWidget* parent) {
     auto* copy = new QBoxLayout(direction);
+    copy->setContentsMargins(margins);
+    copy->setSpacing(spacing);
     for (const Placed& at : items) {
       if (at.widget)
         copy->addWidget(at.widget(parent), at.share, at.alignment);

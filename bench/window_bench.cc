@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 // How fast the library's windows open and its longest lists fill on the Qt desktop, each against a bare window of the
-// toolkit with the same contents (bench/bare_window.h), in the same run and in turn.
+// toolkit with the same contents (bench/bare_window.h), in the same run and in turn; opening.h says what an opening is.
 //
-// Opening lasts from the call until the window and all in it has been painted for the first time; closing is left out. The
-// library's time has in it what a person waits for: records that a window reads, the model of each control, the widgets,
-// their layout, and for a sheet the room for its pages that are not in front yet. The bare window reads nothing: its texts
-// are in memory.
+// The library's time has in it what a person waits for: reading the records, the model of each control, the widgets and
+// their layout, and the room for a sheet's pages that are not in front yet. The bare window has its texts in memory and
+// only the page in front.
 //
-// A list fills while its window opens. Each has two lines: filled from its records, and filled from texts in memory, where
-// both sides only show what they have.
+// A list fills while its window opens. Each list has two lines. "Read and shown": the library's own window, which reads
+// the records; the bare one still reads nothing. "Shown": a window with the list alone, from texts in memory on both sides.
 //
 //   window_bench [repetitions]
-#include <QtWidgets>
+#include <QApplication>
+#include <QLoggingCategory>
 #include <filesystem>
 #include <optional>
 
@@ -22,8 +22,9 @@
 #include "alerting/telephony/manage_modem_types_dlg.h"
 #include "alerting/telephony/modem_lists.h"
 #include "alerting/telephony/set_pager_provider_dlg.h"
-#include "bench/bare_window.h"
 #include "bench/measure.h"
+#include "bench/opening.h"
+#include "desktops/qt/offscreen.h"
 #include "desktops/qt/qt_desktop.h"
 #include "platform/ui/dialog.h"
 
@@ -58,69 +59,13 @@ class Site {
   std::string directory_;
 };
 
-/// Waits for the next window to be painted, calls `then` with it once all in it is painted too, and closes it.
-class FirstPaint : public QObject {
- public:
-  explicit FirstPaint(std::function<void(QWidget&)> then) : then_(std::move(then)) {
-    qApp->installEventFilter(this);
-  }
-
- private:
-  // A window is painted before what is in it, in one go.
-  bool eventFilter(QObject* object, QEvent* event) override {
-    auto* window = event->type() == QEvent::Paint ? qobject_cast<QDialog*>(object) : nullptr;
-    if (window == nullptr) return false;
-    qApp->removeEventFilter(this);
-    Require(qobject_cast<QMessageBox*>(window) == nullptr, "a message came instead of a window");
-    const auto end = [this, window] {
-      then_(*window);
-      window->close();
-    };
-    QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
-    return false;
-  }
-
-  const std::function<void(QWidget&)> then_;
-};
-
-using Open = std::function<void()>;
-
-double OpeningTime(const Open& open) {
-  const auto start = std::chrono::steady_clock::now();
-  double time = 0;
-  const FirstPaint painted([&](QWidget&) {
-    time = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-  });
-  open();
-  return time;
-}
-
-BareWindow BareCopy(const Open& open) {
-  std::optional<BareWindow> copy;
-  const FirstPaint painted([&](QWidget& window) { copy.emplace(window); });
-  open();
-  Require(copy.has_value(), "a window did not open");
-  return *copy;
-}
-
-/// Prints the ratio of a window's opening to that of its bare copy.
-void Compare(const std::string& title, double aim, const Open& open) {
-  const BareWindow bare = BareCopy(open);
-  const Open open_bare = [&] { bare.Exec(); };
-  std::vector<double> times[2];
-  OpeningTime(open_bare);
-  for (int i = 0; i < repetitions; ++i) {  // in turn, so that whatever else the machine does meets both alike
-    times[0].push_back(OpeningTime(open));
-    times[1].push_back(OpeningTime(open_bare));
-  }
-  const double ours = Summarise(times[0]).median, other = Summarise(times[1]).median;
-  std::printf("%-44s %9.2f %9.2f %7.2f %5.0f  %s\n", title.c_str(), ours, other, ours / other, aim,
-              ours <= aim * other ? "met" : "missed");
+void CompareSheet(const std::string& title, const Open& open) {
+  CompareOpenings("sheet of " + title, kSheetAim, repetitions, open);
 }
 
 void CompareList(const std::string& title, const Open& read, const Open& in_memory) {
-  Compare(title + ", read and shown", kListAim, read);
-  Compare(title + ", shown", kListAim, in_memory);
+  CompareOpenings(title + ", read and shown", kListAim, repetitions, read);
+  CompareOpenings(title + ", shown", kListAim, repetitions, in_memory);
 }
 
 CNtfyService& ServiceOf(std::uint32_t code) {
@@ -183,10 +128,10 @@ void OpenBackupSheet() { ServiceUiOf(kTypeNumeric).backup_modem_sheet(ServiceOf(
 void CompareSheets() {
   for (int i = 0; i < TheServices().GetCount(); ++i) {
     CNtfyService& service = *TheServices().GetAt(i);
-    Compare("sheet of " + service.Name(), kSheetAim, [&] { service.PropertySheet(nullptr); });
+    CompareSheet(service.Name(), [&] { service.PropertySheet(nullptr); });
   }
   AddRecord(ModemStore(), ModemNamed("Modem"));  // a sheet without any says so
-  Compare("sheet of a backup modem", kSheetAim, OpenBackupSheet);
+  CompareSheet("a backup modem", OpenBackupSheet);
 }
 
 /// A window with one list of the kind `List`, which `fill` fills as it opens.
@@ -250,12 +195,14 @@ void CompareModems() {
 int main(int argc, char** argv) {
   setenv("QT_QPA_PLATFORM", "offscreen", 0);
   QLoggingCategory::setFilterRules("default.warning=false");  // the platform complains of every window
+  std::optional<desktops::qt::OffscreenScreen> screen(std::in_place);
   QApplication application(argc, argv);
+  screen.reset();
   if (argc > 1) repetitions = std::atoi(argv[1]);
   Require(repetitions > 0, "usage: window_bench [repetitions]");
   desktops::QtDesktop desktop;
   const Site site;
-  std::printf("%-44s %9s %9s %7s %5s\n", "milliseconds, median", "library", "bare", "ratio", "aim");
+  PrintHeading();
   CompareSheets();
   CompareUsers();
   CompareModemTypes();

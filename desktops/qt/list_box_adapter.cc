@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/list_box_adapter.h"
 
-#include <QHeaderView>
 #include <algorithm>
+#include <cmath>
 
 #include "desktops/qt/guard.h"
+#include "desktops/qt/text_widths.h"
 #include "desktops/qt/texts.h"
 
 namespace desktops::qt {
@@ -31,21 +32,39 @@ ListBoxAdapter::ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent)
 
 void ListBoxAdapter::Fill() {
   const QSignalBlocker quiet(list_);
-  list_->clear();
-  int columns = 1 + static_cast<int>(model_.TabPositions().size());
+  TextWidths text_widths(list_->font());
+  std::vector<qreal> widest(1 + model_.TabPositions().size());
+  QList<QTreeWidgetItem*> rows;
   for (int i = 0; i < model_.Count(); ++i) {
-    const QString text = ToQt(model_.ItemText(i));
-    const QStringList cells = model_.TabStops() ? text.split('\t') : QStringList{text};
-    columns = std::max(columns, static_cast<int>(cells.size()));
-    list_->addTopLevelItem(new QTreeWidgetItem(cells));
+    const QStringList cells = CellsOf(model_.ItemText(i));
+    widest.resize(std::max(widest.size(), static_cast<std::size_t>(cells.size())));
+    for (std::size_t column = 0; const QString& cell : cells) {
+      widest[column] = std::max(widest[column], text_widths.Of(cell));
+      ++column;
+    }
+    rows << new QTreeWidgetItem(cells);
   }
-  list_->setColumnCount(columns);
+  list_->clear();
+  list_->setColumnCount(static_cast<int>(widest.size()));
+  list_->addTopLevelItems(rows);
+  SetColumnWidths(widest);
+}
+
+QStringList ListBoxAdapter::CellsOf(const std::string& text) const {
+  return model_.TabStops() ? ToQt(text).split('\t') : QStringList{ToQt(text)};
+}
+
+// The toolkit's own way of fitting columns lays out every text in them, which takes longer than all the rest.
+void ListBoxAdapter::SetColumnWidths(const std::vector<qreal>& widest_texts) {
+  const int margin = 1 + list_->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, list_);
+  const int last = list_->columnCount() - 1;
   const bool shows_all = !model_.TabPositions().empty();
-  for (int i = 0; i < columns; ++i) {
-    list_->resizeColumnToContents(i);
+  for (int column = 0; const qreal text : widest_texts) {
+    const int width = static_cast<int>(std::ceil(text)) + 2 * margin;
     // A last column takes what room is left, and would be scrolled for more than that.
-    if (i + 1 == columns && !shows_all) break;
-    list_->setColumnWidth(i, std::max(list_->columnWidth(i) + kColumnGap, AskedWidth(i)));
+    const bool is_apart = column < last || shows_all;
+    list_->setColumnWidth(column, is_apart ? std::max(width + kColumnGap, AskedWidth(column)) : width);
+    ++column;
   }
   if (shows_all) ShowAllColumns(*list_);
 }

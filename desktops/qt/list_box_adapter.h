@@ -18,6 +18,9 @@ class ListBoxAdapter : public ListAdapter {
   void Fill() override;
   void ShowCurrent() override;
   void OnSelectionChanged();
+  QStringList CellsOf(const std::string& text) const;
+  /// `widest_texts`: the width of the widest text of each column.
+  void SetColumnWidths(const std::vector<qreal>& widest_texts);
   int AskedWidth(int column) const;
 
   platform::ui::ListBox& model_;

@@ -87,11 +87,13 @@ void ListViewAdapter::Fill() {
     report_->setColumnWidth(index++, title + column.margin + kSectionPadding);
   }
   if (index > 0) ShowAllColumns(*report_);
+  QList<QTreeWidgetItem*> rows;
   for (int row = 0; row < model_.RowCount(); ++row) {
     QStringList cells;
     for (int column = 0; column < titles.size(); ++column) cells << ToQt(model_.Cell(row, column));
-    report_->addTopLevelItem(new QTreeWidgetItem(cells));
+    rows << new QTreeWidgetItem(cells);
   }
+  report_->addTopLevelItems(rows);
   report_->TellScrolled();
 }
 

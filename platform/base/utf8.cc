@@ -94,6 +94,11 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, Lower, Lower);
 }
 
+bool LessIgnoringCase(std::string_view a, std::string_view b) {
+  const auto order = [](char c) { return static_cast<unsigned char>(Lower(c)); };
+  return std::ranges::lexicographical_compare(a, b, {}, order, order);
+}
+
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix) {
   return EqualIgnoringCase(text.substr(0, prefix.size()), prefix);
 }

@@ -20,6 +20,8 @@ void Utf8Append(std::string& text, char32_t code_point);
 
 /// Compares without regard to case; only ASCII letters have one here.
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
+/// The order that goes with it, by bytes.
+bool LessIgnoringCase(std::string_view a, std::string_view b);
 /// True when `text` begins with `prefix` without regard to case.
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix);
 

@@ -2,7 +2,6 @@
 #include "platform/ui/lists.h"
 
 #include <algorithm>
-#include <cctype>
 #include <utility>
 
 #include "platform/base/utf8.h"
@@ -11,11 +10,6 @@ namespace platform::ui {
 namespace {
 
 const std::string kEmpty;
-
-bool LessIgnoringCase(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
-  return std::ranges::lexicographical_compare(a, b, {}, lower, lower);
-}
 
 bool InRange(int index, std::size_t count) { return index >= 0 && static_cast<std::size_t>(index) < count; }
 
@@ -33,28 +27,29 @@ int ItemList::Add(std::string_view text, ItemData data) {
     place = std::ranges::upper_bound(items_, text, LessIgnoringCase, &Item::text);
   }
   const int index = static_cast<int>(place - items_.begin());
-  items_.insert(place, {std::string(text), data});
+  items_.insert(place, &storage_.emplace_back(Item{std::string(text), data}));
   if (current_ >= index) ++current_;
   Notify(Change::kItems);
   return index;
 }
 
 void ItemList::SetData(int index, ItemData data) {
-  if (InRange(index, items_.size())) items_[static_cast<std::size_t>(index)].data = data;
+  if (InRange(index, items_.size())) items_[static_cast<std::size_t>(index)]->data = data;
 }
 
 void ItemList::RemoveAll() {
   items_.clear();
+  storage_.clear();
   current_ = -1;
   Notify(Change::kItems);
 }
 
 const std::string& ItemList::ItemText(int index) const {
-  return InRange(index, items_.size()) ? items_[static_cast<std::size_t>(index)].text : kEmpty;
+  return InRange(index, items_.size()) ? items_[static_cast<std::size_t>(index)]->text : kEmpty;
 }
 
 ItemData ItemList::Data(int index) const {
-  return InRange(index, items_.size()) ? items_[static_cast<std::size_t>(index)].data : 0;
+  return InRange(index, items_.size()) ? items_[static_cast<std::size_t>(index)]->data : 0;
 }
 
 void ItemList::Select(int index) {
@@ -63,15 +58,15 @@ void ItemList::Select(int index) {
 }
 
 int ItemList::FindText(std::string_view text) const {
-  return IndexOf(items_, [text](const Item& item) { return EqualIgnoringCase(item.text, text); });
+  return IndexOf(items_, [text](const Item* item) { return EqualIgnoringCase(item->text, text); });
 }
 
 int ItemList::FindBytes(std::string_view text) const {
-  return IndexOf(items_, [text](const Item& item) { return item.text == text; });
+  return IndexOf(items_, [text](const Item* item) { return item->text == text; });
 }
 
 int ItemList::FindData(ItemData data) const {
-  return IndexOf(items_, [data](const Item& item) { return item.data == data; });
+  return IndexOf(items_, [data](const Item* item) { return item->data == data; });
 }
 
 void ItemList::OnChoose(int index) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -54,7 +55,8 @@ class ItemList : public Control {
   };
 
   bool sorted_;
-  std::vector<Item> items_;
+  std::deque<Item> storage_;  // items stay where they are made: a sorted list moves pointers only
+  std::vector<Item*> items_;
   int current_ = -1;
 };
 

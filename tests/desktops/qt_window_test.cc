@@ -143,6 +143,22 @@ TEST_F(QtWindowTest, AListBoxWithRoomIsNotScrolled) {
   }
 }
 
+TEST_F(QtWindowTest, AListBoxShowsItsTextsUncut) {
+  for (const char* text : {"AVAVAVAV. To Ty WAWAWA", "iiiiiiiiiiiiiiiii", "Größe", "Приёмник на складе",
+                           "مودم الطابق الأول", "電話の取次ぎ", "📟📟📟📟"}) {
+    ReportingDialog dialog;
+    ListBox list(dialog, 1, "&List:", false, true);
+    for (const std::string row : {"-", text, "-"}) list.Add(row + "\t" + row);
+    Show(dialog, [&](Person&) {
+      auto& widget = Widget<QTreeWidget>();
+      for (int column : {0, 1}) {
+        const int wanted = widget.sizeHintForIndex(widget.model()->index(1, column)).width();
+        EXPECT_GE(widget.columnWidth(column), wanted) << text;
+      }
+    });
+  }
+}
+
 TEST_F(QtWindowTest, ALabelIsHiddenAndDisabledWithItsControl) {
   FullDialog dialog;
   Show(dialog, [&](Person&) {
