@@ -22,8 +22,8 @@
 ///
 /// Beside this folder a console needs the records that pass through the functions and what they are made of, by
 /// the same paths: companions/alertstore/records*.h and record_fields.h, and platform/base. Nothing of the library's
-/// own folder is needed. Windows, pictures and panels are known here by name alone; platform/ui/image.h says what
-/// a picture is.
+/// own folder is needed. Windows, pictures and panels are known here by name alone: platform/ui/image.h says what a
+/// picture is, and alert_page.h, which needs platform/ui, what a panel is and how it is hosted.
 namespace platform::ui {
 class Bitmap;
 class Window;

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <set>
 
+#include "alerting/alert_page.h"
 #include "alerting/alerting.h"
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/stores.h"
@@ -102,6 +103,10 @@ class ExportsTest : public ::testing::Test {
     EXPECT_EQ(api_->DomainServiceGetIconOffset(index), list == kReadList ? -1 : 0);
     EXPECT_EQ(api_->DomainServiceGetIcon(index), nullptr);
     EXPECT_EQ(api_->DomainServiceGetResponseType(index), 0);
+    EXPECT_EQ(api_->UserGetAddServicePanel(index, 0, manager_, 0, nullptr), nullptr);
+    EXPECT_EQ(api_->ResponseGetAddServicePanel(index, 0, &response, 0, nullptr), nullptr);
+    EXPECT_EQ(api_->ResponseGetPropertyPanel(index, 0, &response, nullptr), nullptr);
+    EXPECT_EQ(api_->UserServicePropertySheet(nullptr, index, manager_), 0);
     const std::uint32_t zeros[] = {api_->DomainServiceIsUser(index),
                                    api_->DomainServiceIsFirstOfType(index),
                                    api_->DomainServiceDeleteService(index, manager_),
@@ -125,6 +130,7 @@ class ExportsTest : public ::testing::Test {
                                    api_->ResponseUpdatePropertyPanelData(nullptr),
                                    api_->UserServiceUserIsConfigured(index, manager_),
                                    api_->UserServiceUserDelete(index, manager_),
+                                   api_->UserServiceTestDialog(nullptr, index, manager_),
                                    static_cast<std::uint32_t>(api_->UserGetAddServicePanelCount(index)),
                                    static_cast<std::uint32_t>(api_->ResponseGetAddServicePanelCount(index)),
                                    static_cast<std::uint32_t>(api_->ResponseGetPropertyPanelCount(index))};
@@ -245,6 +251,30 @@ TEST_F(ExportsTest, ResponsesAndUsersGoThroughTheServiceOfTheirIndex) {
   EXPECT_EQ(api_->DomainServiceInitWithDefMsg(0, &response), 1U);
   EXPECT_EQ(api_->UserServiceUserIsConfigured(0, manager_), 0U);
   EXPECT_EQ(api_->UserServiceUserDelete(0, manager_), 0U);
+}
+
+TEST_F(ExportsTest, PanelsStandWithoutARecordAHostOrAShowing) {
+  Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  Add<ALRTWAVESERVICEREC>(7, "Wave");
+  for (const int index : {0, 1}) {
+    ALERTRESPREC response{};
+    for (ALERTRESPREC* record : {&response, static_cast<ALERTRESPREC*>(nullptr)}) {
+      const std::unique_ptr<alerting::CAlertPage> panel(
+          api_->ResponseGetAddServicePanel(index, 1, record, 6, nullptr));
+      ASSERT_NE(panel, nullptr) << "the panel's index is not looked at";
+      EXPECT_EQ(panel->AddingMark(), 1);
+      EXPECT_EQ(api_->ResponseUpdatePanelData(panel.get()), 0U);
+      panel->Create();
+      EXPECT_TRUE(panel->OnSetActive() && panel->OnWizardFinish());
+      EXPECT_EQ(api_->ResponseUpdatePanelData(panel.get()), record != nullptr ? 1U : 0U);
+    }
+    EXPECT_EQ(response.serviceRecordType, static_cast<std::uint32_t>(index == 0 ? 5 : 8));
+  }
+  EXPECT_EQ(api_->UserGetAddServicePanel(1, 0, manager_, 0, nullptr), nullptr) << "no users";
+  EXPECT_EQ(api_->UserServiceTestDialog(nullptr, 1, manager_), 0U);
+  EXPECT_EQ(api_->UserServicePropertySheet(nullptr, 1, manager_), 1);
+  EXPECT_EQ(desktop_.windows.back(), "Service Properties");
+  EXPECT_EQ(api_->UserServiceTestDialog(nullptr, 0, manager_), 1U);
 }
 
 TEST_F(ExportsTest, EachServiceAnswersForItsType) {
