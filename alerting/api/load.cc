@@ -8,6 +8,7 @@
 #include "alerting/responses/keywords.h"
 #include "alerting/services/service_list.h"
 #include "alerting/services/types.h"
+#include "alerting/testing/send_test.h"
 
 namespace alerting {
 
@@ -23,6 +24,7 @@ bool Load() {
 }
 
 void Unload() {
+  ForgetTests();
   TheApp().ExitInstance();
   FreeServiceTypeNames();
 }

@@ -125,4 +125,9 @@ bool SendComputerTest(CNtfyService& service, const GUID& target, const char* mes
   });
 }
 
+void ForgetTests() {
+  if (windows_thread.exchange({}) != std::thread::id{})
+    TheCompanions().agentui->RegisterTestButtonCallbackMessageHandler(nullptr);
+}
+
 }  // namespace alerting

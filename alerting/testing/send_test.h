@@ -20,4 +20,7 @@ bool SendStandardTest(CNtfyService& service, const GUID& target, const char* mes
 bool SendComputerTest(CNtfyService& service, const GUID& target, const char* message, const char*,
                       std::uint16_t, ui::Window* dialog);
 
+/// No report comes to the library any more; an unload step, since it would come to where the library was.
+void ForgetTests();
+
 }  // namespace alerting

@@ -2,6 +2,7 @@
 // Test sends: from the dialog to what the alert server is handed, and the report.
 #include <thread>
 
+#include "alerting/testing/send_test.h"
 #include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/computers.h"
 #include "tests/stories/service_sheet_fixture.h"
@@ -113,6 +114,8 @@ TEST_F(TestSendsTest, AReportIsShownOnceEvenWhenTheDialogIsGoneAndItComesOnAnoth
   Expect([](Person& p) { p.Press("Cancel"); });  // posted work runs while a window is open
   Open();
   EXPECT_THAT(AgentUi().recorded, ElementsAre("register", "send", "report 7", "report 8"));
+  ForgetTests();
+  EXPECT_EQ(AgentUi().report, nullptr) << "a library that goes takes its callback along";
 }
 
 TEST_F(TestSendsTest, AFailedStoreIsToldAndTheDialogStays) {
