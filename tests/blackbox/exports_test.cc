@@ -11,6 +11,7 @@
 #include "companions/alertstore/stores.h"
 #include "platform/base/module.h"
 #include "platform/ui/desktop.h"
+#include "tests/support/opened_store.h"
 #include "tests/support/temporary.h"
 
 namespace {
@@ -18,6 +19,7 @@ namespace {
 using namespace alertstore;  // NOLINT
 using platform::GUID;
 using platform::kNullGuid;
+using test_support::Opened;
 
 class QuietDesktop : public platform::ui::Desktop {
  public:
@@ -45,17 +47,12 @@ class QuietDesktop : public platform::ui::Desktop {
 
 /// Every export by name, and how it is called: api.DomainServiceGetCount().
 struct Api {
-  explicit Api(const platform::DynamicLibrary& library) {
+  explicit Api(const platform::DynamicLibrary& from) : library(from) {}
+  const platform::DynamicLibrary& library;
 #define ALERTING_EXPORT(result, name, arguments, bytes) \
-  name = reinterpret_cast<decltype(name)>(library.Find("_" #name "@" #bytes));
+  result(*name) arguments = reinterpret_cast<result(*) arguments>(library.Find("_" #name "@" #bytes));
 #define ALERTING_PLAIN_EXPORT(result, name, arguments) \
-  name = reinterpret_cast<decltype(name)>(library.Find(#name));
-#include "alerting/exports.def"
-#undef ALERTING_EXPORT
-#undef ALERTING_PLAIN_EXPORT
-  }
-#define ALERTING_EXPORT(result, name, arguments, bytes) result(*name) arguments;
-#define ALERTING_PLAIN_EXPORT(result, name, arguments) result(*name) arguments;
+  result(*name) arguments = reinterpret_cast<result(*) arguments>(library.Find(#name));
 #include "alerting/exports.def"
 #undef ALERTING_EXPORT
 #undef ALERTING_PLAIN_EXPORT
@@ -77,8 +74,7 @@ class ExportsTest : public ::testing::Test {
 
   template <class Record>
   static GUID Add(std::uint32_t code, const char* name) {
-    CAlertNtfyServDB store;
-    EXPECT_EQ(store.DBOpen(), kOk);
+    Opened<CAlertNtfyServDB> store;
     ALRTNTFYSERV common{};
     common.name.Assign(name);
     common.recordType = code + 1;
@@ -89,26 +85,34 @@ class ExportsTest : public ::testing::Test {
     return id;
   }
 
+  using Answers = std::vector<std::int64_t>;
+  /// What a service's type says, and whether it has modems.
+  Answers AnswersOf(int index) const {
+    return {api_->DomainServiceTypeFromID(index),         api_->DomainServiceGetIconOffset(index),
+            api_->DomainServiceGetResponseType(index),    api_->DomainServiceIsUser(index),
+            api_->DomainServiceUsesExtensionAgent(index), api_->DomainServiceIsModemService(index),
+            api_->UserGetAddServicePanelCount(index),     api_->ResponseGetAddServicePanelCount(index),
+            api_->ResponseGetPropertyPanelCount(index),   api_->DomainServiceHasModem(index),
+            api_->DomainServiceHasBackupModem(index),     api_->DomainServiceShowBackup(index)};
+  }
+
   enum List { kReadList, kUnreadList };
 
   /// Every function that names a service answers its failure value.
   void ExpectFailures(int index, List list) {
     SCOPED_TRACE(index);
     ALERTRESPREC response{};
+    EXPECT_EQ(AnswersOf(index), (Answers{3, list == kReadList ? -1 : 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
     EXPECT_EQ(api_->DomainServiceGetInfo(index), nullptr);
     EXPECT_EQ(api_->DomainServicePropertySheet(nullptr, index), list == kReadList ? 2 : 0);
     EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, index), 0);
-    EXPECT_EQ(api_->DomainServiceTypeFromID(index), 3U);
     EXPECT_EQ(api_->DomainServiceType(manager_), 3U);
-    EXPECT_EQ(api_->DomainServiceGetIconOffset(index), list == kReadList ? -1 : 0);
     EXPECT_EQ(api_->DomainServiceGetIcon(index), nullptr);
-    EXPECT_EQ(api_->DomainServiceGetResponseType(index), 0);
     EXPECT_EQ(api_->UserGetAddServicePanel(index, 0, manager_, 0, nullptr), nullptr);
     EXPECT_EQ(api_->ResponseGetAddServicePanel(index, 0, &response, 0, nullptr), nullptr);
     EXPECT_EQ(api_->ResponseGetPropertyPanel(index, 0, &response, nullptr), nullptr);
     EXPECT_EQ(api_->UserServicePropertySheet(nullptr, index, manager_), 0);
-    const std::uint32_t zeros[] = {api_->DomainServiceIsUser(index),
-                                   api_->DomainServiceIsFirstOfType(index),
+    const std::uint32_t zeros[] = {api_->DomainServiceIsFirstOfType(index),
                                    api_->DomainServiceDeleteService(index, manager_),
                                    api_->DomainServiceCopyService(index, "x"),
                                    api_->DomainServiceCopyServiceX(index, "x", manager_),
@@ -116,11 +120,6 @@ class ExportsTest : public ::testing::Test {
                                    api_->DomainServiceServerEnable(index, manager_, 1),
                                    api_->DomainServiceCachedIsServer(index, manager_),
                                    api_->DomainServiceIsVirgin(index),
-                                   api_->DomainServiceUsesExtensionAgent(index),
-                                   api_->DomainServiceIsModemService(index),
-                                   api_->DomainServiceHasModem(index),
-                                   api_->DomainServiceHasBackupModem(index),
-                                   api_->DomainServiceShowBackup(index),
                                    api_->DomainServiceInitWithDefMsg(index, &response),
                                    api_->DomainServiceInitWithDefMsgX(manager_, &response),
                                    api_->DomainServiceReinitializeResponse(index, &response),
@@ -130,10 +129,7 @@ class ExportsTest : public ::testing::Test {
                                    api_->ResponseUpdatePropertyPanelData(nullptr),
                                    api_->UserServiceUserIsConfigured(index, manager_),
                                    api_->UserServiceUserDelete(index, manager_),
-                                   api_->UserServiceTestDialog(nullptr, index, manager_),
-                                   static_cast<std::uint32_t>(api_->UserGetAddServicePanelCount(index)),
-                                   static_cast<std::uint32_t>(api_->ResponseGetAddServicePanelCount(index)),
-                                   static_cast<std::uint32_t>(api_->ResponseGetPropertyPanelCount(index))};
+                                   api_->UserServiceTestDialog(nullptr, index, manager_)};
     EXPECT_THAT(zeros, ::testing::Each(0U));
   }
 
@@ -287,18 +283,9 @@ TEST_F(ExportsTest, EachServiceAnswersForItsType) {
   EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 0), 0) << "does not dial out";
   EXPECT_EQ(api_->DomainServiceBackupPropertySheet(nullptr, 1), 1);
   EXPECT_EQ(desktop_.windows.back(), "Pager");
-  using Answers = std::vector<std::int64_t>;
-  const auto answers = [&](int index) -> Answers {
-    return {api_->DomainServiceGetResponseType(index),    api_->DomainServiceGetIconOffset(index),
-            api_->DomainServiceTypeFromID(index),         api_->DomainServiceIsUser(index),
-            api_->DomainServiceUsesExtensionAgent(index), api_->DomainServiceIsModemService(index),
-            api_->UserGetAddServicePanelCount(index),     api_->ResponseGetAddServicePanelCount(index),
-            api_->ResponseGetPropertyPanelCount(index),   api_->DomainServiceHasModem(index),
-            api_->DomainServiceHasBackupModem(index),     api_->DomainServiceShowBackup(index)};
-  };
-  EXPECT_EQ(answers(0), (Answers{1, 8, 1, 1, 1, 0, 1, 1, 1, 0, 0, 0}));
-  EXPECT_EQ(answers(1), (Answers{1, 10, 1, 1, 0, 1, 1, 1, 1, 0, 0, 0}));
-  EXPECT_EQ(answers(2), (Answers{16, 11, 2, 0, 0, 1, 0, 1, 1, 0, 0, 0}));
+  EXPECT_EQ(AnswersOf(0), (Answers{1, 8, 1, 1, 1, 0, 1, 1, 1, 0, 0, 0}));
+  EXPECT_EQ(AnswersOf(1), (Answers{1, 10, 1, 1, 0, 1, 1, 1, 1, 0, 0, 0}));
+  EXPECT_EQ(AnswersOf(2), (Answers{2, 11, 16, 0, 0, 1, 0, 1, 1, 0, 0, 0}));
 }
 
 TEST_F(ExportsTest, ABackupManagerGetsAnEntryOfItsOwn) {

@@ -10,7 +10,7 @@
 #include <string_view>
 
 #include "companions/alertstore/sqlite_engine.h"
-#include "tests/support/records_of.h"
+#include "tests/support/opened_store.h"
 #include "tests/support/temporary.h"
 
 /// A data directory of the test's own, with the embedded engine.
@@ -32,14 +32,7 @@ class StoreTest : public testing::Test {
   const std::string& directory_ = temporary_.Path();
 };
 
-/// A store that is open; a failure fails the test.
-template <class Store>
-struct Opened : Store {
-  template <class... Arguments>
-  explicit Opened(Arguments... arguments) : Store(arguments...) {
-    EXPECT_EQ(this->DBOpen(), alertstore::kOk);
-  }
-};
+using test_support::Opened;
 using Services = Opened<alertstore::CAlertNtfyServDB>;
 
 /// The names of the records that a scan gives, as "a b c".

@@ -14,7 +14,7 @@
 
 #include "platform/base/atomic_write.h"
 #include "platform/base/paths.h"
-#include "tests/support/records_of.h"
+#include "tests/support/opened_store.h"
 #include "tests/support/temporary.h"
 
 struct Ran {
@@ -113,25 +113,7 @@ class AlertctlUserTest : public AlertctlSiteTest {
   }
 };
 
-/// A store that is open; a failure fails the test.
-template <class Store>
-struct Opened : Store {
-  template <class... Arguments>
-  explicit Opened(Arguments... arguments) : Store(arguments...) {
-    EXPECT_EQ(this->DBOpen(), alertstore::kOk);
-  }
-  /// The first record for which `wanted` holds; a missing one fails the test.
-  template <class Wanted>
-  typename Store::RecordType Find(Wanted wanted) {
-    for (const auto& record : test_support::RecordsOf(*this, this->Schema().selectors.front().number))
-      if (wanted(record)) return record;
-    ADD_FAILURE() << "no such record in " << this->Schema().file;
-    return {};
-  }
-  typename Store::RecordType First() {
-    return Find([](const auto&) { return true; });
-  }
-};
+using test_support::Opened;
 
 /// Deletes the first record of a store.
 template <class Store, class... Arguments>

@@ -87,7 +87,6 @@ GUID SeedCommon(std::uint32_t record_type, std::string_view name) {
 }
 
 GUID SeedService(std::uint32_t code, std::string_view name, std::uint8_t pattern) {
-  if (code == alerting::kTypeProgram && pattern == 0) return SeedCommon(alerting::RecordTypeOf(code), name);
   alerting::EnsureStoresOpen();
   ALRTNTFYSERV common;
   std::memset(&common, pattern, sizeof(common));

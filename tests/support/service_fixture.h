@@ -21,7 +21,7 @@
 #include "platform/ui/lists.h"
 #include "tests/support/failing_engine.h"
 #include "tests/support/fake_netpath.h"
-#include "tests/support/records_of.h"
+#include "tests/support/opened_store.h"
 #include "tests/support/temporary.h"
 
 namespace test_support {
