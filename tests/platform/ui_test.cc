@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "platform/base/module.h"
+#include "platform/ui/canvas.h"
 #include "platform/ui/desktop.h"
 #include "platform/ui/dialog.h"
 #include "platform/ui/edit.h"
@@ -18,12 +19,20 @@ namespace {
 
 using testing::ElementsAre;
 
+struct Watcher : WindowObserver {
+  void OnWindowChanged(Window&, Change change) override { last = change; }
+  Change last = Change::kLabel;
+};
+
 TEST(WindowTest, AHandleFindsALiveWindowOrNothing) {
   auto window = std::make_unique<Window>();
   const Handle handle = window->GetHandle();
   EXPECT_NE(handle, kNoWindow);
   EXPECT_EQ(Window::FromHandle(handle), window.get());
+  Watcher watcher;
+  window->SetObserver(&watcher);
   window.reset();
+  EXPECT_EQ(watcher.last, Change::kDestroyed);
   EXPECT_EQ(Window::FromHandle(handle), nullptr);
   EXPECT_EQ(Window::FromHandle(kNoWindow), nullptr);
 }
@@ -165,6 +174,17 @@ TEST_F(FormTest, TheRowMovedToIsInView) {
   EXPECT_EQ(list.FirstVisibleRow(), 21);
 }
 
+TEST_F(FormTest, ScrollingStopsAtTheLastPage) {
+  Canvas strip(dialog, 1, "Strip");
+  const auto scroll = [&strip](int position, int maximum, int page) {
+    strip.SetScroll(position, maximum, page);
+    return strip.ScrollPosition();
+  };
+  EXPECT_EQ(scroll(5, 11, 8), 4);
+  EXPECT_EQ(scroll(-1, 11, 8), 0);
+  EXPECT_EQ(scroll(9, -1, 0), 0);
+}
+
 class TwoPageSheet : public PropertySheet {
  public:
   TwoPageSheet() : PropertySheet("Sheet", nullptr) {
@@ -253,6 +273,8 @@ TEST(ModuleTest, ScopesNestAndHoldOnTheirThreadOnly) {
   }
   EXPECT_EQ(Module::Current().Title(), "");
 }
+
+TEST(DynamicLibraryTest, FindsNothingBeforeItHasLoaded) { EXPECT_EQ(DynamicLibrary().Find("cos"), nullptr); }
 
 }  // namespace
 }  // namespace platform::ui
