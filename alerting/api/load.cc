@@ -3,6 +3,7 @@
 
 #include "alerting/api/service_ui_table.h"
 #include "alerting/frame/app.h"
+#include "alerting/frame/companions.h"
 #include "alerting/frame/strings.h"
 #include "alerting/managers/enabled_services.h"
 #include "alerting/responses/keywords.h"
@@ -14,6 +15,7 @@ namespace alerting {
 
 bool Load() {
   // The process-wide objects first, so that they outlive whoever calls Unload at the end of the process.
+  TheCompanions();
   TheStores();
   TheServices() = CNtfyServiceList();
   TheEnabledServices();

@@ -27,74 +27,50 @@ CAlertPage* NewUserPanel(CNtfyService& service, const GUID& user, std::uint32_t 
   return new Panel(static_cast<Service&>(service), user, buttons, more...);
 }
 
-/// What all mail services have alike.
-ServiceUi MailUi() {
-  ServiceUi ui;
-  ui.response_panel = NewResponsePanel<CWizardPageMailAddResp>;
-  ui.user_panel = NewUserPanel<CWizardPageMailUser, CNtfyServiceMailBase>;
-  ui.select_user = SelectUserOf;
-  ui.site_test = RunMailTest;
-  ui.user_test = RunMailUserTest;
-  ui.send_test = SendStandardTest;
-  return ui;
-}
-
-ServiceUi MessageUi(bool (*site_test)(CNtfyService&, ui::Window*)) {
-  ServiceUi ui;
-  ui.response_panel = NewResponsePanel<CWizardPageHalfAddResp>;
-  ui.site_test = site_test;
-  ui.send_test = SendComputerTest;
-  return ui;
-}
-
-template <bool pin_mode>
-ServiceUi PagerUi() {
-  ServiceUi ui;
-  ui.user_panel = NewUserPanel<CWizardPageNumAddUser, CNtfyServiceUserBase, pin_mode>;
-  ui.select_user = SelectUserOf;
-  ui.send_test = SendStandardTest;
-  return ui;
-}
-
-ServiceUi AlphaUi() {
-  ServiceUi ui = PagerUi<true>();
-  ui.response_panel = NewResponsePanel<CWizardPageHalfAddResp>;
-  ui.site_test = RunMessageTest<kAlphaTest>;
-  ui.user_test = RunMessageUserTest<kAlphaUserTest>;
-  ui.choose_provider = RunSetPagerProvider;
-  return ui;
-}
-
-ServiceUi NumericUi() {
-  ServiceUi ui = PagerUi<false>();
-  ui.response_panel = NewResponsePanel<CWizardPageNumAddResp>;
-  ui.site_test = RunMessageTest<kNumericTest>;
-  ui.user_test = RunMessageUserTest<kNumericUserTest>;
-  return ui;
-}
-
-ServiceUi FileUi(CAlertPage* (*panel)(CNtfyService&, ALERTRESPREC*, std::uint32_t),
-                 bool (*site_test)(CNtfyService&, ui::Window*)) {
-  ServiceUi ui;
-  ui.response_panel = panel;
-  ui.site_test = site_test;
-  ui.send_test = SendStandardTest;
-  return ui;
-}
+constexpr ServiceUi kMailUi{.response_panel = NewResponsePanel<CWizardPageMailAddResp>,
+                            .user_panel = NewUserPanel<CWizardPageMailUser, CNtfyServiceMailBase>,
+                            .site_test = RunMailTest,
+                            .user_test = RunMailUserTest,
+                            .select_user = SelectUserOf,
+                            .send_test = SendStandardTest};
+constexpr ServiceUi kPlainUi{.response_panel = NewResponsePanel<CWizardPageHalfAddResp>,
+                             .site_test = RunMessageTest<kPlainTest>,
+                             .send_test = SendComputerTest};
+constexpr ServiceUi kSpeechUi{.response_panel = NewResponsePanel<CWizardPageHalfAddResp>,
+                              .site_test = RunMessageTest<kSpeechTest>,
+                              .send_test = SendComputerTest};
+constexpr ServiceUi kAlphaUi{.response_panel = NewResponsePanel<CWizardPageHalfAddResp>,
+                             .user_panel = NewUserPanel<CWizardPageNumAddUser, CNtfyServiceUserBase, true>,
+                             .site_test = RunMessageTest<kAlphaTest>,
+                             .user_test = RunMessageUserTest<kAlphaUserTest>,
+                             .select_user = SelectUserOf,
+                             .send_test = SendStandardTest,
+                             .choose_provider = RunSetPagerProvider};
+constexpr ServiceUi kNumericUi{.response_panel = NewResponsePanel<CWizardPageNumAddResp>,
+                               .user_panel = NewUserPanel<CWizardPageNumAddUser, CNtfyServiceUserBase, false>,
+                               .site_test = RunMessageTest<kNumericTest>,
+                               .user_test = RunMessageUserTest<kNumericUserTest>,
+                               .select_user = SelectUserOf,
+                               .send_test = SendStandardTest};
+constexpr ServiceUi kWaveUi{
+    .response_panel = NewWavePanel, .site_test = RunFileTest<CWaveTestDlg>, .send_test = SendStandardTest};
+constexpr ServiceUi kProgramUi{.response_panel = NewResponsePanel<CWizardPageProgAddResp>,
+                               .site_test = RunFileTest<CProgramTestDlg>,
+                               .send_test = SendStandardTest};
 
 }  // namespace
 
 void InstallServiceUiTable() {
   ServiceUiTable table{};
   for (const TypeCode code : {kTypeMhs, kTypeMci, kTypeCompuServe, kTypeSmtp, kTypeMapi, kTypeVim})
-    table[code] = MailUi();
+    table[code] = kMailUi;
   table[kTypeMci].user_panel = NewUserPanel<CWizardPageMailAddUser, CNtfyServiceMailBase>;
-  table[kTypeSnmp] = table[kTypeGeneric] = MessageUi(RunMessageTest<kPlainTest>);
-  table[kTypeTts] = MessageUi(RunMessageTest<kSpeechTest>);
-  table[kTypeAlpha] = AlphaUi();
-  table[kTypeNumeric] = NumericUi();
-  table[kTypeWave] = FileUi(NewWavePanel, RunFileTest<CWaveTestDlg>);
-  table[kTypeProgram] = FileUi(NewResponsePanel<CWizardPageProgAddResp>, RunFileTest<CProgramTestDlg>);
+  table[kTypeSnmp] = table[kTypeGeneric] = kPlainUi;
+  table[kTypeTts] = kSpeechUi;
+  table[kTypeAlpha] = kAlphaUi;
+  table[kTypeNumeric] = kNumericUi;
+  table[kTypeWave] = kWaveUi;
+  table[kTypeProgram] = kProgramUi;
 
   table[kTypeMhs].property_sheet = RunSheet<CSheetServiceMHS>;
   table[kTypeSnmp].property_sheet = RunSheet<CSheetServiceSNMP>;

@@ -26,6 +26,10 @@ Companions& InUse() {
 
 const Companions& TheCompanions() { return InUse(); }
 
+void ShowHelp(platform::ui::Form& form, const platform::ui::HelpEvent& event, ctxhelp::HelpPage page) {
+  TheCompanions().ctxhelp->QEVDlgOnContextHelp(form, event, ctxhelp::HelpTableOf(form, page).data());
+}
+
 Companions SetCompanions(Companions companions) {
   const Companions real = RealCompanions();
   const Companions before = InUse();

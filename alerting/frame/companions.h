@@ -24,6 +24,9 @@ struct Companions {
 /// The components in use: the real ones until SetCompanions put others there.
 const Companions& TheCompanions();
 
+/// Answers a request for help with the texts of a form's page.
+void ShowHelp(platform::ui::Form& form, const platform::ui::HelpEvent& event, ctxhelp::HelpPage page);
+
 /// Puts others in their stead and answers those in use before. A null member stands for the real one.
 Companions SetCompanions(Companions companions);
 

@@ -5,9 +5,7 @@
 
 namespace alerting {
 
-void CPanel::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
-}
+void CPanel::OnHelp(const ui::HelpEvent& event) { ShowHelp(*this, event, help_page_); }
 
 bool CPanel::OnWizardFinish() {
   HostSaves();

@@ -21,8 +21,6 @@ bool CServicePage::SavePage() {
   return UpdateData(true) && SaveFields();
 }
 
-void CServicePage::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
-}
+void CServicePage::OnHelp(const ui::HelpEvent& event) { ShowHelp(*this, event, help_page_); }
 
 }  // namespace alerting

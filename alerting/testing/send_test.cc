@@ -60,9 +60,9 @@ void Say(ui::Window* dialog, const char* what) {
 
 void WaitForConfiguration(ui::Window* dialog, std::uint32_t settle_milliseconds) {
   ui::Desktop& desktop = ui::Desktop::Current();
-  Say(dialog, "Waiting until the configuration is complete...");
+  Say(dialog, "Waiting for the configuration...");
   while (TheCompanions().dbconfig->IsConversionComplete() == 0) desktop.Sleep(kPollMilliseconds);
-  Say(dialog, "Waiting for the alert managers to take up the configuration...");
+  Say(dialog, "Waiting for the alert managers...");
   desktop.Sleep(settle_milliseconds);
 }
 
@@ -73,7 +73,7 @@ void HandOver(const SentResponse& sent, ui::Window* dialog) {
   const ui::Window* owner = dialog != nullptr ? dialog->Parent() : nullptr;
   results_window = owner != nullptr ? owner->GetHandle() : ui::kNoWindow;
   windows_thread = std::this_thread::get_id();
-  Say(dialog, "Handing the test to the alert server...");
+  Say(dialog, "Handing the test over...");
   agentui.RegisterTestButtonCallbackMessageHandler(&OnTestReport);
   desktop.Sleep(kHandOverMilliseconds);
   agentui.SendTestButtonToAlertServer(&request);

@@ -5,8 +5,6 @@
 
 namespace alerting {
 
-void CLibraryDialog::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
-}
+void CLibraryDialog::OnHelp(const ui::HelpEvent& event) { ShowHelp(*this, event, help_page_); }
 
 }  // namespace alerting

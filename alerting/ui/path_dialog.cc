@@ -31,9 +31,7 @@ CPathDialog::CPathDialog(ui::Window* parent, std::string initial, const Texts& t
   initial_path = std::move(initial);
 }
 
-void CPathDialog::OnHelp(const ui::HelpEvent& event) {
-  TheCompanions().ctxhelp->QEVDlgOnContextHelp(*this, event, ctxhelp::HelpTableOf(*this, help_page_).data());
-}
+void CPathDialog::OnHelp(const ui::HelpEvent& event) { ShowHelp(*this, event, help_page_); }
 
 bool CPathDialog::CanPreview() {
   constexpr int kFirstWithPreview = 4;

@@ -53,12 +53,14 @@ PathCode ToUniversal(std::string& path) {
 }
 
 void ShowPathWarning(int code, ui::Window* parent) {
+  const platform::ModuleScope scope(TheModule());
   if (code != kPathDone)
     ui::MessageBox(WarningText(code), ui::Buttons::kOk, ui::MessageIcon::kWarning, parent);
 }
 
 bool ConfirmPathWarning(int code, ui::Window* parent) {
   if (code == kPathDone) return true;
+  const platform::ModuleScope scope(TheModule());
   const std::string question = WarningText(code) + Text(kIdsUsePathAnyway);
   return ui::MessageBox(question, ui::Buttons::kYesNo, ui::MessageIcon::kQuestion, parent) ==
          ui::Answer::kYes;

@@ -36,8 +36,8 @@ class AgentUi {
   virtual void AddCommunityNameToMRUList(const char* community) = 0;
 
   /// Modal choice from the recently used addresses. `buffer` has kAddressBufferSize bytes and holds "" on
-  /// entry; it receives the choice, cut to the buffer on a character boundary, or stays as it is when nothing
-  /// was chosen.
+  /// entry; it receives the choice, or stays as it is when nothing was chosen. Entries that the buffer has no
+  /// room for are not offered.
   virtual void DisplayIPAddressMRUListDialog(platform::ui::Window* parent, char* buffer) = 0;
   /// The same for community names, with a buffer of kCommunityBufferSize bytes.
   virtual void DisplayCommunityNameMRUListDialog(platform::ui::Window* parent, char* buffer) = 0;

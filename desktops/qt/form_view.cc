@@ -31,16 +31,21 @@ FormView::FormView(platform::ui::Form& form, QWidget* parent) : QWidget(parent),
 }
 
 // The adapters go before their widgets, so nothing that happens on the way down reaches a control.
-FormView::~FormView() { LetGo(); }
+FormView::~FormView() { Detach(); }
 
-void FormView::LetGo() {
-  if (std::exchange(let_go_, true)) return;
+void FormView::Detach() {
+  if (std::exchange(detached_, true)) return;
   disconnect(qApp, nullptr, this, nullptr);
   if (form_.Observer() == this) form_.SetObserver(nullptr);
   adapters_.clear();
-  setEnabled(false);  // no key and no click reaches the form any more
+}
+
+// An empty view stays behind for its owner to destroy. A handler of one of the widgets may be running.
+void FormView::LetGo() {
+  Detach();
   hide();
-  deleteLater();  // a handler of one of the widgets may be running
+  setEnabled(false);  // no key and no click reaches the form any more
+  for (QObject* child : children()) child->deleteLater();
 }
 
 void FormView::OnWindowChanged(platform::ui::Window&, Change change) {

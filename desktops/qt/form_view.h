@@ -14,7 +14,7 @@ namespace desktops::qt {
 
 /// The inside of a form: its controls, placed. Keeps the form's focus in step with the keyboard focus and
 /// passes on Enter, Escape and requests for help. When the form goes first, with the first of its controls, the view lets go
-/// of it and goes too.
+/// of it and stands there empty.
 class FormView : public QWidget, public platform::ui::WindowObserver, public WidgetOwner {
  public:
   /// The form must be created and outlive the view. Its controls stand as its layout says.
@@ -54,6 +54,7 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
 
  private:
   void OnFocusChanged(QWidget* now);
+  void Detach();
   void LetGo();
   void AskHelp(platform::ui::HelpEvent::Kind kind, platform::ui::Control* control);
   void SetTabOrder();
@@ -64,7 +65,7 @@ class FormView : public QWidget, public platform::ui::WindowObserver, public Wid
   std::vector<std::vector<QWidget*>> equally_wide_;
   std::function<void()> on_caption_;
   QWidget* last_in_tab_order_ = nullptr;
-  bool ends_itself_ = true, let_go_ = false;
+  bool ends_itself_ = true, detached_ = false;
 };
 
 }  // namespace desktops::qt

@@ -111,6 +111,7 @@ bool Script::Guard(const std::function<void()>& action) {
 
 Answer Script::AnswerTo(const platform::ui::Message& message) {
   messages.push_back(message.text);
+  titles.push_back(message.title);
   Expectation expected;
   if (!Take(Expectation::Kind::kMessage, message.text, expected)) return AnswerOfLeaving(message.buttons);
   if (Offers(message.buttons, expected.answer)) return expected.answer;

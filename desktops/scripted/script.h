@@ -63,6 +63,8 @@ class Script {
   int beeps = 0;
   /// Texts of all messages shown, in order.
   std::vector<std::string> messages;
+  /// The titles of the same.
+  std::vector<std::string> titles;
 
  private:
   std::deque<Expectation> expected_;

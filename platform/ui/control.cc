@@ -17,10 +17,14 @@ bool Control::HasFocus() const { return form_.FocusedControl() == this; }
 
 void Control::SetFocus() { form_.MoveFocus(this); }
 
-void Control::ChangedByPerson() {
+void Control::Run(const std::function<void()>& handler) const {
   const ModuleScope context(form_.OwnModule());
-  if (on_change_) on_change_();
-  if (is_edit_) form_.OnPersonChange(*this);
+  if (handler) handler();
+}
+
+void Control::ChangedByPerson() {
+  Run(on_change_);
+  if (is_edit_) Run([this] { form_.OnPersonChange(*this); });
 }
 
 void Control::OnReachChanged() {
@@ -42,8 +46,7 @@ void Button::SetPicture(const Bitmap& picture) {
 }
 
 void Button::OnClick() {
-  const ModuleScope context(OwnerForm().OwnModule());
-  if (WithinReach() && on_click_) on_click_();
+  if (WithinReach()) Run(on_click_);
 }
 
 std::string BrowseButton::SpokenName() const {

@@ -67,6 +67,8 @@ class Control : public Window {
   bool WithinReach() const { return Enabled() && Visible(); }
   /// Reports a person's change.
   void ChangedByPerson();
+  /// Runs a handler, where there is one, in the resource context of the form.
+  void Run(const std::function<void()>& handler) const;
   /// A control that goes out of reach passes the focus on.
   void OnReachChanged() override;
 

@@ -113,7 +113,7 @@ void ListBox::SetTabStops(std::vector<int> average_characters) {
 void ListBox::OnDoubleClick(int index) {
   if (!WithinReach() || !InRange(index, static_cast<std::size_t>(Count()))) return;
   OnChoose(index);
-  if (on_double_click_) on_double_click_();
+  Run(on_double_click_);
 }
 
 void ListView::AddColumn(std::string title, int margin) {
@@ -165,20 +165,20 @@ void ListView::OnClickAt(int row) {
   if (!WithinReach()) return;
   under_cursor_ = InRange(row, rows_.size()) ? row : -1;
   SelectByPerson(under_cursor_);
-  if (on_click_) on_click_();
+  Run(on_click_);
 }
 
 void ListView::OnDoubleClickAt(int row) {
   if (!WithinReach()) return;
   under_cursor_ = InRange(row, rows_.size()) ? row : -1;
   SelectByPerson(under_cursor_);
-  if (on_double_click_) on_double_click_();
+  Run(on_double_click_);
 }
 
 void ListView::OnKeyDown(Key key) {
   if (!WithinReach()) return;
   MoveTo(RowAfter(key));
-  if (on_key_) on_key_(key);
+  if (on_key_) Run([&] { on_key_(key); });
 }
 
 // The row that a key leads to; the focused row for keys that lead nowhere.

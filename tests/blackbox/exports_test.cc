@@ -3,10 +3,12 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
+#include <filesystem>
 #include <set>
 
 #include "alerting/alert_page.h"
 #include "alerting/alerting.h"
+#include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/stores.h"
 #include "platform/base/module.h"
@@ -37,8 +39,14 @@ class QuietDesktop : public platform::ui::Desktop {
   }
   int RunModal(platform::ui::Modal& modal) override {
     windows.push_back(modal.AsWindow().Label());
-    return platform::ui::kOk;
+    if (!presses_enter) return platform::ui::kOk;
+    modal.OpenWindow();
+    dynamic_cast<platform::ui::Form&>(modal.AsWindow()).OnEnter();
+    modal.CloseWindow();
+    return modal.Result();
   }
+  void Sleep(std::uint32_t) override {}
+  bool presses_enter = false;  ///< in windows, which are not opened else
   std::set<std::string> titles;
   int messages = 0;
   std::vector<std::string> windows;  ///< captions of those that were opened
@@ -271,6 +279,23 @@ TEST_F(ExportsTest, PanelsStandWithoutARecordAHostOrAShowing) {
   EXPECT_EQ(api_->UserServicePropertySheet(nullptr, 1, manager_), 1);
   EXPECT_EQ(desktop_.windows.back(), "Service Properties");
   EXPECT_EQ(api_->UserServiceTestDialog(nullptr, 0, manager_), 1U);
+}
+
+// The library goes at the end of the test while its report is still awaited.
+TEST_F(ExportsTest, ATestOfAUserIsAJobInTheSpool) {
+  Add<ALRTSMTPSERVICEREC>(4, "Mail");
+  ALERTRESPREC response{};
+  response.responseId = alertrecords::TestResponseId(5);
+  CAlertRespDB responses;
+  ASSERT_EQ(responses.DBOpen(), kOk);
+  ASSERT_EQ(responses.AddWithIdentity(response), kOk);
+  desktop_.presses_enter = true;
+  EXPECT_EQ(api_->UserServiceTestDialog(nullptr, 0, manager_), 1U);
+  EXPECT_EQ(desktop_.messages, 0);
+  std::size_t jobs = 0;
+  for (const auto& file : std::filesystem::directory_iterator(directory_.Path() + "/spool"))
+    jobs += file.path().extension() == ".json";
+  EXPECT_EQ(jobs, 1U);
 }
 
 TEST_F(ExportsTest, EachServiceAnswersForItsType) {

@@ -78,6 +78,21 @@ TEST_F(PanelHostTest, ThePanelMayGoFirst) {
   EXPECT_EQ(place->findChild<QLineEdit*>(), nullptr);
 }
 
+TEST_F(PanelHostTest, APageMayGoWhileItsSheetIsOpen) {
+  platform::ui::PropertySheet sheet("Sheet", nullptr);
+  auto first = std::make_unique<NumberPanel>();
+  NumberPanel second;
+  sheet.AddPage(*first);
+  sheet.AddPage(second);
+  desktop.script.ExpectWindow("Sheet", [&](Person& p) {
+    first.reset();
+    Settle();
+    p.Press("Cancel");
+  });
+  EXPECT_EQ(sheet.RunModal(), platform::ui::kCancel);
+  EXPECT_TRUE(desktop.script.Failures().empty());
+}
+
 TEST_F(PanelHostTest, ThePlaceMayGoFirst) {
   place.reset();
   EXPECT_TRUE(host->Activate());

@@ -169,6 +169,7 @@ TEST_F(PanelsTest, APathThatOthersCannotFollowIsAskedAboutAndTheHostMayRefuse) {
   EXPECT_EQ(host.RunModal(), ui::kOk);
   EXPECT_EQ(ResponseUpdatePropertyPanelData(panel.get()), 1u);
   EXPECT_EQ(response_.subject.View(), "/sounds/b.wav");
+  EXPECT_THAT(Script().titles, testing::Each("Alerting")) << "in whatever window the panel stands";
 }
 
 struct UserRow {

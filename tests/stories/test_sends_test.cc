@@ -35,8 +35,8 @@ class TestSendsTest : public ServiceSheetsTest {
     EXPECT_EQ(ResponseStore().AddWithIdentity(response), alertstore::kOk);
     if (Service().IsUserService())
       test_support::Users(Service()).SaveUserEntry(user_, {"Ann Operator", "555", 1});
-    if (Service().Type().is_user) return;
-    alertstore::AddComputer(computer_, "DESK");
+    else
+      alertstore::AddComputer(computer_, "DESK");
   }
   ALERTRESPREC Stored() {
     const platform::GUID id = Service().TestResponse();
@@ -94,6 +94,19 @@ TEST_F(TestSendsTest, AMailGoesToTheChosenUserAndItsRequestNamesTheRecord) {
   EXPECT_EQ(AgentUi().sent_text, "");
   EXPECT_THAT(Script().sleeps, ElementsAre(1000, 1000, 4000, 1000, 1000));
   EXPECT_EQ(Library().dbconfig.files_written, 2) << "by the test, and by the sheet that closed";
+}
+
+struct WaitingWindow : platform::ui::Window {
+  void ShowProgress(const std::string& what) override { said.push_back(what); }
+  std::vector<std::string> said;
+};
+
+TEST_F(TestSendsTest, TheWaitSaysWhatItIsForAndEnds) {
+  SeedAll(kTypeSnmp);
+  WaitingWindow window;
+  EXPECT_TRUE(Service().SendTestAlert({}, "trap", nullptr, 0, &window));
+  EXPECT_THAT(window.said, ElementsAre("Waiting for the configuration...",
+                                       "Waiting for the alert managers...", "Handing the test over...", ""));
 }
 
 TEST_F(TestSendsTest, AReportIsShownOnceEvenWhenTheDialogIsGoneAndItComesOnAnotherThread) {
