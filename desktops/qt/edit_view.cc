@@ -39,8 +39,10 @@ void LineField::EndComposition() {
 
 void LineField::SetMasked(bool masked) { setEchoMode(masked ? QLineEdit::Password : QLineEdit::Normal); }
 
+// Without anyone to hear of it the event may be the field's last.
 bool LineField::event(QEvent* event) {
-  if (events_ != nullptr && events_->BeforeEvent(*event)) return true;
+  if (events_ == nullptr) return QLineEdit::event(event);
+  if (events_->BeforeEvent(*event)) return true;
   const bool handled = QLineEdit::event(event);
   if (events_ != nullptr) events_->AfterEvent(*event);
   return handled;
@@ -93,7 +95,8 @@ void TextField::EndComposition() {
 }
 
 bool TextField::event(QEvent* event) {
-  if (events_ != nullptr && events_->BeforeEvent(*event)) return true;
+  if (events_ == nullptr) return QPlainTextEdit::event(event);
+  if (events_->BeforeEvent(*event)) return true;
   const bool handled = QPlainTextEdit::event(event);
   if (events_ != nullptr) events_->AfterEvent(*event);
   return handled;
