@@ -53,6 +53,7 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
     case Buttons::kOk:
       return QMessageBox::Ok;
     case Buttons::kYesNo:
+    case Buttons::kNoYes:
       return QMessageBox::Yes | QMessageBox::No;
     case Buttons::kYesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -105,6 +106,7 @@ Answer QtDesktop::ShowMessage(const Message& message) {
   QMessageBox box(IconOf(message.icon), qt::ToQt(message.title), qt::ToQt(message.text),
                   ButtonsOf(message.buttons), ActiveParent());
   box.setTextFormat(Qt::PlainText);
+  if (message.buttons == Buttons::kNoYes) box.setDefaultButton(QMessageBox::No);
   return AnswerOf(Exec(box));
 }
 

@@ -53,7 +53,7 @@ bool Offers(Buttons buttons, Answer answer) {
 
 Answer AnswerOfLeaving(Buttons buttons) {
   if (buttons == Buttons::kOk) return Answer::kOk;
-  return buttons == Buttons::kYesNo ? Answer::kNo : Answer::kCancel;
+  return buttons == Buttons::kYesNo || buttons == Buttons::kNoYes ? Answer::kNo : Answer::kCancel;
 }
 
 void Script::ExpectWindow(std::string caption, Story story) {

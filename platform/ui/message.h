@@ -7,7 +7,8 @@
 
 namespace platform::ui {
 
-enum class Buttons { kOk, kYesNo, kYesNoCancel };
+/// kNoYes: Yes and No, of which No is the default, for what cannot be undone.
+enum class Buttons { kOk, kYesNo, kNoYes, kYesNoCancel };
 enum class MessageIcon { kNone, kWarning, kQuestion };
 enum class Answer { kOk, kYes, kNo, kCancel };
 

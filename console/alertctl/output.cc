@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "console/alertctl/output.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <iostream>
+
+#include "console/site/names.h"
+#include "platform/base/utf8.h"
+
+namespace alertctl {
+namespace {
+
+int g_output_error = 0;
+
+using site::Classify;
+using site::Piece;
+
+template <class Visitor>
+void ForEachSequence(std::string_view text, Visitor visit) {
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t next = platform::Utf8Next(text, at);
+    visit(text.substr(at, next - at));
+    at = next;
+  }
+}
+
+/// The character of a sequence of at most three bytes, which all that is escaped here have.
+unsigned CodePoint(std::string_view sequence) {
+  unsigned code = static_cast<unsigned char>(sequence.front());
+  if (sequence.size() > 1) code &= sequence.size() == 2 ? 0x1FU : 0x0FU;
+  for (const char byte : sequence.substr(1)) code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+  return code;
+}
+
+std::string Escaped(std::string_view control) {
+  std::array<char, 8> escape{};
+  std::snprintf(escape.data(), escape.size(), "\\u%04x", CodePoint(control) & 0xFFFFU);
+  return escape.data();
+}
+
+}  // namespace
+
+void ReserveStandardStreams() {
+  // Each is opened the wrong way round, so that using it fails as it does when it is closed.
+  for (const auto& [descriptor, flags] : {std::pair{0, O_WRONLY}, {1, O_RDONLY}, {2, O_RDONLY}})
+    if (fcntl(descriptor, F_GETFD) < 0) static_cast<void>(open("/dev/null", flags));
+}
+
+bool PrintOut(const std::string& text) {
+  errno = 0;
+  const bool printed = static_cast<bool>(std::cout << text << std::flush);
+  g_output_error = printed ? 0 : errno;
+  return printed;
+}
+
+std::string LastOutputError() {
+  return g_output_error != 0 ? std::strerror(g_output_error) : "standard output takes nothing";
+}
+
+void PrintError(const std::string& text) { std::cerr << "alertctl: " << Printable(text, false) << '\n'; }
+
+std::string Printable(std::string_view text, bool lines) {
+  std::string result;
+  ForEachSequence(text, [&](std::string_view sequence) {
+    const Piece piece = lines && sequence == "\n" ? Piece::kText : Classify(sequence);
+    if (piece == Piece::kText)
+      result += sequence;
+    else
+      result += piece == Piece::kControl ? " " : "\uFFFD";
+  });
+  return result;
+}
+
+// JSON has the controls of ASCII escaped already, but for the last one.
+std::string JsonText(const Json& json) {
+  std::string result;
+  ForEachSequence(json.dump(2, ' ', false, Json::error_handler_t::replace), [&](std::string_view sequence) {
+    if (sequence != "\n" && Classify(sequence) == Piece::kControl)
+      result += Escaped(sequence);
+    else
+      result += sequence;
+  });
+  return result + "\n";
+}
+
+}  // namespace alertctl

@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include "console/alertctl/site.h"
+#include "console/alertctl/text.h"
+#include "console/alertctl/verbs.h"
+
+namespace alertctl {
+
+void AddServiceChangeVerbs(Verbs& verbs, CLI::App& service);
+
+namespace {
+
+constexpr char kListExamples[] =
+    "  alertctl service list\n"
+    "  alertctl service list --json | jq -r '.[] | select(.enabled) | .name'";
+
+constexpr char kShowExamples[] =
+    "  alertctl service show \"Internet Mail\"\n"
+    "  alertctl service show 5D1F0104-6B52-4C0E-9A37-21C48E7B9D60 --json";
+
+std::string Joined(const std::vector<std::string>& texts) {
+  std::string joined;
+  for (const std::string& text : texts) joined += (joined.empty() ? "" : ", ") + text;
+  return joined;
+}
+
+Json Summary(const Json& site, const Json& service) {
+  return {{"id", service["id"]},
+          {"name", service["name"]},
+          {"type", service["type"]},
+          {"typeName", TypeName(service)},
+          {"enabled", service["enabled"]},
+          {"users", service.value("users", Json::array()).size()},
+          {"alertManagers", ManagersOf(site, service)}};
+}
+
+Result List() {
+  const Json site = LoadSite();
+  if (site["services"].empty())
+    return {Json::array(), "There are no services. \"alertctl init\" adds one of every type.\n"};
+  Json list = Json::array();
+  TextTable table({"NAME", "TYPE", "ENABLED", "USERS", "ALERT MANAGERS", "IDENTITY"});
+  for (const Json& service : site["services"]) {
+    list.push_back(Summary(site, service));
+    const Json& summary = list.back();
+    table.Add({summary["name"], summary["typeName"], YesNo(summary["enabled"]), summary["users"].dump(),
+               Joined(ManagersOf(site, service)), summary["id"]});
+  }
+  return {list, table.Text()};
+}
+
+Result Show(const std::string& name) {
+  const Json site = LoadSite();
+  Json service = FindService(site, name);
+  service["alertManagers"] = ManagersOf(site, service);
+  return {service, Described(service, 0)};
+}
+
+}  // namespace
+
+void AddServiceVerbs(Verbs& verbs) {
+  CLI::App& service = verbs.AddNoun("service", "Shows and changes the site's notification services.");
+  verbs.AddVerb(service, "list", Access::kRead, "Lists the services.", kListExamples, List);
+  const auto name = std::make_shared<std::string>();
+  verbs
+      .AddVerb(service, "show", Access::kRead, "Shows one service whole; passwords are masked.",
+               kShowExamples, [name] { return Show(*name); })
+      .add_option("service", *name, "Name or identity of the service")
+      ->required();
+  AddServiceChangeVerbs(verbs, service);
+}
+
+}  // namespace alertctl

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "companions/alertstore/status.h"
+#include "console/alertctl/verbs.h"
+#include "platform/base/guid.h"
+
+// What the stores hold, as the verbs see it.
+
+namespace alertctl {
+
+/// All stores at one moment, in the form of the configuration file (docs/configuration-file.md) with every
+/// secret masked, so that no verb can print one. Throws a Failure with kStoreFailure.
+Json LoadSite();
+/// Masks the passwords in a document, and the community names of the SNMP managers, which are passwords too.
+void MaskSecrets(Json& document);
+
+/// The service of that name (either case) or identity. Throws kNothingMatched, or kInvalid when several
+/// match.
+const Json& FindService(const Json& site, const std::string& name);
+/// The alert manager of that name or identity; for "" this machine, or the only one there is. Throws as
+/// FindService does.
+const Json& FindManager(const Json& site, const std::string& name);
+/// True when the manager delivers through the service, other than as its backup.
+bool IsEnabledOn(const Json& manager, const Json& service);
+/// True when the record with the settings of that service is missing. Throws a Failure with kStoreFailure.
+bool LacksOwnRecord(const platform::GUID& service);
+/// The names of the managers on which the service is enabled, in the order of the managers.
+std::vector<std::string> ManagersOf(const Json& site, const Json& service);
+
+struct FoundUser {
+  platform::GUID id;
+  std::string name;
+};
+/// The console user of that name or identity.
+FoundUser FindUser(const std::string& name);
+
+platform::GUID IdOf(const Json& object);
+/// What people call the service's type.
+std::string TypeName(const Json& service);
+std::uint32_t RecordTypeOf(const Json& service);
+
+/// The failure of a store just now, while doing something ("add the user \"Ann\""), with what can be done about it.
+Failure StoreFailure(const std::string& what, alertstore::Status status);
+/// The same, where the cause was noted before.
+Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause);
+
+}  // namespace alertctl

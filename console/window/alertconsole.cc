@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// The alerting console: a window on the site's notification services.
+#include <CLI/CLI.hpp>
+#include <QApplication>
+#include <QMessageBox>
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
+#include "console/window/library.h"
+#include "console/window/main_window.h"
+#include "console/window/samples.h"
+#include "console/window/screenshots.h"
+#include "desktops/qt/offscreen.h"
+#include "desktops/qt/qt_desktop.h"
+
+namespace {
+
+constexpr int kWrongUsage = 2;  // as alertctl answers it
+
+struct Options {
+  std::string data, library_path, screenshots;
+};
+
+// Pictures need no display to be shown on.
+bool HasDisplay() { return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr; }
+
+int Run(const Options& options) {
+  std::optional<alertconsole::SampleSite> samples;
+  if (!options.screenshots.empty()) samples.emplace();
+  alertconsole::AlertingLibrary library(site::LibraryPath(options.library_path));
+  if (!options.screenshots.empty()) {
+    return alertconsole::WriteScreenshots(library, QString::fromStdString(options.screenshots));
+  }
+  alertconsole::MainWindow window(library);
+  window.show();
+  window.ShowServices();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  Options options;
+  CLI::App command("Shows and edits the notification services of this site.", "alertconsole");
+  command.add_option("--data", options.data, "Data directory (else ALERTING_DATA, else the user's own)");
+  command.add_option("--library", options.library_path,
+                     "The alerting library (else ALERTING_LIBRARY, else beside the console)");
+  command.add_option("--screenshot-dir", options.screenshots,
+                     "Write pictures of all windows there, on a copy of the site with examples, and exit");
+  try {
+    command.parse(argc, argv);
+  } catch (const CLI::ParseError& wrong) {
+    return command.exit(wrong) == 0 ? 0 : kWrongUsage;
+  }
+  if (!options.data.empty()) setenv("ALERTING_DATA", options.data.c_str(), 1);
+  if (!options.screenshots.empty() && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
+
+  std::optional<desktops::qt::OffscreenScreen> screen(std::in_place);
+  QApplication application(argc, argv);
+  screen.reset();
+  desktops::QtDesktop desktop;
+  try {
+    return Run(options);
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "alertconsole: %s\n", failure.what());
+    if (options.screenshots.empty()) QMessageBox::critical(nullptr, "Alerting Console", failure.what());
+    return 1;
+  }
+}

@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+#include "console/window/samples.h"
+
+#include <stdlib.h>
+
+#include <filesystem>
+
+#include "companions/alertrecords/user_entry.h"
+#include "companions/alertstore/backup.h"
+#include "companions/alertstore/console_users.h"
+#include "companions/alertstore/problem.h"
+#include "companions/alertstore/stores.h"
+#include "console/window/library.h"
+
+namespace alertconsole {
+namespace {
+
+using namespace alertstore;  // NOLINT: records of many kinds are filled here
+
+void Require(Status status) {
+  if (status != kOk) throw StartFailure("The sample site cannot be made: " + ProblemText(status) + ".");
+}
+
+template <class Store>
+bool FindFirst(Store& store, typename Store::RecordType& record) {
+  Require(store.DBOpen());
+  return store.DBAlertRecFindFirst(store.Schema().selectors.front().number, 0, nullptr, record) == kOk;
+}
+
+/// Adds a record to a store that has none.
+template <class Store, class Fill>
+typename Store::RecordType AddFirst(Fill fill) {
+  Store store;
+  typename Store::RecordType record{};
+  if (FindFirst(store, record)) return record;
+  platform::GUID id{};
+  fill(record);
+  Require(store.DBAlertRecAdd(record, id));
+  return record;
+}
+
+/// Changes the first service of a type by its specific record.
+template <class Store, class Fill>
+void FillFirst(Fill fill) {
+  Store store;
+  typename Store::RecordType record{};
+  if (!FindFirst(store, record)) return;
+  fill(record);
+  Require(store.DBAlertRecUpdate(record));
+}
+
+ALRTSERV_MODEM AddModem() {
+  CAlert_SRV_CFGDB managers;
+  CAlertMODEM_LOCATIONDB locations;
+  CAlertSERV_MODEMDB types(kModemTypeFile);
+  ALRT_SRV_CFGREC manager{};
+  ALRTMODEM_LOCATION location{};
+  ALRTSERV_MODEM type{};
+  FindFirst(managers, manager);
+  FindFirst(locations, location);
+  FindFirst(types, type);
+  return AddFirst<CAlertSERV_MODEMDB>([&](ALRTSERV_MODEM& modem) {
+    modem = type;
+    modem.guid = platform::kNullGuid;
+    modem.name.Assign("Office modem");
+    modem.managerGuid = manager.guid;
+    modem.managerName.Assign(manager.managerName.View());
+    modem.locationGuid = location.guid;
+    modem.modemTypeGuid = type.guid;
+  });
+}
+
+/// The services that dial out show the modem that they use.
+template <class Record>
+void UseModem(const ALRTSERV_MODEM& modem, Record& record) {
+  record.modemId = modem.guid;
+  record.modemName.Assign(modem.name.View());
+  record.baudRate = modem.baudRate;
+  record.dataBits = 8;
+}
+
+void AddSnmpManager() {
+  AddFirst<CAlertUSR_SNMPDB>([](ALRTUSR_SNMPSERVICEREC& manager) {
+    manager.computer.Assign("OPERATIONS");
+    manager.address.Assign("192.0.2.25");
+    manager.community.Assign("public");
+    manager.comment.Assign("Console in the operations room");
+    manager.enabled = 1;
+  });
+}
+
+/// A user who is reached by Internet Mail.
+void AddUser() {
+  constexpr std::uint32_t kInternetMail = 5;
+  CAlertNtfyServDB services;
+  CAlertUsrInstServDB links;
+  ALRTNTFYSERV service{};
+  if (!FindFirst(services, service)) return;
+  while (service.recordType != kInternetMail)
+    if (services.DBAlertRecFindNext(service) != kOk) return;
+  const auto user = platform::GUID::Generate();
+  platform::GUID link_id{}, record_id{};
+  ALRTUSR_SMTPSERVICEREC record{};
+  ALRTUSRINSTSERV link{};
+  alertrecords::FillUserRecord(user, "Night Operator", "night@example.org", 1, record);
+  alertrecords::FillUserLink(user, service.serviceId, service.name.View(), link);
+  link.recordType = kInternetMail;
+  Require(AddConsoleUser(user, "Night Operator"));
+  Require(links.DBOpen());
+  Require(links.DBAlertRecAdd(link, link_id, record, record_id));
+}
+
+template <class Record>
+void LogIn(Record& record) {
+  record.loginId.Assign("alerts");
+  record.password.Assign("example");
+}
+
+void FillMail(const ALRTSERV_MODEM& modem) {
+  FillFirst<CAlertMHSNtfyServDB>([](auto& record) {
+    LogIn(record);
+    record.mhsDirectory.Assign("\\\\MAIL\\POST\\MHS");
+  });
+  FillFirst<CAlertSMTPNtfyServDB>([](auto& record) { record.smtpServer.Assign("mail.example.org"); });
+  FillFirst<CAlertMAPINtfyServDB>([](auto& record) { LogIn(record); });
+  FillFirst<CAlertCCMAILNtfyServDB>([](auto& record) { LogIn(record); });
+  const auto dial = [&](auto& record) {
+    LogIn(record);
+    record.phoneNumber.Assign("555-0100");
+    UseModem(modem, record);
+  };
+  FillFirst<CAlertMCINtfyServDB>(dial);
+  FillFirst<CAlertCOMPUSNtfyServDB>(dial);
+}
+
+void FillPagers(const ALRTSERV_MODEM& modem) {
+  FillFirst<CAlertAPAGENtfyServDB>([&](auto& record) {
+    record.providerCompany.Assign("Example Paging");
+    record.providerLocation.Assign("North");
+    record.providerPhone.Assign("555-0123");
+    record.maxTextLength = 240;
+    UseModem(modem, record);
+  });
+  FillFirst<CAlertNPAGENtfyServDB>([&](auto& record) {
+    record.dialDelay = 5;
+    UseModem(modem, record);
+  });
+  FillFirst<CAlertGENPORTNtfyServDB>([&](auto& record) { UseModem(modem, record); });
+}
+
+}  // namespace
+
+SampleSite::SampleSite() : directory_(std::filesystem::temp_directory_path() / "alerting-samples-XXXXXX") {
+  if (mkdtemp(directory_.data()) == nullptr)
+    throw StartFailure("The directory " + directory_ + " cannot be made.");
+  CopySite();
+  const ALRTSERV_MODEM modem = AddModem();
+  AddSnmpManager();
+  AddUser();
+  FillMail(modem);
+  FillPagers(modem);
+}
+
+SampleSite::~SampleSite() {
+  std::error_code ignored;
+  std::filesystem::remove_all(directory_, ignored);
+}
+
+void SampleSite::CopySite() {
+  const std::string copy = directory_ + "/site.db";
+  Copied copied;
+  Require(BackUp(copy, copied));
+  setenv("ALERTING_DATA", directory_.c_str(), 1);
+  Require(Restore(copy, copied));
+}
+
+}  // namespace alertconsole

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "console/window/screenshots.h"
+
+#include <QDir>
+#include <cstdio>
+
+#include "companions/ctxhelp/resource_directory.h"
+#include "companions/dbconfig/service_types.h"
+#include "console/window/main_window.h"
+#include "console/window/tour.h"
+
+namespace alertconsole {
+namespace {
+
+constexpr std::size_t kPathBuffer = 4096;
+
+QString NameOf(std::uint32_t record_type) {
+  const dbconfig::ServiceType* type = dbconfig::FindServiceType(record_type);
+  return type != nullptr ? QString(type->key) : QString();
+}
+
+/// The pictures of a tour, as files in a folder.
+class Pictures {
+ public:
+  explicit Pictures(const QString& folder) : folder_(folder) {
+    if (!QDir().mkpath(folder)) Fail("cannot make the folder " + folder);
+  }
+
+  void Take(QWidget& window, const QString& name) {
+    const QString path = folder_.filePath(name + ".png");
+    if (!window.grab().save(path)) return Fail("cannot write " + path);
+    std::printf("%s\n", qPrintable(path));
+  }
+  void Fail(const QString& what) {
+    failed = true;
+    std::fprintf(stderr, "alertconsole: %s\n", qPrintable(what));
+  }
+
+  bool failed = false;
+
+ private:
+  QDir folder_;
+};
+
+/// The first service of each type; false when there is none.
+bool VisitSheets(AlertingLibrary& library, MainWindow& window, Tour& tour) {
+  std::set<QString> visited;
+  for (int index = 0; index < library.DomainServiceGetCount(); ++index) {
+    const QString name = NameOf(library.DomainServiceGetInfo(index)->recordType);
+    if (name.isEmpty() || !visited.insert(name).second) continue;
+    tour.Visit(name, [&] { window.OpenSheet(index); });
+  }
+  return !visited.empty();
+}
+
+/// The dialogs that no sheet opens. Icons are shown of the library's own icon file.
+void VisitDialogs(AlertingLibrary& library, Tour& tour) {
+  char same_area[64] = "", long_distance[64] = "1", international[64] = "011", path[kPathBuffer] = "";
+  std::uint32_t icon = 0;
+  tour.Visit("dialing-rules", [&] { library.RulesDialog(nullptr, same_area, long_distance, international); });
+  tour.Visit("select-program", [&] { library.SelectProgFileDialog(nullptr, path); });
+  tour.Visit("select-sound", [&] { library.SelectWAVFileDialog(nullptr, path); });
+  (ctxhelp::ResourceDirectory() + "/icons/mail.ico").copy(path, sizeof(path) - 1);
+  tour.Visit("select-icon", [&] { library.SelectIconFileDialog(nullptr, path, &icon); });
+}
+
+}  // namespace
+
+int WriteScreenshots(AlertingLibrary& library, const QString& folder) {
+  Pictures pictures(folder);
+  Tour tour([&](QWidget& shown, const QString& name) { pictures.Take(shown, name); });
+  MainWindow window(library);
+  window.show();
+  window.ShowServices();
+  tour.Look(window, "console");
+  if (!VisitSheets(library, window, tour)) pictures.Fail("there are no services; run \"alertctl init\"");
+  VisitDialogs(library, tour);
+  return pictures.failed ? 1 : 0;
+}
+
+}  // namespace alertconsole
