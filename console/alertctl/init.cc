@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "console/alertctl/starter.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
+#include "console/site/starter.h"
 #include "platform/base/paths.h"
 
 namespace alertctl {
@@ -12,7 +12,7 @@ constexpr char kExamples[] =
     "  alertctl init --data alerting-data --json";
 
 Result Init() {
-  const Added added = AddStarterData();
+  const site::Added added = site::AddStarterData();
   const std::string directory = platform::DataDirectory();
   const Json counts = {{"alertManagers", added.managers},
                        {"computers", added.computers},

@@ -6,12 +6,10 @@
 #include <optional>
 
 #include "companions/alertstore/console_users.h"
-#include "companions/alertstore/problem.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
 #include "companions/dbconfig/strings.h"
-#include "console/site/advice.h"
 #include "platform/base/host_name.h"
 #include "platform/base/utf8.h"
 
@@ -142,14 +140,6 @@ std::string TypeName(const Json& service) { return dbconfig::ServiceTypeName(Rec
 std::uint32_t RecordTypeOf(const Json& service) {
   const dbconfig::ServiceType* type = TypeOf(service);
   return type != nullptr ? type->record_type : 0;
-}
-
-Failure StoreFailure(const std::string& what, alertstore::Status status) {
-  return StoreFailure(what, status, alertstore::ProblemText(status));
-}
-
-Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause) {
-  return Failure(kStoreFailure, site::FailureText(what, status, cause));
 }
 
 }  // namespace alertctl

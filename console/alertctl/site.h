@@ -42,9 +42,4 @@ platform::GUID IdOf(const Json& object);
 std::string TypeName(const Json& service);
 std::uint32_t RecordTypeOf(const Json& service);
 
-/// The failure of a store just now, while doing something ("add the user \"Ann\""), with what can be done about it.
-Failure StoreFailure(const std::string& what, alertstore::Status status);
-/// The same, where the cause was noted before.
-Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause);
-
 }  // namespace alertctl

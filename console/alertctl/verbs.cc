@@ -6,8 +6,8 @@
 #include <optional>
 
 #include "companions/alertstore/left_out.h"
-#include "console/alertctl/data.h"
 #include "console/alertctl/output.h"
+#include "console/site/data_directory.h"
 
 namespace alertctl {
 
@@ -35,10 +35,10 @@ CLI::App& Verbs::AddVerb(CLI::App& noun, const std::string& name, Access access,
 Result Verbs::RunAction() const {
   if (access_ == Access::kFile) return action_();
   if (access_ == Access::kSetUp)
-    MakeDataDirectory();
+    site::MakeDataDirectory();
   else
-    RequireData();
-  std::optional<DirectoryTurn> turn;
+    site::RequireData();
+  std::optional<site::DirectoryTurn> turn;
   if (access_ == Access::kChange || access_ == Access::kSetUp) turn.emplace();
   return action_();
 }

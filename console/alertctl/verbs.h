@@ -4,25 +4,18 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <nlohmann/json.hpp>
-#include <stdexcept>
 #include <string>
+
+#include "console/site/failure.h"
 
 namespace alertctl {
 
 using Json = nlohmann::ordered_json;
 
-/// What alertctl ends with (docs/alertctl.md).
-enum ExitCode { kDone = 0, kUsage = 2, kNothingMatched = 3, kInvalid = 4, kStoreFailure = 5 };
-
-/// A verb cannot do its work. The text says which record, why, and what to do.
-class Failure : public std::runtime_error {
- public:
-  Failure(ExitCode code, const std::string& text) : std::runtime_error(text), code_(code) {}
-  ExitCode Code() const { return code_; }
-
- private:
-  ExitCode code_;
-};
+using site::ExitCode;
+using site::Failure;
+using site::StoreFailure;
+using enum site::ExitCode;
 
 /// What a verb has to say: to programs, and to people (with its line breaks).
 struct Result {

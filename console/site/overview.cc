@@ -9,6 +9,7 @@
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/stores.h"
 #include "companions/dbconfig/keywords.h"
+#include "companions/dbconfig/service_types.h"
 #include "console/site/walk.h"
 
 namespace site {
@@ -70,6 +71,8 @@ Status Reader::ReadServices() {
     if (status != kOk) return status;
   CAlertNtfyServDB store;
   return WalkAll(store, [this](const ALRTNTFYSERV& record) {
+    if (dbconfig::FindServiceType(record.recordType) == nullptr)
+      return kOk;  // the library has none such either
     Service service{record.serviceId,
                     std::string(record.name.View()),
                     record.recordType,

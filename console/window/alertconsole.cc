@@ -34,7 +34,7 @@ int Run(const Options& options) {
   }
   alertconsole::MainWindow window(library);
   window.show();
-  window.ShowServices();
+  window.ReadSite();
   return QApplication::exec();
 }
 

@@ -23,7 +23,6 @@ AlertingLibrary::AlertingLibrary(const std::string& path) {
   if (const std::string missing = site::FindCalls(library_, *this); !missing.empty())
     throw StartFailure("The alerting library has no function " + missing +
                        ". Install the library that belongs to this console.");
-  if (OpenDBs() > site::kStoresWereOpen) throw StartFailure(StoresCannotBeOpened());
 }
 
 AlertingLibrary::~AlertingLibrary() { CloseDBs(); }

@@ -19,10 +19,10 @@ class StartFailure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// The alerting library, loaded, with its stores open.
+/// The alerting library, loaded. Its stores are open until it goes, once LibraryCalls::Reopen has opened them.
 class AlertingLibrary : public site::LibraryCalls {
  public:
-  /// Loads the library and opens its stores. Throws a StartFailure when either fails.
+  /// Throws a StartFailure when it cannot be loaded.
   explicit AlertingLibrary(const std::string& path);
   ~AlertingLibrary();
 

@@ -1,21 +1,32 @@
 // SPDX-License-Identifier: MIT
 #include "console/window/main_window.h"
 
-#include <QAction>
-#include <QHeaderView>
-#include <QInputDialog>
+#include <QCloseEvent>
 #include <QLabel>
-#include <QMenuBar>
-#include <QMessageBox>
+#include <QScopedValueRollback>
+#include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QStyle>
-#include <QToolBar>
-#include <QTreeWidget>
+#include <QTabWidget>
+#include <QTimer>
+#include <QVBoxLayout>
 
-#include "companions/dbconfig/strings.h"
+#include "companions/ctxhelp/resource_directory.h"
+#include "console/site/advice.h"
+#include "console/site/backup_manager.h"
+#include "console/site/data_directory.h"
+#include "console/site/failure.h"
+#include "console/site/starter.h"
+#include "console/window/library.h"
+#include "console/window/managers_page.h"
+#include "console/window/notices.h"
+#include "console/window/responses_page.h"
+#include "console/window/services_page.h"
+#include "console/window/start_page.h"
+#include "console/window/users_page.h"
 #include "desktops/qt/icons.h"
 #include "desktops/qt/texts.h"
+#include "platform/base/paths.h"
 #include "platform/ui/image.h"
 
 namespace alertconsole {
@@ -23,175 +34,219 @@ namespace {
 
 using desktops::qt::ToQt;
 
-enum TableColumn { kName, kType, kEnabled, kColumns };
-
 // An image of the strip; the strip's width is not a whole number of images.
 constexpr int kIconSize = 18;
 // The strip has no transparency; magenta stands for what is not painted.
 constexpr QRgb kBackground = qRgb(255, 0, 255);
-constexpr int kLongestName = 32;
-constexpr char kNoServices[] =
-    "There are no notification services here yet.\n\n"
-    "Run \"alertctl init\" to set up one service of each type, then choose Refresh (F5).";
+constexpr int kLookEvery = 1000;  // milliseconds, for what others changed
+/// The window's first size in letters of its font.
+constexpr int kWidthInLetters = 165, kHeightInLines = 36;
+
+bool MayBeWritten() {
+  const std::string database = platform::DataDirectory() + "/alerting.db";
+  return access(database.c_str(), F_OK) != 0 || access(database.c_str(), W_OK) == 0;
+}
+
+bool HasResources() { return access((ctxhelp::ResourceDirectory() + "/help").c_str(), R_OK) == 0; }
 
 }  // namespace
 
-MainWindow::MainWindow(AlertingLibrary& library)
-    : library_(library), pages_(new QStackedWidget(this)), table_(new QTreeWidget(pages_)) {
-  setWindowTitle(tr("Alerting Console"));
-  as_owner_.SetLabel(desktops::qt::FromQt(windowTitle()));
+MainWindow::MainWindow(const site::LibraryCalls& library)
+    : library_(library),
+      front_(new QStackedWidget(this)),
+      tabs_(new QTabWidget(front_)),
+      start_(new StartPage(front_)),
+      notices_(new Notices(this)),
+      summary_(new QLabel(this)),
+      said_(new QLabel(this)) {
+  setWindowTitle(tr("Alerting Console - %1").arg(ToQt(platform::DataDirectory())));
+  as_owner_.SetLabel("Alerting Console");
   as_owner_.SetObserver(this);
   LoadIcons();
-  MakeTable();
-  pages_->addWidget(table_);
-  pages_->addWidget(MakeEmptyNote());
-  setCentralWidget(pages_);
-  MakeActions();
-  statusBar();
-  resize(760, 480);
-  EnableActions();
+  AddPage(services_ = new ServicesPage(*this, tabs_));
+  AddPage(new UsersPage(*this, tabs_));
+  AddPage(new ResponsesPage(*this, tabs_));
+  AddPage(new ManagersPage(*this, tabs_));
+  front_->addWidget(tabs_);
+  front_->addWidget(start_);
+  auto* middle = new QWidget(this);
+  auto* column = new QVBoxLayout(middle);
+  column->addWidget(notices_);
+  column->addWidget(front_, 1);
+  setCentralWidget(middle);
+  statusBar()->addWidget(summary_);
+  statusBar()->addWidget(said_, 1);
+  MakeMenus();
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowPageCommands(); });
+  resize(fontMetrics().averageCharWidth() * kWidthInLetters, fontMetrics().lineSpacing() * kHeightInLines);
+  QSettings settings;
+  restoreGeometry(settings.value("window").toByteArray());
+  for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->Recall(settings);
+  auto* look = new QTimer(this);
+  connect(look, &QTimer::timeout, this, [this] { LookForChanges(); });
+  look->start(kLookEvery);
+  ShowPageCommands();
 }
 
 MainWindow::~MainWindow() { as_owner_.SetObserver(nullptr); }
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  QSettings settings;
+  settings.setValue("window", saveGeometry());
+  for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->Remember(settings);
+  QMainWindow::closeEvent(event);
+}
+
+void MainWindow::AddPage(Page* page) { tabs_->addTab(page, page->Title()); }
+
+Page* MainWindow::FrontPage() const {
+  return front_->currentWidget() == tabs_ ? static_cast<Page*>(tabs_->currentWidget()) : nullptr;
+}
 
 void MainWindow::LoadIcons() {
   platform::ui::Bitmap* strip = library_.GetIconBitmapObject();
   if (strip == nullptr) return;  // a table without pictures is still a table
   QImage image = desktops::qt::ToImage(*strip);
   image.setAlphaChannel(image.createMaskFromColor(kBackground, Qt::MaskOutColor));
-  icons_ = QPixmap::fromImage(image);
+  icon_strip_ = QPixmap::fromImage(image);
   library_.DeleteIconBitmapObject(strip);
 }
 
-void MainWindow::MakeTable() {
-  table_->setColumnCount(kColumns);
-  table_->setHeaderLabels({tr("Service"), tr("Type"), tr("Enabled")});
-  table_->setRootIsDecorated(false);
-  table_->setUniformRowHeights(true);
-  table_->setAllColumnsShowFocus(true);
-  table_->setAlternatingRowColors(true);
-  table_->setIconSize(QSize(kIconSize, kIconSize));
-  table_->header()->resizeSection(kName, 300);
-  table_->header()->resizeSection(kType, 240);
-  connect(table_, &QTreeWidget::itemActivated, this, [this] { OpenSheet(Chosen()); });
-  connect(table_, &QTreeWidget::itemSelectionChanged, this, [this] { EnableActions(); });
-}
-
-QWidget* MainWindow::MakeEmptyNote() {
-  note_ = new QLabel(tr(kNoServices), pages_);
-  note_->setAlignment(Qt::AlignCenter);
-  note_->setWordWrap(true);
-  note_->setMargin(40);
-  return note_;
-}
-
-void MainWindow::MakeActions() {
-  QMenu* service = menuBar()->addMenu(tr("&Service"));
-  QToolBar* bar = addToolBar(tr("Services"));
-  bar->setMovable(false);
-  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  const auto add = [&](const QString& text, QStyle::StandardPixmap icon, const QKeySequence& key, auto act) {
-    QAction* action = service->addAction(style()->standardIcon(icon), text, this, act);
-    action->setShortcut(key);
-    bar->addAction(action);
-    return action;
-  };
-  // Enter in the table opens the sheet already; a shortcut would take it away from the table.
-  properties_ =
-      add(tr("&Properties..."), QStyle::SP_FileDialogDetailedView, {}, [this] { OpenSheet(Chosen()); });
-  copy_ = add(tr("&Copy..."), QStyle::SP_FileIcon, {}, [this] { Copy(); });
-  delete_ = add(tr("&Delete"), QStyle::SP_TrashIcon, QKeySequence::Delete, [this] { Delete(); });
-  add(tr("&Refresh"), QStyle::SP_BrowserReload, QKeySequence::Refresh, [this] { Refresh(); });
-  service->addSeparator();
-  service->addAction(tr("E&xit"), QKeySequence::Quit, this, &QWidget::close);
-}
-
-void MainWindow::ShowServices() {
-  const int chosen = Chosen(), count = library_.DomainServiceGetCount();
-  {
-    const QSignalBlocker quiet(table_);
-    table_->clear();
-    for (int index = 0; index < count; ++index) {
-      table_->addTopLevelItem(new QTreeWidgetItem);
-      ShowRow(index);
-    }
-    table_->setCurrentItem(table_->topLevelItem(std::clamp(chosen, 0, std::max(count - 1, 0))));
+// The place in the strip is known by service alone; it is the same for all of a type.
+void MainWindow::LearnIcons() {
+  const int count = library_.DomainServiceGetCount();
+  for (int index = 0; index < count; ++index) {
+    QIcon& icon = icons_[library_.DomainServiceGetInfo(index)->recordType];
+    if (icon.isNull())
+      icon =
+          icon_strip_.copy(library_.DomainServiceGetIconOffset(index) * kIconSize, 0, kIconSize, kIconSize);
   }
-  pages_->setCurrentIndex(count == 0 ? 1 : 0);
-  const QString shown = count == 1 ? tr("1 service") : tr("%1 services").arg(count),
-                note = ToQt(LeftOutNote());
-  statusBar()->showMessage(note.isEmpty() ? shown : shown + ". " + note);
-  EnableActions();
 }
 
-void MainWindow::ShowRow(int index) {
-  QTreeWidgetItem* row = table_->topLevelItem(index);
-  const alertstore::ALRTNTFYSERV* service = library_.DomainServiceGetInfo(index);
-  if (row == nullptr || service == nullptr) return;
-  row->setText(kName, ToQt(service->name.View()));
-  row->setText(kType, QString::fromUtf8(dbconfig::ServiceTypeName(service->recordType)));
-  row->setText(kEnabled, service->enabled != 0 ? tr("Yes") : tr("No"));
-  const int offset = library_.DomainServiceGetIconOffset(index);
-  if (offset >= 0) row->setIcon(kName, icons_.copy(offset * kIconSize, 0, kIconSize, kIconSize));
+QIcon MainWindow::IconOf(std::uint32_t record_type) const {
+  const auto icon = icons_.find(record_type);
+  return icon == icons_.end() ? QIcon() : icon->second;
 }
 
-int MainWindow::Chosen() const {
-  const QList<QTreeWidgetItem*> chosen = table_->selectedItems();
-  return chosen.isEmpty() ? -1 : table_->indexOfTopLevelItem(chosen.first());
+void MainWindow::ReadSite() {
+  if (!library_.Reopen()) return ShowProblem(StoresCannotBeOpened());
+  if (const alertstore::Status status = site::ReadOverview(site_); status != alertstore::kOk)
+    return ShowProblem("The site cannot be read: " + site::FailureText("read the records", status) + ".");
+  library_.DomainServiceSetBackupServer(site::ReadBackupManager());
+  LearnIcons();
+  if (site_.services.empty() && site_.users.empty()) return ShowNothingYet();
+  ShowSite();
 }
 
-// The library keeps the first service of each type, so that a type never vanishes.
-void MainWindow::EnableActions() {
-  const int chosen = Chosen();
-  properties_->setEnabled(chosen >= 0);
-  copy_->setEnabled(chosen >= 0);
-  delete_->setEnabled(chosen >= 0 && library_.DomainServiceIsFirstOfType(chosen) == 0);
+void MainWindow::ShowSite() {
+  for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->ShowSite();
+  front_->setCurrentWidget(tabs_);
+  ShowNotices();
+  ShowPageCommands();
 }
 
-void MainWindow::OpenSheet(int index) {
-  if (index < 0) return;
-  library_.DomainServicePropertySheet(&as_owner_, index);
-  ShowRow(index);
+void MainWindow::ShowNothingYet() {
+  const bool damaged = !LeftOutNote().empty();
+  ShowNotices();
+  front_->setCurrentWidget(start_);
+  if (damaged)
+    start_->Say(tr("The records cannot be read"), ToQt(LeftOutNote()), tr("&Try Again"),
+                [this] { ReadSite(); });
+  else
+    start_->Say(tr("This site is not set up yet"),
+                tr("There are no records in %1.\n\nSetting the site up makes this machine its alert manager "
+                   "and adds one "
+                   "service of each type with a default message, modem types, an example of a paging "
+                   "provider and a dialing "
+                   "location. You then fill in what your services need.")
+                    .arg(ToQt(platform::DataDirectory())),
+                tr("&Set Up This Site"), [this] { SetUp(); });
+  ShowPageCommands();
 }
 
-void MainWindow::Refresh() {
-  const bool opened = library_.Reopen();
-  note_->setText(opened ? tr(kNoServices) : QString::fromStdString(StoresCannotBeOpened()));
-  ShowServices();
+// What was shown before is not what is there now, and must not pass for it.
+void MainWindow::ShowProblem(const std::string& problem) {
+  site_ = {};
+  front_->setCurrentWidget(start_);
+  start_->Say(tr("The records cannot be read"), ToQt(problem), tr("&Try Again"), [this] { ReadSite(); });
+  ShowPageCommands();
 }
 
-void MainWindow::Copy() {
-  const int index = Chosen();
-  if (index < 0) return;
-  bool accepted = false;
-  const QString name =
-      QInputDialog::getText(this, tr("Copy Service"), tr("&Name of the copy:"), QLineEdit::Normal,
-                            tr("Copy of %1").arg(table_->topLevelItem(index)->text(kName)), &accepted);
-  const std::string text = desktops::qt::FromQt(name.trimmed());
-  if (!accepted || text.empty()) return;
-  if (text.size() > kLongestName) {
-    QMessageBox::warning(this, windowTitle(), tr("A service's name has at most %1 bytes.").arg(kLongestName));
-    return;
+void MainWindow::SetUp() {
+  try {
+    site::MakeDataDirectory();
+    const site::DirectoryTurn turn;
+    site::AddStarterData();
+  } catch (const site::Failure& failure) {
+    TellFailure(failure.what());
   }
-  if (!table_->findItems(ToQt(text), Qt::MatchFixedString, kName).isEmpty()) {
-    QMessageBox::warning(this, windowTitle(), tr("There is a service named \"%1\" already.").arg(ToQt(text)));
-    return;
-  }
-  // On failure the library has said why.
-  if (library_.DomainServiceCopyService(index, text.c_str()) == 0) return;
-  ShowServices();
-  table_->setCurrentItem(table_->topLevelItem(library_.DomainServiceGetCount() - 1));
+  managers_file_.Write();
+  ReadSite();
 }
 
-void MainWindow::Delete() {
-  const int index = Chosen();
-  if (index < 0) return;
-  const QString question =
-      tr("Delete the service \"%1\"?  This operation is immediate and cannot be canceled later.")
-          .arg(table_->topLevelItem(index)->text(kName));
-  if (QMessageBox::question(this, windowTitle(), question) != QMessageBox::Yes) return;
-  library_.DomainServiceDeleteService(index, platform::kNullGuid);
-  ShowServices();
+void MainWindow::ShowNotices() {
+  const QString why =
+      managers_file_.Problem().empty() ? QString() : " (" + ToQt(managers_file_.Problem()) + ")";
+  notices_->Set(Notices::kNotTold,
+                managers_file_.Told()
+                    ? QString()
+                    : tr("What you see is not yet told to the alert managers: they work by the file "
+                         "as it was before%1.")
+                          .arg(why),
+                tr("Tell &Them Now"), [this] { TellManagers(); });
+  const std::string left_out = LeftOutNote();
+  notices_->Set(Notices::kLeftOut,
+                left_out.empty() ? QString() : tr("The data are damaged: %1.").arg(ToQt(left_out)));
+  notices_->Set(Notices::kReadOnly,
+                MayBeWritten() ? QString()
+                               : tr("The data can be read but not changed: this account may not write to %1.")
+                                     .arg(ToQt(platform::DataDirectory())));
+  notices_->Set(
+      Notices::kNoResources,
+      HasResources()
+          ? QString()
+          : tr("The console's help texts and starter data are not in %1. Install the resource files, "
+               "or name their directory in ALERTING_RESOURCES.")
+                .arg(ToQt(ctxhelp::ResourceDirectory())));
+}
+
+void MainWindow::TellManagers() {
+  managers_file_.Write();
+  said_->setText(managers_file_.Told() ? tr("The alert managers have been told.")
+                                       : tr("The alert managers could not be told."));
+  ShowNotices();
+}
+
+void MainWindow::LookForChanges() {
+  if (busy_ || !changes_.Changed()) return;
+  const QScopedValueRollback<bool> reading(busy_, true);
+  ReadSite();
+  managers_file_.Look();
+  ShowNotices();
+}
+
+void MainWindow::Do(const std::function<Outcome()>& work, const QString& done) {
+  if (busy_) return;
+  LookForChanges();
+  const QScopedValueRollback<bool> working(busy_, true);
+  const Outcome outcome = work();
+  if (outcome == Outcome::kStored) managers_file_.Write();
+  if (outcome == Outcome::kMayHaveStored) managers_file_.Look();
+  ReadSite();
+  changes_.Changed();  // this console's own
+  if (outcome != Outcome::kNothing && !done.isEmpty()) said_->setText(done);
+}
+
+void MainWindow::OpenSheet(const platform::GUID& service) { services_->OpenSheet(service); }
+
+void MainWindow::SelectionChanged() {
+  if (Page* page = FrontPage()) page->EnableCommands();
+  ShowStatus();
+}
+
+void MainWindow::ShowStatus() {
+  const Page* page = FrontPage();
+  summary_->setText(page != nullptr ? page->Summary() : QString());
 }
 
 }  // namespace alertconsole

@@ -3,53 +3,97 @@
 
 #include <QMainWindow>
 #include <QPixmap>
+#include <map>
 
-#include "console/window/library.h"
+#include "companions/alertstore/change_watch.h"
+#include "console/site/managers_file.h"
+#include "console/window/page.h"
 #include "desktops/qt/control_adapter.h"
 
-class QAction;
-class QStackedWidget;
 class QLabel;
-class QTreeWidget;
-class QTreeWidgetItem;
+class QMenu;
+class QStackedWidget;
+class QTabWidget;
+class QToolBar;
 
 namespace alertconsole {
 
-/// The console's window: the site's notification services in a table, and what can be done to them. To the
-/// library it is the owner of the sheets it opens.
-class MainWindow : public QMainWindow, public platform::ui::WindowObserver, public desktops::qt::WidgetOwner {
+class GuideWindow;
+class Notices;
+class ServicesPage;
+class StartPage;
+
+/// The console's window: the views of the site, what can be done in them, and what a person has to know. To the library it
+/// is the owner of the windows that it opens.
+class MainWindow : public QMainWindow,
+                   public Console,
+                   public platform::ui::WindowObserver,
+                   public desktops::qt::WidgetOwner {
  public:
-  explicit MainWindow(AlertingLibrary& library);
+  explicit MainWindow(const site::LibraryCalls& library);
   ~MainWindow() override;
 
-  /// Reads the services again and shows them; the chosen one stays chosen.
-  void ShowServices();
-  /// Opens the sheet of the service with that index, then shows what has become of it.
-  void OpenSheet(int index);
+  /// Reads the site and shows it. What cannot be read is told in place of the views.
+  void ReadSite();
+  /// Reads the site again where somebody changed it since the last time.
+  void LookForChanges();
+  /// Opens the properties of a service, as its row does.
+  void OpenSheet(const platform::GUID& service);
+
+  /// Brings each view to the front with its first row chosen and shows `visit` each command that can then be given, and
+  /// those of the Tools menu.
+  void VisitCommands(const std::function<void(const QString& page, QAction& command)>& visit);
+
+  const site::LibraryCalls& Library() const override { return library_; }
+  platform::ui::Window* Owner() override { return &as_owner_; }
+  const site::Overview& Site() const override { return site_; }
+  QIcon IconOf(std::uint32_t record_type) const override;
+  void Do(const std::function<Outcome()>& work, const QString& done) override;
+  void SelectionChanged() override;
 
   QWidget* OwnedWidget() const override { return const_cast<MainWindow*>(this); }
   platform::ui::Window& ShownWindow() const override { return const_cast<platform::ui::Window&>(as_owner_); }
   void OnWindowChanged(platform::ui::Window&, platform::ui::Change) override {}
 
- private:
-  void MakeTable();
-  QWidget* MakeEmptyNote();
-  void MakeActions();
-  void LoadIcons();
-  void ShowRow(int index);
-  void EnableActions();
-  int Chosen() const;
-  void Refresh();
-  void Copy();
-  void Delete();
+ protected:
+  void closeEvent(QCloseEvent* event) override;
 
-  AlertingLibrary& library_;
+ private:
+  void AddPage(Page* page);
+  void MakeMenus();
+  void MakeTools(QMenu& menu);
+  void MakeHelp(QMenu& menu);
+  void LoadIcons();
+  void LearnIcons();
+  Page* FrontPage() const;
+  void ShowPageCommands();
+  void ShowSite();
+  void ShowNothingYet();
+  void ShowProblem(const std::string& problem);
+  void ShowNotices();
+  void ShowStatus();
+  void SetUp();
+  void TellManagers();
+  void EditRules();
+  void ShowGuide();
+
+  const site::LibraryCalls& library_;
   platform::ui::Window as_owner_;
-  QPixmap icons_;
-  QStackedWidget* pages_;
-  QTreeWidget* table_;
-  QLabel* note_ = nullptr;  ///< in place of the table while there is nothing to show
-  QAction *properties_, *copy_, *delete_;
+  site::Overview site_;
+  site::ManagersFile managers_file_;
+  alertstore::ChangeWatch changes_;
+  QPixmap icon_strip_;
+  std::map<std::uint32_t, QIcon> icons_;  ///< by record type
+  QStackedWidget* front_;                 ///< the views, or what stands in their place
+  QTabWidget* tabs_;
+  StartPage* start_;
+  Notices* notices_;
+  ServicesPage* services_ = nullptr;
+  QMenu *page_menu_ = nullptr, *tools_menu_ = nullptr;
+  QToolBar* bar_ = nullptr;
+  QLabel *summary_, *said_;
+  GuideWindow* guide_ = nullptr;
+  bool busy_ = false;  ///< while a person works in a window that is modal to this one
 };
 
 }  // namespace alertconsole

@@ -105,6 +105,7 @@ void AddUser() {
   alertrecords::FillUserRecord(user, "Night Operator", "night@example.org", 1, record);
   alertrecords::FillUserLink(user, service.serviceId, service.name.View(), link);
   link.recordType = kInternetMail;
+  link.userEnabled = 1;
   Require(AddConsoleUser(user, "Night Operator"));
   Require(links.DBOpen());
   Require(links.DBAlertRecAdd(link, link_id, record, record_id));

@@ -6,6 +6,7 @@
 
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
+#include "console/window/library.h"
 #include "console/window/main_window.h"
 #include "console/window/tour.h"
 
@@ -43,21 +44,31 @@ class Pictures {
 };
 
 /// The first service of each type; false when there is none.
-bool VisitSheets(AlertingLibrary& library, MainWindow& window, Tour& tour) {
+bool VisitSheets(const site::Overview& site, MainWindow& window, Tour& tour) {
   std::set<QString> visited;
-  for (int index = 0; index < library.DomainServiceGetCount(); ++index) {
-    const QString name = NameOf(library.DomainServiceGetInfo(index)->recordType);
-    if (name.isEmpty() || !visited.insert(name).second) continue;
-    tour.Visit(name, [&] { window.OpenSheet(index); });
+  for (const site::Service& service : site.services) {
+    const QString name = NameOf(service.record_type);
+    if (!name.isEmpty() && visited.insert(name).second)
+      tour.Visit(name, [&] { window.OpenSheet(service.id); });
   }
   return !visited.empty();
 }
 
+/// Each view, and the windows that its commands open.
+void VisitCommands(MainWindow& window, Tour& tour) {
+  QString last;
+  window.VisitCommands([&](const QString& page, QAction& command) {
+    if (page != std::exchange(last, page)) tour.Look(window, "console-" + page.toLower().replace(' ', '-'));
+    const QString text = QString(command.text()).remove('&');
+    if (!text.endsWith("...") || text == "Properties...") return;
+    tour.Visit(text.chopped(3).toLower().replace(' ', '-'), [&] { command.trigger(); });
+  });
+}
+
 /// The dialogs that no sheet opens. Icons are shown of the library's own icon file.
 void VisitDialogs(AlertingLibrary& library, Tour& tour) {
-  char same_area[64] = "", long_distance[64] = "1", international[64] = "011", path[kPathBuffer] = "";
+  char path[kPathBuffer] = "";
   std::uint32_t icon = 0;
-  tour.Visit("dialing-rules", [&] { library.RulesDialog(nullptr, same_area, long_distance, international); });
   tour.Visit("select-program", [&] { library.SelectProgFileDialog(nullptr, path); });
   tour.Visit("select-sound", [&] { library.SelectWAVFileDialog(nullptr, path); });
   (ctxhelp::ResourceDirectory() + "/icons/mail.ico").copy(path, sizeof(path) - 1);
@@ -71,9 +82,11 @@ int WriteScreenshots(AlertingLibrary& library, const QString& folder) {
   Tour tour([&](QWidget& shown, const QString& name) { pictures.Take(shown, name); });
   MainWindow window(library);
   window.show();
-  window.ShowServices();
+  window.ReadSite();
   tour.Look(window, "console");
-  if (!VisitSheets(library, window, tour)) pictures.Fail("there are no services; run \"alertctl init\"");
+  if (!VisitSheets(site::Overview(window.Site()), window, tour))
+    pictures.Fail("there are no services; run \"alertctl init\"");
+  VisitCommands(window, tour);
   VisitDialogs(library, tour);
   return pictures.failed ? 1 : 0;
 }

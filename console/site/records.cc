@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "console/alertctl/records.h"
+#include "console/site/records.h"
 
 #include <cstring>
 
 #include "companions/dbconfig/keywords.h"
 
-namespace alertctl {
+namespace site {
 namespace {
 
 using dbconfig::Field;
@@ -81,4 +81,4 @@ void SetSpecificFields(char* record, const dbconfig::ServiceType& type, const Js
     SetField(record, type.message.priority, service["priority"]);
 }
 
-}  // namespace alertctl
+}  // namespace site

@@ -3,9 +3,9 @@
 
 #include "platform/base/process_lock.h"
 
-// The data directory that a verb works in.
+// The data directory that a program of the console works in.
 
-namespace alertctl {
+namespace site {
 
 /// Throws a Failure (kStoreFailure) when it is not there and cannot be made.
 void MakeDataDirectory();
@@ -23,4 +23,4 @@ class DirectoryTurn {
   platform::ProcessLock lock_;
 };
 
-}  // namespace alertctl
+}  // namespace site

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "console/alertctl/data.h"
+#include "console/site/data_directory.h"
 
 #include <sys/stat.h>
 
 #include <cerrno>
 
-#include "console/alertctl/verbs.h"
+#include "console/site/failure.h"
 #include "platform/base/paths.h"
 
-namespace alertctl {
+namespace site {
 namespace {
 
 constexpr std::chrono::seconds kTurnLimit(10);
@@ -40,4 +40,4 @@ DirectoryTurn::DirectoryTurn() : lock_(TurnFile(), kTurnLimit) {
     throw Failure(kStoreFailure, lock_.Error().text + (lock_.Error().number == 0 ? "" : kChooseAnother));
 }
 
-}  // namespace alertctl
+}  // namespace site

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "console/alertctl/starter.h"
+#include "console/site/starter.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -13,12 +13,11 @@
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site_fields.h"
-#include "console/alertctl/records.h"
-#include "console/alertctl/site.h"
+#include "console/site/records.h"
 #include "platform/base/host_name.h"
 #include "platform/base/paths.h"
 
-namespace alertctl {
+namespace site {
 namespace {
 
 using namespace alertstore;  // NOLINT: every kind of record is made here
@@ -270,4 +269,4 @@ Added AddStarterData() {
   }
 }
 
-}  // namespace alertctl
+}  // namespace site

@@ -1,16 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 
 #include "companions/alertrecords/keyword_table.h"
 #include "companions/dbconfig/service_types.h"
-#include "console/alertctl/verbs.h"
+#include "console/site/failure.h"
 
 // Builds records from JSON, by the descriptions that the configuration file is written with.
 
-namespace alertctl {
+namespace site {
+
+using Json = nlohmann::ordered_json;
 
 /// A message in stored form: placeholders in the text, and the keyword behind each.
 struct StoredMessage {
@@ -29,4 +32,4 @@ void SetFields(char* record, dbconfig::Fields fields, const Json& values);
 /// members are "settings", "subject", "body", "priority" and "modem".
 void SetSpecificFields(char* record, const dbconfig::ServiceType& type, const Json& service);
 
-}  // namespace alertctl
+}  // namespace site

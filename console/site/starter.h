@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace alertctl {
+namespace site {
 
 /// How many records of each kind were added.
 struct Added {
@@ -28,4 +28,4 @@ struct Added {
 /// from it. Throws a Failure.
 Added AddStarterData();
 
-}  // namespace alertctl
+}  // namespace site

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "companions/alertstore/status.h"
+
+namespace site {
+
+/// What a program of the console ends with (docs/alertctl.md).
+enum ExitCode { kDone = 0, kUsage = 2, kNothingMatched = 3, kInvalid = 4, kStoreFailure = 5 };
+
+/// Something cannot be done. The text says which record, why, and what to do.
+class Failure : public std::runtime_error {
+ public:
+  Failure(ExitCode code, const std::string& text) : std::runtime_error(text), code_(code) {}
+  ExitCode Code() const { return code_; }
+
+ private:
+  ExitCode code_;
+};
+
+/// The failure of a store just now, while doing something ("add the user \"Ann\""), with what can be done about it.
+Failure StoreFailure(const std::string& what, alertstore::Status status);
+/// The same, where the cause was noted before.
+Failure StoreFailure(const std::string& what, alertstore::Status status, const std::string& cause);
+
+}  // namespace site
