@@ -10,6 +10,11 @@ void ShowHelp(ui::Form& form, const ui::HelpEvent& event, ctxhelp::HelpPage page
   ctxhelp::MakeContextHelp()->QEVDlgOnContextHelp(form, event, ctxhelp::HelpTableOf(form, page).data());
 }
 
+std::string Trimmed(const std::string& text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
 void Tell(const std::string& text) { ui::MessageBox(text); }
 
 bool Ask(const std::string& question) {

@@ -36,6 +36,9 @@ class HostPage : public ui::PropertyPage {
   const ctxhelp::HelpPage help_page_;
 };
 
+/// What was typed, without the blanks around it.
+std::string Trimmed(const std::string& text);
+
 /// Says something that keeps a window from going on, with the console's title.
 void Tell(const std::string& text);
 /// The same with Yes and No, of which No is the default.

@@ -8,11 +8,6 @@ namespace {
 
 constexpr int kIdName = 100;
 
-std::string Trimmed(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 class NameDialog : public HostDialog {
  public:
   NameDialog(ui::Window* parent, const NameQuestion& question);

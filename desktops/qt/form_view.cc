@@ -51,6 +51,7 @@ void FormView::LetGo() {
 void FormView::OnWindowChanged(platform::ui::Window&, Change change) {
   if (change == Change::kLabel && on_caption_) on_caption_();
   if (change == Change::kEnabled) setEnabled(form_.Enabled());
+  if (change == Change::kDestroyed) LetGo();  // a form without controls
 }
 
 ControlAdapter& FormView::Add(Control& control) {

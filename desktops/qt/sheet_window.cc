@@ -23,7 +23,7 @@ SheetWindow::SheetWindow(PropertySheet& sheet, QWidget* parent)
   whole->addWidget(tabs_);
   whole->addLayout(row_);
   AddButtons();
-  AddTabs();
+  MakeTabs();
   MakeRoomForPages();
   ShowPage();
   ShowButtons();
@@ -54,16 +54,37 @@ void SheetWindow::AddButtons() {
   }
 }
 
-void SheetWindow::AddTabs() {
-  for (const PropertyPage* page : sheet_.Pages()) {
-    auto* place = new QWidget(tabs_);
-    (new QVBoxLayout(place))->setContentsMargins({});
-    tabs_->addTab(place, ToQt(page->Label()));
-  }
-  tabs_->setVisible(tabs_->count() > 0);
+void SheetWindow::MakeTabs() {
+  FollowPages();
   tabs_->setUsesScrollButtons(false);  // all tabs are in view
   tabs_->tabBar()->setVisible(!sheet_.IsWizard());
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) { OnTabChosen(index); });
+}
+
+void SheetWindow::AddTab(const PropertyPage& page) {
+  auto* place = new QWidget(tabs_);
+  (new QVBoxLayout(place))->setContentsMargins({});
+  tabs_->addTab(place, ToQt(page.Label()));
+  placed_.push_back(&page);
+}
+
+// The view goes with its place, later: a handler of one of its widgets may be running.
+void SheetWindow::RemoveTab(int index) {
+  QWidget* place = tabs_->widget(index);
+  const auto view = views_.extract(placed_[static_cast<std::size_t>(index)]);
+  if (!view.empty()) view.mapped().release();
+  tabs_->removeTab(index);
+  place->deleteLater();
+  placed_.erase(placed_.begin() + index);
+}
+
+void SheetWindow::FollowPages() {
+  const QSignalBlocker quiet(tabs_);
+  const std::vector<PropertyPage*>& pages = sheet_.Pages();
+  for (int i = static_cast<int>(placed_.size()) - 1; i >= 0; --i)
+    if (std::ranges::find(pages, placed_[static_cast<std::size_t>(i)]) == pages.end()) RemoveTab(i);
+  for (std::size_t i = placed_.size(); i < pages.size(); ++i) AddTab(*pages[i]);
+  tabs_->setVisible(!pages.empty());
 }
 
 // A sheet does not grow when a larger page is chosen: each page is laid out once for its size, before any is shown. Notes
@@ -88,6 +109,7 @@ void SheetWindow::MakeRoomForPages() {
 
 void SheetWindow::OnWindowChanged(platform::ui::Window& window, Change change) {
   if (change == Change::kPages) {
+    FollowPages();
     ShowPage();
     ShowButtons();
   } else {
@@ -100,7 +122,8 @@ FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
   if (view == nullptr) {
     QWidget* place = tabs_->widget(index);
     view = FormView::Laid(page, place);
-    view->SetOnCaption([this, &page, index] { tabs_->setTabText(index, ToQt(page.Label())); });
+    view->SetOnCaption(
+        [this, &page, place] { tabs_->setTabText(tabs_->indexOf(place), ToQt(page.Label())); });
     place->layout()->addWidget(view.get());
     EndTabOrderWithButtons(*view);
     view->show();

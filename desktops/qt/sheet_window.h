@@ -23,7 +23,10 @@ class SheetWindow : public ModalWindow {
  private:
   void AddButtons();
   QString ApplyText() const;
-  void AddTabs();
+  void MakeTabs();
+  void FollowPages();
+  void AddTab(const platform::ui::PropertyPage& page);
+  void RemoveTab(int index);
   void MakeRoomForPages();
   void PressDefault() override;
   void ShowPage();
@@ -36,6 +39,7 @@ class SheetWindow : public ModalWindow {
   QTabWidget* tabs_;
   QHBoxLayout* row_;
   std::map<platform::ui::SheetButton, QPushButton*> buttons_;
+  std::vector<const platform::ui::PropertyPage*> placed_;  ///< the page of each tab; may be gone
   std::map<const platform::ui::PropertyPage*, std::unique_ptr<FormView>> views_;
 };
 

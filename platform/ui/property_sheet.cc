@@ -39,6 +39,7 @@ void PropertySheet::AddPage(PropertyPage& page) {
   page.sheet_ = this;
   page.SetParent(this);
   pages_.push_back(&page);
+  PageStateChanged();
 }
 
 void PropertySheet::RemovePage(PropertyPage& page) {
@@ -46,6 +47,7 @@ void PropertySheet::RemovePage(PropertyPage& page) {
   std::erase(pages_, &page);
   const auto at = std::ranges::find(pages_, active);
   active_ = at != pages_.end() ? static_cast<int>(at - pages_.begin()) : -1;
+  PageStateChanged();
 }
 
 PropertyPage* PropertySheet::ActivePage() const {
@@ -148,6 +150,7 @@ bool PropertySheet::ApplyAll() {
   for (PropertyPage* page : pages_) {
     if (page->Created() && !page->OnApply()) return false;
   }
+  if (!Commit()) return false;
   for (PropertyPage* page : pages_) page->page_changed_ = false;
   PageStateChanged();
   return true;
@@ -155,7 +158,7 @@ bool PropertySheet::ApplyAll() {
 
 bool PropertySheet::Finish() {
   PropertyPage* active = ActivePage();
-  return active == nullptr || active->OnWizardFinish();
+  return (active == nullptr || active->OnWizardFinish()) && Commit();
 }
 
 void PropertySheet::OpenWindow() {

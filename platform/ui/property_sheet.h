@@ -54,7 +54,8 @@ class PropertySheet : public Window, public Modal {
   PropertySheet(std::string caption, Window* parent, int selected_page = 0);
   ~PropertySheet() override;
 
-  /// Adds a page at the end. Not owned; it must outlive the sheet's run.
+  /// Adds a page at the end. Not owned. Pages may come and go while the sheet runs, as in a
+  /// wizard whose first page decides what follows it; one that is destroyed leaves the sheet.
   void AddPage(PropertyPage& page);
   const std::vector<PropertyPage*>& Pages() const { return pages_; }
   /// A wizard shows one page at a time without tabs. Set before the run.
@@ -97,6 +98,8 @@ class PropertySheet : public Window, public Modal {
   /// Sees a button that a person pressed before the platform acts on it; true consumes it. The base lets all
   /// pass.
   virtual bool OnCommand(SheetButton) { return false; }
+  /// Every page has applied, or the wizard's last page has finished: what the sheet itself stores. False keeps it open.
+  virtual bool Commit() { return true; }
   /// The sheet's window has been made, the first page not yet.
   virtual void OnCreated() {}
   /// The sheet's window is gone.

@@ -236,5 +236,69 @@ TEST_F(SheetsTest, AWizardGoesBackAndForth) {
   EXPECT_THAT(sheet.log, ElementsAre("command", "Modems finish", "command", "Modems finish", "destroyed"));
 }
 
+TEST_F(SheetsTest, TheLaterPagesOfAWizardAreReplacedWhileItRuns) {
+  Log log;
+  PropertySheet wizard("Sheet", nullptr);
+  LoggedPage first("First", log);
+  wizard.AddPage(first);
+  wizard.SetWizardMode();
+  Script().ExpectWindow("Sheet", [&](Person& p) {
+    for (const char* name : {"One", "Another"}) {
+      LoggedPage later(name, log);
+      PropertyPage empty("Empty");
+      wizard.AddPage(later);
+      wizard.AddPage(empty);
+      p.Press("Next >");
+      EXPECT_EQ(p.Text("&Count:"), "1") << "the values of the page before it went with that page";
+      p.Type("&Count:", "2");
+      p.Press("Next >");
+      p.Press("< Back");
+      p.Press("< Back");
+    }
+    EXPECT_EQ(wizard.ActivePage(), &first);
+    EXPECT_EQ(wizard.Pages().size(), 1u);
+    p.Press("Next >");
+    EXPECT_EQ(wizard.ActivePage(), &first) << "nothing follows";
+    p.Press("Cancel");
+  });
+  wizard.RunModal();
+  EXPECT_THAT(log, testing::Contains("Another left"));
+}
+
+/// A sheet that stores something itself.
+class StoringSheet : public PropertySheet {
+ public:
+  StoringSheet() : PropertySheet("Sheet", nullptr) { AddPage(page); }
+
+  Log log;
+  bool stores = false;
+  LoggedPage page{"Page", log};
+
+ private:
+  bool Commit() override {
+    log.push_back("store");
+    return stores;
+  }
+};
+
+TEST_F(SheetsTest, ASheetThatCannotStoreStaysOpenWithWhatWasEntered) {
+  for (const bool wizard : {false, true}) {
+    StoringSheet sheet;
+    if (wizard) sheet.SetWizardMode();
+    Script().ExpectWindow("Sheet", [&](Person& p) {
+      sheet.SetWizardButtons(kWizardFinish);
+      p.Type("&Text:", "x");
+      p.Press(wizard ? "Finish" : "OK");
+      EXPECT_EQ(p.Text("&Text:"), "x");
+      EXPECT_TRUE(sheet.page.PageChanged());
+      sheet.stores = true;
+      sheet.log.clear();
+      p.Press(wizard ? "Finish" : "OK");
+      EXPECT_EQ(sheet.log.back(), "store") << "after the page";
+    });
+    EXPECT_EQ(sheet.RunModal(), kOk);
+  }
+}
+
 }  // namespace
 }  // namespace stories

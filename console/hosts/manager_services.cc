@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: MIT
+#include "console/hosts/manager_services.h"
+
+#include "companions/alertstore/selectors.h"
+#include "companions/alertstore/stores.h"
+#include "companions/dbconfig/strings.h"
+#include "console/hosts/list_dialog.h"
+#include "console/hosts/service_choice.h"
+#include "console/site/advice.h"
+#include "console/site/walk.h"
+
+namespace hosts {
+namespace {
+
+using platform::GUID;
+
+/// How many notes say of managers that they deliver the service, of managers that are gone, too. 0 where they cannot be read.
+int CountNotes(const GUID& service) {
+  alertstore::CAlertSERV_INST_NTFY_SERVDB store;
+  int count = 0;
+  site::Walk(
+      store, alertstore::kEnabledServiceByService,
+      [&](const auto&) {
+        ++count;
+        return alertstore::kOk;
+      },
+      service);
+  return count;
+}
+
+std::string Listed(const std::vector<std::string>& names) {
+  std::string list;
+  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + name;
+  return list;
+}
+
+class ManagerServicesDialog : public ListDialog {
+ public:
+  ManagerServicesDialog(ui::Window* parent, const site::LibraryCalls& calls, const site::Manager& manager);
+
+ private:
+  bool ReadRows(std::vector<RecordList::Row>& rows) override;
+  void EnableButtons() override;
+  void Deliver();
+  void Stop();
+  bool Clear(const site::Service& service);
+  const site::Service* Chosen();
+  bool Delivers(const site::Service& service) const;
+
+  const site::LibraryCalls& calls_;
+  const GUID manager_;
+  const std::string name_;
+  site::Overview overview_;
+  ui::Button &deliver_, &stop_;
+};
+
+ManagerServicesDialog::ManagerServicesDialog(ui::Window* parent, const site::LibraryCalls& calls,
+                                             const site::Manager& manager)
+    : ListDialog(parent, {"Services of " + manager.name,
+                          "Se&rvices:",
+                          "There is no service yet.",
+                          {{"Service", 120}, {"Type", 100}, {"On", 10}, {"Delivered by", 60}},
+                          ctxhelp::kHelpManagerServices}),
+      calls_(calls),
+      manager_(manager.id),
+      name_(manager.name),
+      deliver_(AddRowButton("&Deliver", [this] { Deliver(); })),
+      stop_(AddRowButton("&Stop Delivering", [this] { Stop(); })) {
+  Finish();
+}
+
+bool ManagerServicesDialog::ReadRows(std::vector<RecordList::Row>& rows) {
+  if (const alertstore::Status status = site::ReadOverview(overview_)) {
+    Tell(site::FailureText("read the services", status));
+    return false;
+  }
+  for (const site::Service& service : overview_.services)
+    rows.push_back({service.id,
+                    {service.name, dbconfig::ServiceTypeName(service.record_type), service.on ? "Yes" : "No",
+                     Listed(service.managers)}});
+  return true;
+}
+
+const site::Service* ManagerServicesDialog::Chosen() {
+  return List().Chosen() != nullptr ? site::Find(overview_.services, List().Chosen()->id) : nullptr;
+}
+
+bool ManagerServicesDialog::Delivers(const site::Service& service) const {
+  const site::Manager* manager = site::Find(overview_.managers, manager_);
+  return manager != nullptr && (std::ranges::count(manager->services, service.id) > 0 ||
+                                std::ranges::count(manager->backup_services, service.id) > 0);
+}
+
+void ManagerServicesDialog::EnableButtons() {
+  const site::Service* service = Chosen();
+  deliver_.Enable(service != nullptr && !Delivers(*service));
+  stop_.Enable(service != nullptr && Delivers(*service));
+}
+
+// One call takes away one note, whichever manager it names.
+bool ManagerServicesDialog::Clear(const site::Service& service) {
+  const int index = IndexOrTell(calls_, service.id);
+  for (int left = CountNotes(service.id); index >= 0 && left > 0; --left)
+    calls_.DomainServiceServerEnable(index, manager_, 0);
+  return index >= 0;
+}
+
+// A service has one manager, and the library leaves it with that one: another takes it over once it has none.
+void ManagerServicesDialog::Deliver() {
+  const site::Service service = *Chosen();
+  if (!service.managers.empty() &&
+      !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) +
+           ", and one manager delivers a service at a time. Have \"" + name_ + "\" deliver it instead?"))
+    return;
+  if (!Clear(service)) return Refill();
+  const int left = CountNotes(service.id);
+  if (left == 0) calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
+  NoteChange();
+  if (left > 0) Tell("The stores did not take the change: \"" + service.name + "\" stays as it was.");
+}
+
+void ManagerServicesDialog::Stop() {
+  const site::Service service = *Chosen();
+  if (service.managers.size() > 1 && !Ask("\"" + service.name + "\" is delivered by " +
+                                          Listed(service.managers) + ". They stop together. Stop them all?"))
+    return;
+  if (!Clear(service)) return Refill();
+  NoteChange();
+  if (CountNotes(service.id) > 0)
+    Tell("The stores did not take the change: \"" + service.name + "\" is still delivered.");
+}
+
+}  // namespace
+
+bool EditManagerServices(ui::Window* parent, const site::LibraryCalls& calls, const site::Overview& overview,
+                         const GUID& manager) {
+  const site::Manager* found = site::Find(overview.managers, manager);
+  if (found == nullptr) {
+    Tell("Another console has deleted the alert manager.");
+    return false;
+  }
+  ManagerServicesDialog dialog(parent, calls, *found);
+  dialog.RunModal();
+  return dialog.Changed();
+}
+
+}  // namespace hosts

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include "companions/alertstore/records_common.h"
+#include "console/hosts/service_choice.h"
+#include "console/site/overview.h"
+#include "platform/ui/form.h"
+
+namespace hosts {
+
+/// The controls that say where a response goes: the service and, where it reaches users, one who has an entry on it.
+class ServiceAndUser {
+ public:
+  ServiceAndUser(platform::ui::Form& form, const site::LibraryCalls& calls, const site::Overview& overview);
+
+  platform::ui::LayoutNode Layout();
+  /// Shows the services with this one chosen, and this user; null for nothing.
+  void Fill(const platform::GUID& service, const platform::GUID& user);
+  /// Selects the first service where none is selected.
+  void ChooseSomething();
+  void SetOnChange(std::function<void()> handler) { on_change_ = std::move(handler); }
+  void SetOnDoubleClick(std::function<void()> handler) { services_.SetOnDoubleClick(std::move(handler)); }
+
+  /// False while a service or the user that it needs is missing.
+  bool Complete() const;
+  /// Null while none is chosen.
+  platform::GUID Service() const;
+  /// Names service and user in the response; no user where the service reaches none.
+  void PutInto(int service_index, alertstore::ALERTRESPREC& response) const;
+
+ private:
+  void OnServiceChanged();
+  void FillUsers(const platform::GUID& chosen);
+  const site::User* User() const;
+
+  const site::LibraryCalls& calls_;
+  const site::Overview& overview_;
+  std::function<void()> on_change_;
+  bool reaches_users_ = false;
+  std::vector<const site::User*> users_;
+  RecordList services_;
+  platform::ui::ComboBox user_;
+  platform::ui::StaticText no_users_;
+};
+
+}  // namespace hosts
