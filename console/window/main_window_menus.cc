@@ -11,6 +11,7 @@
 #include "console/window/main_window.h"
 #include "desktops/qt/texts.h"
 #include "platform/base/paths.h"
+#include "platform/ui/modal.h"
 
 namespace alertconsole {
 namespace {
