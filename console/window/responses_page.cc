@@ -4,6 +4,8 @@
 #include <QVBoxLayout>
 
 #include "companions/dbconfig/strings.h"
+#include "console/hosts/host_dialog.h"
+#include "console/hosts/response_service.h"
 #include "console/hosts/response_sheet.h"
 #include "console/hosts/response_wizard.h"
 #include "console/site/advice.h"
