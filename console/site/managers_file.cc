@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "console/site/managers_file.h"
 
-#include <fstream>
-#include <iterator>
-
 #include "companions/dbconfig/dbconfig.h"
 #include "companions/dbconfig/document.h"
 #include "platform/base/paths.h"
@@ -12,8 +9,9 @@ namespace site {
 namespace {
 
 std::string WrittenDocument() {
-  std::ifstream file(platform::DataDirectory() + "/" + dbconfig::kConfigFileName, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
+  std::string document;
+  platform::ReadWholeFile(platform::DataDirectory() + "/" + dbconfig::kConfigFileName, document);
+  return document;
 }
 
 }  // namespace

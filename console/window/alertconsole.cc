@@ -16,14 +16,26 @@
 
 namespace {
 
-constexpr int kWrongUsage = 2;  // as alertctl answers it
+constexpr int kNoDisplay = 1, kWrongUsage = 2;  // the latter as alertctl answers it
 
 struct Options {
   std::string data, library_path, screenshots;
 };
 
+bool IsSet(const char* variable) {
+  const char* value = std::getenv(variable);
+  return value != nullptr && *value != '\0';
+}
+
 // Pictures need no display to be shown on.
-bool HasDisplay() { return std::getenv("DISPLAY") != nullptr || std::getenv("WAYLAND_DISPLAY") != nullptr; }
+bool HasDisplay() { return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY"); }
+
+// The toolkit ends the program by a signal where it cannot open the display that was named.
+void EndOnFatal(QtMsgType type, const QMessageLogContext&, const QString& text) {
+  if (type == QtDebugMsg || type == QtInfoMsg) return;
+  std::fprintf(stderr, "alertconsole: %s\n", qPrintable(text));
+  if (type == QtFatalMsg) std::_Exit(kNoDisplay);
+}
 
 int Run(const Options& options) {
   std::optional<alertconsole::SampleSite> samples;
@@ -56,10 +68,22 @@ int main(int argc, char** argv) {
   if (!options.data.empty()) setenv("ALERTING_DATA", options.data.c_str(), 1);
   if (!options.screenshots.empty() && !HasDisplay()) setenv("QT_QPA_PLATFORM", "offscreen", 0);
 
+  if (!HasDisplay() && !IsSet("QT_QPA_PLATFORM")) {
+    std::fputs(
+        "alertconsole: there is no display to show the window on (DISPLAY and WAYLAND_DISPLAY are not set). "
+        "\"alertctl\" does the same work on a command line.\n",
+        stderr);
+    return kNoDisplay;
+  }
+  qInstallMessageHandler(EndOnFatal);
+  QCoreApplication::setOrganizationName("alerting");
+  QCoreApplication::setApplicationName("console");
   std::optional<desktops::qt::OffscreenScreen> screen(std::in_place);
   QApplication application(argc, argv);
   screen.reset();
   desktops::QtDesktop desktop;
+  const platform::Module console("Alerting Console");
+  const platform::ModuleScope own_title(console);
   try {
     return Run(options);
   } catch (const std::exception& failure) {

@@ -112,8 +112,10 @@ void MainWindow::LoadIcons() {
   library_.DeleteIconBitmapObject(strip);
 }
 
-// The place in the strip is known by service alone; it is the same for all of a type.
+// The place in the strip is known by service alone; it is the same for all of a type. The library warns of a store without
+// services, so it is not asked about one.
 void MainWindow::LearnIcons() {
+  if (site_.services.empty()) return;
   const int count = library_.DomainServiceGetCount();
   for (int index = 0; index < count; ++index) {
     QIcon& icon = icons_[library_.DomainServiceGetInfo(index)->recordType];
@@ -133,8 +135,8 @@ void MainWindow::ReadSite() {
   if (const alertstore::Status status = site::ReadOverview(site_); status != alertstore::kOk)
     return ShowProblem("The site cannot be read: " + site::FailureText("read the records", status) + ".");
   library_.DomainServiceSetBackupServer(site::ReadBackupManager());
-  LearnIcons();
   if (site_.services.empty() && site_.users.empty()) return ShowNothingYet();
+  LearnIcons();
   ShowSite();
 }
 

@@ -12,7 +12,9 @@ QAction* Page::Add(RecordView& view, const QString& text, const QKeySequence& ke
                    std::function<void()> act) {
   auto* command = new QAction(text, this);
   command->setShortcut(key);
-  command->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+  // What needs no row works wherever the keyboard is in the window; two tables may use one key for theirs.
+  command->setShortcutContext(needs == Needs::kNothing ? Qt::WindowShortcut : Qt::WidgetWithChildrenShortcut);
+  command->setEnabled(needs == Needs::kNothing);  // until something is chosen
   connect(command, &QAction::triggered, this, std::move(act));
   view.Table().addAction(command);
   bound_[command] = {&view, needs};

@@ -89,6 +89,12 @@ void RecordView::MakeTable(const QString& name, const std::vector<Column>& colum
   connect(table_, &QTreeView::activated, this, [this] {
     if (on_activated_) on_activated_();
   });
+  // The keyboard comes into the table with a current row that is not chosen; commands and Enter are for chosen ones.
+  connect(table_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+          [this](const QModelIndex& row) {
+            if (row.isValid() && !table_->selectionModel()->hasSelection())
+              table_->selectionModel()->select(row, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+          });
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
     if (on_selection_) on_selection_();
   });
@@ -180,7 +186,10 @@ void RecordView::FocusFilter() {
 void RecordView::OnFilterKey(int key) {
   if (key == Qt::Key_Escape) filter_->clear();
   table_->setFocus(Qt::TabFocusReason);
-  if (key == Qt::Key_Down && !table_->currentIndex().isValid()) table_->setCurrentIndex(shown_.index(0, 0));
+  if (key != Qt::Key_Down || table_->selectionModel()->hasSelection()) return;
+  const QModelIndex current = table_->currentIndex();
+  table_->selectionModel()->setCurrentIndex(current.isValid() ? current : shown_.index(0, 0),
+                                            QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 bool RecordView::eventFilter(QObject* watched, QEvent* event) {
