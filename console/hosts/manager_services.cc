@@ -109,8 +109,8 @@ bool ManagerServicesDialog::Clear(const site::Service& service) {
 void ManagerServicesDialog::Deliver() {
   const site::Service service = *Chosen();
   if (!service.managers.empty() &&
-      !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) +
-           ", and one manager delivers a service at a time. Have \"" + name_ + "\" deliver it instead?"))
+      !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) + ". Have \"" + name_ +
+           "\" deliver it instead?"))
     return;
   if (!Clear(service)) return Refill();
   const int left = CountNotes(service.id);

@@ -9,8 +9,7 @@ namespace hosts {
 namespace {
 
 constexpr char kServiceGone[] =
-    "The service that this response goes through has been deleted. Point the response at another service; "
-    "nothing is sent for it until then.";
+    "The service of this response has been deleted. Point the response at another service.";
 
 class ResponseSheet : public ui::PropertySheet {
  public:

@@ -19,6 +19,14 @@
 #include "companions/agentui/results_dialog.h"
 #include "companions/ctxhelp/help_pages.h"
 #include "companions/ctxhelp/help_texts.h"
+#include "console/hosts/computers_dialog.h"
+#include "console/hosts/entry_wizard.h"
+#include "console/hosts/manager_services.h"
+#include "console/hosts/providers_dialog.h"
+#include "console/hosts/response_service.h"
+#include "console/hosts/response_sheet.h"
+#include "console/hosts/response_wizard.h"
+#include "console/site/responses.h"
 #include "console/window/samples.h"
 #include "console/window/tour.h"
 #include "desktops/qt/cut_controls.h"
@@ -26,6 +34,7 @@
 #include "desktops/qt/qt_desktop.h"
 #include "desktops/qt/qt_test_desktop.h"
 #include "desktops/qt/window_faults.h"
+#include "tests/support/static_calls.h"
 #include "tests/support/temporary.h"
 
 namespace {
@@ -134,6 +143,28 @@ void ShowResponsePanel(int index) {
   wizard.RunModal();
 }
 
+/// The console's own windows, on what its examples have.
+void VisitHosts(alertconsole::Tour& tour) {
+  const site::LibraryCalls calls = test_support::StaticCalls();
+  site::Overview overview;
+  ASSERT_EQ(site::ReadOverview(overview), alertstore::kOk);
+  ASSERT_FALSE(overview.users.empty() || overview.managers.empty());
+  alertstore::ALERTRESPREC response{};
+  site::PointAt(*calls.DomainServiceGetInfo(0), response);
+  ASSERT_EQ(site::AddResponse(response), alertstore::kOk);
+  platform::GUID added{};
+  const site::User& user = overview.users.front();
+  tour.Visit("new entry", [&] { hosts::AddEntry(nullptr, calls, user.id, user.name); });
+  tour.Visit("new response", [&] { hosts::AddResponse(nullptr, calls, overview, added); });
+  tour.Visit("response", [&] { hosts::EditResponse(nullptr, calls, response.responseId); });
+  tour.Visit("response service",
+             [&] { hosts::RetargetResponse(nullptr, calls, overview, response.responseId); });
+  tour.Visit("manager services",
+             [&] { hosts::EditManagerServices(nullptr, calls, overview, overview.managers.front().id); });
+  tour.Visit("providers", [] { hosts::EditProviders(nullptr); });
+  tour.Visit("computers", [] { hosts::EditComputers(nullptr); });
+}
+
 std::vector<std::string> HelpFilesNotSeen(const std::set<std::string>& pages) {
   std::vector<std::string> missed;
 #define HELP_PAGE(name, number, file) \
@@ -176,6 +207,7 @@ TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
                                "EHLO console\n535 authentication failed",
                                "password"};
   tour.Visit("results", [&] { agentui::ShowTestResults(nullptr, report); });
+  VisitHosts(tour);
   EXPECT_THAT(inspector.faults, ElementsAre());
   EXPECT_THAT(HelpFilesNotSeen(inspector.pages), IsEmpty());
   EXPECT_THAT(tour.DeafToEscape(), IsEmpty());

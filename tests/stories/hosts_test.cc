@@ -1,0 +1,361 @@
+// SPDX-License-Identifier: MIT
+// The windows of a console's own that host the library's panels, and those for what the library only reads.
+#include "companions/alertstore/computers.h"
+#include "companions/dbconfig/strings.h"
+#include "console/hosts/computers_dialog.h"
+#include "console/hosts/entry_wizard.h"
+#include "console/hosts/manager_services.h"
+#include "console/hosts/providers_dialog.h"
+#include "console/hosts/response_service.h"
+#include "console/hosts/response_sheet.h"
+#include "console/hosts/response_wizard.h"
+#include "console/site/advice.h"
+#include "console/site/managers.h"
+#include "console/site/responses.h"
+#include "tests/stories/service_sheet_fixture.h"
+#include "tests/support/static_calls.h"
+
+namespace stories {
+namespace {
+
+using namespace alerting;  // NOLINT
+using alertstore::ALERTRESPREC;
+using desktops::Person;
+using platform::GUID;
+using test_support::BytesOf;
+using test_support::StoreOp;
+using testing::ElementsAre;
+using Row = std::vector<std::string>;
+
+constexpr char kServices[] = "&Services:", kUser[] = "&User to alert:", kAddress[] = "Email A&ddress:",
+               kNumber[] = "&Phone number:", kDelivered[] = "Se&rvices:", kCompany[] = "&Company:";
+constexpr char kDeleted[] = "Another console has deleted the service.",
+               kNoMessage[] = "No message in response.  Please enter a message using the message tab.";
+constexpr char kRemoveGamma[] =
+    "Remove the paging provider \"Gamma\"? Services that were set up with it keep its number and settings.";
+
+std::string TextAt(const std::string& bytes, std::size_t offset) { return bytes.c_str() + offset; }
+
+template <class Store>
+auto Stored() {
+  test_support::Opened<Store> store;
+  return test_support::RecordsOf(store, store.Schema().selectors.front().number);
+}
+constexpr auto StoredResponses = Stored<alertstore::CAlertRespDB>;
+constexpr auto Links = Stored<alertstore::CAlertUsrInstServDB>;
+constexpr auto Notes = Stored<alertstore::CAlertSERV_INST_NTFY_SERVDB>;
+constexpr auto Providers = Stored<alertstore::CAlertAPAGE_SERVICE_PROVIDERDB>;
+
+/// A site with services of each class and two users.
+class HostsTest : public StoryTest {
+ protected:
+  HostsTest() { TheServices().RemoveAll(); }
+
+  site::Overview Overview() {
+    site::Overview overview;
+    site::ReadOverview(overview);
+    return overview;
+  }
+  void ExpectFailure(const std::string& what) {
+    Script().ExpectMessage(site::FailureText(what, alertstore::kIoError));
+  }
+  static void Press(Person& p, std::initializer_list<const char*> buttons) {
+    for (const char* button : buttons) p.Press(button);
+  }
+  static void Type(Person& p, std::initializer_list<std::pair<const char*, const char*>> texts) {
+    for (const auto& [label, text] : texts) p.Type(label, text);
+  }
+  void PressAndFail(Person& p, const std::string& button, StoreOp op) {
+    library_.engine->FailAll(test_support::kAnyStore, op);
+    p.Press(button);
+    EXPECT_EQ(library_.engine->Failures(), 1);
+    EXPECT_TRUE(library_.engine->HeldLocks().empty());
+    library_.engine->FailNone();
+  }
+  /// As another console does it: this library's list still has the service.
+  void DeleteElsewhere(const GUID& service) {
+    test_support::Opened<alertstore::CAlertNtfyServDB>().DBAlertRecDelete(service);
+  }
+  void GiveEntry(const GUID& user, const GUID& service) {
+    test_support::Users(*test_support::Find(service)).SaveUserEntry(user, {"x", "ann@x", 1});
+  }
+  ALERTRESPREC AddMailResponse() {
+    ALERTRESPREC response{};
+    std::memset(&response, 0x5A, offsetof(ALERTRESPREC, messageKeywords));
+    site::PointAt(test_support::StoredCommon(mail_), response);
+    response.priority = 1;
+    response.userId = ann_;
+    response.userName.Assign("Ann");
+    response.responseType = 1;
+    response.serviceRecordType = 5;
+    response.message.Assign("disk full");
+    response.subject.Assign("disk");
+    EXPECT_EQ(site::AddResponse(response), alertstore::kOk);
+    return response;
+  }
+
+  test_support::LibraryUnderTest library_;
+  const site::LibraryCalls calls_ = test_support::StaticCalls();
+  const GUID mail_ = test_support::SeedService(kTypeSmtp, "Mail"),
+             trap_ = test_support::SeedService(kTypeSnmp, "trap"),
+             post_ = test_support::SeedService(kTypeSmtp, "Post"),
+             pager_ = test_support::SeedService(kTypeNumeric, "Pager"),
+             sound_ = test_support::SeedService(kTypeWave, "Sound");
+  const GUID ann_ = test_support::MakeUser("Ann"), bob_ = test_support::MakeUser("Bob");
+};
+
+TEST_F(HostsTest, AUserGetsAnEntryOnTheServiceThatWasChosenLastWhereOneIsLeft) {
+  GiveEntry(ann_, post_);
+  Script().ExpectWindow("New Entry", [&](Person& p) {
+    EXPECT_THAT(p.Rows(kServices), ElementsAre(Row{"Mail", "Internet Mail"}, Row{"Pager", "Numeric Pager"}));
+    p.Press("&Next >");
+    p.Type(kAddress, "ann@y");
+    Press(p, {"< &Back", "&Next >"});
+    EXPECT_EQ(p.Text(kAddress), "ann@y") << "it is the same service";
+    DeleteElsewhere(mail_);
+    Press(p, {"Finish", "< &Back", "&Next >"});
+    p.DoubleClickRow(kServices, 1);
+    p.Type(kNumber, "555-0100");
+    PressAndFail(p, "Finish", StoreOp::kAdd);
+    EXPECT_EQ(p.Text(kNumber), "555-0100");
+    EXPECT_EQ(Links().size(), 1u);
+    p.Press("Finish");
+  });
+  for (int i = 0; i < 2; ++i) Script().ExpectMessage(kDeleted);
+  Script().ExpectMessage("Unable to add record to the service-specific user database.");
+  EXPECT_TRUE(hosts::AddEntry(nullptr, calls_, ann_, "Ann"));
+  const std::string link = BytesOf(Links().back());
+  EXPECT_EQ(link.substr(16, 16) + link.substr(48, 16), BytesOf(pager_) + BytesOf(ann_));
+  EXPECT_EQ(link.substr(101), std::string("\x0C\0\0\0", 4));
+  EXPECT_EQ(TextAt(BytesOf(Stored<alertstore::CAlertUSR_NPAGEDB>()[0]), 32), "555-0100");
+
+  Script().ExpectWindow("New Entry", [&](Person& p) {
+    p.DoubleClickRow(kServices, 1);
+    p.Press("Cancel");
+  });
+  EXPECT_FALSE(hosts::AddEntry(nullptr, calls_, bob_, "Bob"));
+  EXPECT_EQ(Links().size(), 2u);
+  GiveEntry(ann_, mail_);
+  Script().ExpectMessage("\"Ann\" has an entry on every service that reaches users.");
+  EXPECT_FALSE(hosts::AddEntry(nullptr, calls_, ann_, "Ann"));
+}
+
+TEST_F(HostsTest, AResponseIsAddedWithServiceUserAndMessage) {
+  for (const GUID& user : {ann_, bob_}) GiveEntry(user, mail_);
+  GiveEntry(bob_, pager_);
+  GUID added{};
+  Script().ExpectWindow("New Response", [&](Person& p) {
+    p.ClickRow(kServices, 4);
+    EXPECT_FALSE(p.IsEnabled(kUser));
+    p.Press("&Next >");
+    p.Type("&Message:", "of the trap");
+    p.Press("< &Back");
+    p.ClickRow(kServices, 2);
+    EXPECT_FALSE(p.IsEnabled("&Next >")) << "nobody has an entry there";
+    p.ClickRow(kServices, 1);
+    EXPECT_EQ(p.Text(kUser), "Bob") << "who else?";
+    p.ClickRow(kServices, 0);
+    EXPECT_THAT(p.Items(kUser), ElementsAre("Ann", "Bob"));
+    p.Choose(kUser, "Ann");
+    p.Press("&Next >");
+    EXPECT_EQ(p.Text(kBody), "") << "what was entered for the trap is gone";
+    p.Type(kSubject, "disk");
+    p.Press("Finish");
+    p.Type(kBody, "disk full");
+    PressAndFail(p, "Finish", StoreOp::kAdd);
+    EXPECT_EQ(p.Text(kBody), "disk full");
+    p.Press("Finish");
+  });
+  Script().ExpectMessage(kNoMessage);
+  ExpectFailure("add the response");
+  EXPECT_TRUE(hosts::AddResponse(nullptr, calls_, Overview(), added));
+  ASSERT_EQ(StoredResponses().size(), 1u);
+  const std::string stored = BytesOf(StoredResponses()[0]);
+  EXPECT_EQ(stored.substr(0, 16) + stored.substr(992, 2), BytesOf(added) + std::string("\1\0", 2));
+  EXPECT_EQ(TextAt(stored, 996) + "," + TextAt(stored, 1255), "Ann,Mail");
+  EXPECT_EQ(TextAt(stored, 1514) + "," + TextAt(stored, 3563), "disk full,disk");
+  EXPECT_EQ(stored.substr(3824, 32), BytesOf(ann_) + BytesOf(mail_));
+  EXPECT_EQ(stored.substr(3985), std::string("\5\0\0\0", 4));
+}
+
+TEST_F(HostsTest, AResponseThatNobodyReceivesHasAllDefaultsOfItsService) {
+  auto record = Stored<alertstore::CAlertSNMPNtfyServDB>()[0];
+  record.defaultBody.Assign("down");
+  record.defaultSubject.Assign("link");
+  test_support::Opened<alertstore::CAlertSNMPNtfyServDB>().DBAlertRecUpdate(record);
+  GUID added{};
+  for (const char* last : {"Cancel", "Finish"}) {
+    EXPECT_TRUE(StoredResponses().empty());
+    Script().ExpectWindow("New Response", [last](Person& p) {
+      p.ClickRow(kServices, 4);
+      Press(p, {"&Next >", last});
+    });
+    EXPECT_EQ(hosts::AddResponse(nullptr, calls_, Overview(), added), *last == 'F');
+  }
+  const std::string stored = BytesOf(StoredResponses()[0]);
+  EXPECT_EQ(stored.substr(992, 2) + stored.substr(3840, 16), std::string("\x10\0", 2) + BytesOf(trap_));
+  EXPECT_EQ(TextAt(stored, 1514) + "," + TextAt(stored, 3563), "down,link") << "the subject is on no panel";
+}
+
+TEST_F(HostsTest, AResponseIsEditedInPlace) {
+  ALERTRESPREC expected = AddMailResponse();
+  Script().ExpectWindow("Response Properties", [&](Person& p) {
+    p.Type(kBody, "");
+    p.Press("&Apply");
+    p.Type(kBody, "after");
+    PressAndFail(p, "OK", StoreOp::kUpdate);
+    EXPECT_EQ(p.Text(kBody), "after");
+    p.Press("&Apply");
+    p.Type(kBody, "never");
+    DeleteElsewhere(mail_);
+    Press(p, {"OK", "Cancel"});
+  });
+  Script().ExpectMessage(kNoMessage);
+  ExpectFailure("store the response");
+  for (int i = 0; i < 2; ++i)
+    Script().ExpectMessage(
+        "The service of this response has been deleted. Point the response at another service.");
+  EXPECT_TRUE(hosts::EditResponse(nullptr, calls_, expected.responseId)) << "it was applied";
+  EXPECT_FALSE(hosts::EditResponse(nullptr, calls_, expected.responseId));
+  expected.message.Assign("after");
+  EXPECT_TRUE(BytesOf(StoredResponses()[0]) == BytesOf(expected));
+}
+
+TEST_F(HostsTest, AResponseIsPointedAtAnotherServiceOfItsTypeOrOfAnother) {
+  for (const GUID& service : {mail_, post_}) GiveEntry(ann_, service);
+  ALERTRESPREC expected = AddMailResponse();
+  Script().ExpectWindow("Service of the Response", [&](Person& p) {
+    p.ClickRow(kServices, 2);
+    PressAndFail(p, "OK", StoreOp::kUpdate);
+    p.Press("OK");
+  });
+  ExpectFailure("store the response");
+  const site::Overview overview = Overview();
+  EXPECT_TRUE(hosts::RetargetResponse(nullptr, calls_, overview, expected.responseId));
+  expected.serviceId = post_;
+  expected.serviceName.Assign("Post");
+  EXPECT_TRUE(BytesOf(StoredResponses()[0]) == BytesOf(expected)) << "nothing but the service";
+
+  DeleteElsewhere(mail_);
+  Script().ExpectWindow("Service of the Response", [&](Person& p) {
+    EXPECT_EQ(p.SelectedRow(kServices), 2);
+    EXPECT_EQ(p.Text(kUser), "Ann");
+    for (const int row : {0, 3}) {
+      p.ClickRow(kServices, row);
+      p.Press("OK");
+    }
+    EXPECT_TRUE(BytesOf(StoredResponses()[0]) == BytesOf(expected)) << "the sheet was cancelled";
+    p.Press("OK");
+  });
+  Script().ExpectMessage(kDeleted);
+  for (const char* button : {"Cancel", "OK"}) {
+    Script().ExpectMessage(dbconfig::StringText(343));  // that the file was left unchanged
+    Script().ExpectWindow("Response Properties", [button](Person& p) { p.Press(button); });
+  }
+  EXPECT_TRUE(hosts::RetargetResponse(nullptr, calls_, overview, expected.responseId));
+  const std::string sound = BytesOf(StoredResponses()[0]);
+  EXPECT_EQ(sound.substr(992, 2), std::string("\x10\0", 2));
+  EXPECT_EQ(TextAt(sound, 996) + TextAt(sound, 1255) + TextAt(sound, 1514), "Sound") << "no user, no message";
+  EXPECT_EQ(sound.substr(3824, 32), std::string(16, '\0') + BytesOf(sound_));
+}
+
+TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
+  GUID one{}, two{};
+  site::AddManager("ONE", one);
+  site::AddManager("TWO", two);
+  Script().ExpectWindow("Services of ONE", [&](Person& p) {
+    p.ClickRow(kDelivered, 2);
+    p.Press("&Deliver");
+    EXPECT_EQ(p.Rows(kDelivered)[2], (Row{"Post", "Internet Mail", "Yes", "ONE"}));
+    EXPECT_EQ(p.SelectedRow(kDelivered), 2);
+    PressAndFail(p, "&Stop Delivering", StoreOp::kDelete);
+    p.Press("Close");
+  });
+  Script().ExpectMessage("The stores did not take the change: \"Post\" is still delivered.");
+  EXPECT_TRUE(hosts::EditManagerServices(nullptr, calls_, Overview(), one));
+  EXPECT_EQ(BytesOf(Notes()[0]).substr(16, 32), BytesOf(post_) + BytesOf(one));
+  Script().ExpectWindow("Services of TWO", [&](Person& p) {
+    p.ClickRow(kDelivered, 2);
+    p.Press("&Deliver");
+    EXPECT_EQ(Notes()[0].managerGuid, one) << "the answer was No";
+    p.Press("&Deliver");
+    EXPECT_EQ(BytesOf(Notes()[0]).substr(16, 32), BytesOf(post_) + BytesOf(two));
+    p.Press("&Stop Delivering");
+    DeleteElsewhere(post_);
+    p.Press("&Deliver");
+    EXPECT_EQ(p.Rows(kDelivered).size(), 4u) << "the list is read anew";
+    p.Press("Close");
+  });
+  for (const auto answer : {ui::Answer::kNo, ui::Answer::kYes})
+    Script().ExpectMessage("\"Post\" is delivered by ONE. Have \"TWO\" deliver it instead?", answer);
+  Script().ExpectMessage(kDeleted);
+  EXPECT_TRUE(hosts::EditManagerServices(nullptr, calls_, Overview(), two));
+  EXPECT_TRUE(Notes().empty());
+}
+
+TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
+  Script().ExpectWindow("Paging Providers", [&](Person& p) {
+    p.Press("&Add...");
+    const std::string beta = BytesOf(Providers()[0]);
+    EXPECT_EQ(TextAt(beta, 16) + "," + TextAt(beta, 81) + TextAt(beta, 146) + TextAt(beta, 223),
+              "Beta,TownNorth555-0123");
+    EXPECT_EQ(beta.substr(249), std::string("\x80\x25\0\0\1\0\0\0\x08\0\0\0\1\0\0\0\x50\0\0\0", 20));
+    p.DoubleClickRow("Paging &providers:", 0);
+    EXPECT_THAT(p.Rows("Paging &providers:"),
+                ElementsAre(Row{"Gamma", "North Town", "555-0123", "9600", "80"}));
+    p.Press("&Remove");
+    PressAndFail(p, "&Remove", StoreOp::kDelete);
+    Press(p, {"&Remove", "Close"});
+  });
+  Script().ExpectWindow("New Paging Provider", [&](Person& p) {
+    p.Type(kCompany, std::string(65, 'x'));
+    p.Press("OK");
+    Type(p, {{kCompany, " Beta "}, {"&Location:", "North"}, {"L&ocation, second part:", "Town"}});
+    p.Press("OK");
+    Type(p, {{kNumber, "555-0123"}, {"&Baud rate:", "9600"}, {"Te&xt length:", "80"}});
+    p.Choose("Pa&rity:", "Odd");
+    p.Choose("&Data bits:", "8");
+    p.Choose("&Stop bits:", "1.5");
+    PressAndFail(p, "OK", StoreOp::kAdd);
+    EXPECT_EQ(p.Text(kCompany), " Beta ");
+    p.Press("OK");
+  });
+  Script().ExpectMessage("a provider's company has at most 64 bytes: this one has 65");
+  Script().ExpectMessage("the phone number has at least one digit: enter what the modem dials");
+  ExpectFailure("store the paging provider");
+  Script().ExpectWindow("Paging Provider Properties", [](Person& p) {
+    p.Type(kCompany, "Gamma");
+    p.Press("OK");
+  });
+  Script().ExpectMessage(kRemoveGamma, ui::Answer::kNo);
+  Script().ExpectMessage(kRemoveGamma, ui::Answer::kYes);
+  ExpectFailure("remove the paging provider");
+  Script().ExpectMessage(kRemoveGamma, ui::Answer::kYes);
+  EXPECT_TRUE(hosts::EditProviders(nullptr));
+  EXPECT_TRUE(Providers().empty());
+}
+
+TEST_F(HostsTest, ComputersAreAddedAndRemoved) {
+  alertstore::AddComputer(GUID::Generate(), "DESK");
+  Script().ExpectWindow("Computers of the Site", [](Person& p) {
+    p.Press("&Add...");
+    EXPECT_THAT(p.Rows("&Computers:"), ElementsAre(Row{"attic"}, Row{"DESK"}));
+    p.ClickRow("&Computers:", 1);
+    Press(p, {"&Remove", "Close"});
+  });
+  Script().ExpectWindow("New Computer", [](Person& p) {
+    p.Type("&Name:", "desk");
+    p.Press("OK");
+    p.Type("&Name:", "attic");
+    p.Press("OK");
+  });
+  Script().ExpectMessage("the site knows a computer of that name: enter another");
+  Script().ExpectMessage("Remove the computer \"DESK\" from those that can be chosen?", ui::Answer::kYes);
+  EXPECT_TRUE(hosts::EditComputers(nullptr));
+  std::vector<alertstore::Computer> computers;
+  alertstore::ListComputers(computers);
+  EXPECT_EQ(computers.size(), 1u);
+}
+
+}  // namespace
+}  // namespace stories
