@@ -10,12 +10,15 @@
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/problem.h"
 #include "companions/alertstore/stores.h"
+#include "console/site/responses.h"
 #include "console/window/library.h"
 
 namespace alertconsole {
 namespace {
 
 using namespace alertstore;  // NOLINT: records of many kinds are filled here
+
+constexpr char kUserName[] = "Night Operator";
 
 void Require(Status status) {
   if (status != kOk) throw StartFailure("The sample site cannot be made: " + ProblemText(status) + ".");
@@ -89,32 +92,56 @@ void AddSnmpManager() {
   });
 }
 
-/// A user who is reached by Internet Mail.
-void AddUser() {
-  constexpr std::uint32_t kInternetMail = 5;
+/// Has a user reached through the first service of a type.
+template <class Record>
+void AddEntry(const platform::GUID& user, std::uint32_t record_type, std::string_view address) {
   CAlertNtfyServDB services;
   CAlertUsrInstServDB links;
   ALRTNTFYSERV service{};
   if (!FindFirst(services, service)) return;
-  while (service.recordType != kInternetMail)
+  while (service.recordType != record_type)
     if (services.DBAlertRecFindNext(service) != kOk) return;
-  const auto user = platform::GUID::Generate();
   platform::GUID link_id{}, record_id{};
-  ALRTUSR_SMTPSERVICEREC record{};
+  Record record{};
   ALRTUSRINSTSERV link{};
-  alertrecords::FillUserRecord(user, "Night Operator", "night@example.org", 1, record);
+  alertrecords::FillUserRecord(user, kUserName, address, 1, record);
   alertrecords::FillUserLink(user, service.serviceId, service.name.View(), link);
-  link.recordType = kInternetMail;
+  link.recordType = record_type;
   link.userEnabled = 1;
-  Require(AddConsoleUser(user, "Night Operator"));
   Require(links.DBOpen());
   Require(links.DBAlertRecAdd(link, link_id, record, record_id));
+}
+
+void AddUser() {
+  constexpr std::uint32_t kInternetMail = 5, kMhsMail = 1, kAlphanumericPager = 11;
+  const auto user = platform::GUID::Generate();
+  Require(AddConsoleUser(user, kUserName));
+  AddEntry<ALRTUSR_SMTPSERVICEREC>(user, kInternetMail, "night@example.org");
+  AddEntry<ALRTUSR_MHSSERVICEREC>(user, kMhsMail, "night@post");
+  AddEntry<ALRTUSR_APAGESERVICEREC>(user, kAlphanumericPager, "5550177");
 }
 
 template <class Record>
 void LogIn(Record& record) {
   record.loginId.Assign("alerts");
   record.password.Assign("example");
+}
+
+/// A response that alerts the first user who has an entry.
+void AddMailResponse() {
+  CAlertUsrInstServDB links;
+  ALRTUSRINSTSERV link{};
+  if (!FindFirst(links, link)) return;
+  ALERTRESPREC response{};
+  response.responseType = 1;
+  response.serviceRecordType = link.recordType;
+  response.serviceId = link.serviceId;
+  response.serviceName.Assign(link.serviceName.View());
+  response.userId = link.userId;
+  response.userName.Assign(kUserName);
+  response.subject.Assign("The file server is down");
+  response.message.Assign("Restart it, then tell the day shift.");
+  Require(site::AddResponse(response));
 }
 
 void FillMail(const ALRTSERV_MODEM& modem) {
@@ -158,6 +185,7 @@ SampleSite::SampleSite() : directory_(std::filesystem::temp_directory_path() / "
   const ALRTSERV_MODEM modem = AddModem();
   AddSnmpManager();
   AddUser();
+  AddMailResponse();
   FillMail(modem);
   FillPagers(modem);
 }
