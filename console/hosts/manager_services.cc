@@ -59,7 +59,7 @@ ManagerServicesDialog::ManagerServicesDialog(ui::Window* parent, const site::Lib
     : ListDialog(parent, {"Services of " + manager.name,
                           "Se&rvices:",
                           "There is no service yet.",
-                          {{"Service", 120}, {"Type", 100}, {"On", 10}, {"Delivered by", 60}},
+                          {{"Service", 120}, {"Type", 130}, {"On", 10}, {"Delivered by", 60}},
                           ctxhelp::kHelpManagerServices}),
       calls_(calls),
       manager_(manager.id),

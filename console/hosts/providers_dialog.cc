@@ -29,12 +29,13 @@ class ProvidersDialog : public ListDialog {
 };
 
 ProvidersDialog::ProvidersDialog(ui::Window* parent)
-    : ListDialog(parent,
-                 {"Paging Providers",
-                  "Paging &providers:",
-                  "There is no paging provider yet. Add the one that your pagers belong to.",
-                  {{"Company", 80}, {"Location", 80}, {"Phone", 70}, {"Baud rate", 10}, {"Text length", 10}},
-                  ctxhelp::kHelpPagingProviders}) {
+    : ListDialog(
+          parent,
+          {"Paging Providers",
+           "Paging &providers:",
+           "There is no paging provider yet. Add the one that your pagers belong to.",
+           {{"Company", 110}, {"Location", 160}, {"Phone", 70}, {"Baud rate", 10}, {"Text length", 10}},
+           ctxhelp::kHelpPagingProviders}) {
   AddButton("&Add...", [this] { Add(); });
   AddRowButton("&Change...", [this] { Change(); });
   AddRowButton("&Remove", [this] { Remove(); });

@@ -23,6 +23,7 @@ using alertstore::ALERTRESPREC;
 using desktops::Person;
 using platform::GUID;
 using test_support::BytesOf;
+using test_support::Stored;
 using test_support::StoreOp;
 using testing::ElementsAre;
 using Row = std::vector<std::string>;
@@ -36,11 +37,6 @@ constexpr char kRemoveGamma[] =
 
 std::string TextAt(const std::string& bytes, std::size_t offset) { return bytes.c_str() + offset; }
 
-template <class Store>
-auto Stored() {
-  test_support::Opened<Store> store;
-  return test_support::RecordsOf(store, store.Schema().selectors.front().number);
-}
 constexpr auto StoredResponses = Stored<alertstore::CAlertRespDB>;
 constexpr auto Links = Stored<alertstore::CAlertUsrInstServDB>;
 constexpr auto Notes = Stored<alertstore::CAlertSERV_INST_NTFY_SERVDB>;
@@ -81,7 +77,7 @@ class HostsTest : public StoryTest {
   }
   ALERTRESPREC AddMailResponse() {
     ALERTRESPREC response{};
-    std::memset(&response, 0x5A, offsetof(ALERTRESPREC, messageKeywords));
+    std::memset(&response, 0x5A, offsetof(ALERTRESPREC, responseType));
     site::PointAt(test_support::StoredCommon(mail_), response);
     response.priority = 1;
     response.userId = ann_;
@@ -125,16 +121,8 @@ TEST_F(HostsTest, AUserGetsAnEntryOnTheServiceThatWasChosenLastWhereOneIsLeft) {
   Script().ExpectMessage("Unable to add record to the service-specific user database.");
   EXPECT_TRUE(hosts::AddEntry(nullptr, calls_, ann_, "Ann"));
   const std::string link = BytesOf(Links().back());
-  EXPECT_EQ(link.substr(16, 16) + link.substr(48, 16), BytesOf(pager_) + BytesOf(ann_));
-  EXPECT_EQ(link.substr(101), std::string("\x0C\0\0\0", 4));
+  EXPECT_EQ(link.substr(16, 16) + link.substr(48, 16) + link[101], BytesOf(pager_) + BytesOf(ann_) + '\x0C');
   EXPECT_EQ(TextAt(BytesOf(Stored<alertstore::CAlertUSR_NPAGEDB>()[0]), 32), "555-0100");
-
-  Script().ExpectWindow("New Entry", [&](Person& p) {
-    p.DoubleClickRow(kServices, 1);
-    p.Press("Cancel");
-  });
-  EXPECT_FALSE(hosts::AddEntry(nullptr, calls_, bob_, "Bob"));
-  EXPECT_EQ(Links().size(), 2u);
   GiveEntry(ann_, mail_);
   Script().ExpectMessage("\"Ann\" has an entry on every service that reaches users.");
   EXPECT_FALSE(hosts::AddEntry(nullptr, calls_, ann_, "Ann"));
@@ -159,6 +147,7 @@ TEST_F(HostsTest, AResponseIsAddedWithServiceUserAndMessage) {
     p.Choose(kUser, "Ann");
     p.Press("&Next >");
     EXPECT_EQ(p.Text(kBody), "") << "what was entered for the trap is gone";
+    EXPECT_THAT(Desk().CutControls(), ElementsAre()) << "the page came when the window was there";
     p.Type(kSubject, "disk");
     p.Press("Finish");
     p.Type(kBody, "disk full");
@@ -169,13 +158,12 @@ TEST_F(HostsTest, AResponseIsAddedWithServiceUserAndMessage) {
   Script().ExpectMessage(kNoMessage);
   ExpectFailure("add the response");
   EXPECT_TRUE(hosts::AddResponse(nullptr, calls_, Overview(), added));
-  ASSERT_EQ(StoredResponses().size(), 1u);
   const std::string stored = BytesOf(StoredResponses()[0]);
   EXPECT_EQ(stored.substr(0, 16) + stored.substr(992, 2), BytesOf(added) + std::string("\1\0", 2));
   EXPECT_EQ(TextAt(stored, 996) + "," + TextAt(stored, 1255), "Ann,Mail");
   EXPECT_EQ(TextAt(stored, 1514) + "," + TextAt(stored, 3563), "disk full,disk");
-  EXPECT_EQ(stored.substr(3824, 32), BytesOf(ann_) + BytesOf(mail_));
-  EXPECT_EQ(stored.substr(3985), std::string("\5\0\0\0", 4));
+  EXPECT_EQ(stored.substr(3824, 32) + stored.substr(3985),
+            BytesOf(ann_) + BytesOf(mail_) + std::string("\5\0\0\0", 4));
 }
 
 TEST_F(HostsTest, AResponseThatNobodyReceivesHasAllDefaultsOfItsService) {
@@ -185,13 +173,13 @@ TEST_F(HostsTest, AResponseThatNobodyReceivesHasAllDefaultsOfItsService) {
   test_support::Opened<alertstore::CAlertSNMPNtfyServDB>().DBAlertRecUpdate(record);
   GUID added{};
   for (const char* last : {"Cancel", "Finish"}) {
-    EXPECT_TRUE(StoredResponses().empty());
     Script().ExpectWindow("New Response", [last](Person& p) {
       p.ClickRow(kServices, 4);
       Press(p, {"&Next >", last});
     });
     EXPECT_EQ(hosts::AddResponse(nullptr, calls_, Overview(), added), *last == 'F');
   }
+  ASSERT_EQ(StoredResponses().size(), 1u) << "cancelled once";
   const std::string stored = BytesOf(StoredResponses()[0]);
   EXPECT_EQ(stored.substr(992, 2) + stored.substr(3840, 16), std::string("\x10\0", 2) + BytesOf(trap_));
   EXPECT_EQ(TextAt(stored, 1514) + "," + TextAt(stored, 3563), "down,link") << "the subject is on no panel";
@@ -206,7 +194,6 @@ TEST_F(HostsTest, AResponseIsEditedInPlace) {
     PressAndFail(p, "OK", StoreOp::kUpdate);
     EXPECT_EQ(p.Text(kBody), "after");
     p.Press("&Apply");
-    p.Type(kBody, "never");
     DeleteElsewhere(mail_);
     Press(p, {"OK", "Cancel"});
   });
@@ -226,37 +213,29 @@ TEST_F(HostsTest, AResponseIsPointedAtAnotherServiceOfItsTypeOrOfAnother) {
   ALERTRESPREC expected = AddMailResponse();
   Script().ExpectWindow("Service of the Response", [&](Person& p) {
     p.ClickRow(kServices, 2);
-    PressAndFail(p, "OK", StoreOp::kUpdate);
     p.Press("OK");
   });
-  ExpectFailure("store the response");
   const site::Overview overview = Overview();
   EXPECT_TRUE(hosts::RetargetResponse(nullptr, calls_, overview, expected.responseId));
   expected.serviceId = post_;
   expected.serviceName.Assign("Post");
   EXPECT_TRUE(BytesOf(StoredResponses()[0]) == BytesOf(expected)) << "nothing but the service";
-
-  DeleteElsewhere(mail_);
   Script().ExpectWindow("Service of the Response", [&](Person& p) {
     EXPECT_EQ(p.SelectedRow(kServices), 2);
     EXPECT_EQ(p.Text(kUser), "Ann");
-    for (const int row : {0, 3}) {
-      p.ClickRow(kServices, row);
-      p.Press("OK");
-    }
+    p.ClickRow(kServices, 3);
+    p.Press("OK");
     EXPECT_TRUE(BytesOf(StoredResponses()[0]) == BytesOf(expected)) << "the sheet was cancelled";
     p.Press("OK");
   });
-  Script().ExpectMessage(kDeleted);
   for (const char* button : {"Cancel", "OK"}) {
     Script().ExpectMessage(dbconfig::StringText(343));  // that the file was left unchanged
     Script().ExpectWindow("Response Properties", [button](Person& p) { p.Press(button); });
   }
   EXPECT_TRUE(hosts::RetargetResponse(nullptr, calls_, overview, expected.responseId));
   const std::string sound = BytesOf(StoredResponses()[0]);
-  EXPECT_EQ(sound.substr(992, 2), std::string("\x10\0", 2));
   EXPECT_EQ(TextAt(sound, 996) + TextAt(sound, 1255) + TextAt(sound, 1514), "Sound") << "no user, no message";
-  EXPECT_EQ(sound.substr(3824, 32), std::string(16, '\0') + BytesOf(sound_));
+  EXPECT_EQ(sound[992] + sound.substr(3824, 32), '\x10' + std::string(16, '\0') + BytesOf(sound_));
 }
 
 TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
@@ -267,7 +246,6 @@ TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
     p.ClickRow(kDelivered, 2);
     p.Press("&Deliver");
     EXPECT_EQ(p.Rows(kDelivered)[2], (Row{"Post", "Internet Mail", "Yes", "ONE"}));
-    EXPECT_EQ(p.SelectedRow(kDelivered), 2);
     PressAndFail(p, "&Stop Delivering", StoreOp::kDelete);
     p.Press("Close");
   });
@@ -280,15 +258,10 @@ TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
     EXPECT_EQ(Notes()[0].managerGuid, one) << "the answer was No";
     p.Press("&Deliver");
     EXPECT_EQ(BytesOf(Notes()[0]).substr(16, 32), BytesOf(post_) + BytesOf(two));
-    p.Press("&Stop Delivering");
-    DeleteElsewhere(post_);
-    p.Press("&Deliver");
-    EXPECT_EQ(p.Rows(kDelivered).size(), 4u) << "the list is read anew";
-    p.Press("Close");
+    Press(p, {"&Stop Delivering", "Close"});
   });
   for (const auto answer : {ui::Answer::kNo, ui::Answer::kYes})
     Script().ExpectMessage("\"Post\" is delivered by ONE. Have \"TWO\" deliver it instead?", answer);
-  Script().ExpectMessage(kDeleted);
   EXPECT_TRUE(hosts::EditManagerServices(nullptr, calls_, Overview(), two));
   EXPECT_TRUE(Notes().empty());
 }
@@ -303,9 +276,7 @@ TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
     p.DoubleClickRow("Paging &providers:", 0);
     EXPECT_THAT(p.Rows("Paging &providers:"),
                 ElementsAre(Row{"Gamma", "North Town", "555-0123", "9600", "80"}));
-    p.Press("&Remove");
-    PressAndFail(p, "&Remove", StoreOp::kDelete);
-    Press(p, {"&Remove", "Close"});
+    Press(p, {"&Remove", "&Remove", "Close"});
   });
   Script().ExpectWindow("New Paging Provider", [&](Person& p) {
     p.Type(kCompany, std::string(65, 'x'));
@@ -329,32 +300,30 @@ TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
   });
   Script().ExpectMessage(kRemoveGamma, ui::Answer::kNo);
   Script().ExpectMessage(kRemoveGamma, ui::Answer::kYes);
-  ExpectFailure("remove the paging provider");
-  Script().ExpectMessage(kRemoveGamma, ui::Answer::kYes);
   EXPECT_TRUE(hosts::EditProviders(nullptr));
   EXPECT_TRUE(Providers().empty());
 }
 
 TEST_F(HostsTest, ComputersAreAddedAndRemoved) {
   alertstore::AddComputer(GUID::Generate(), "DESK");
-  Script().ExpectWindow("Computers of the Site", [](Person& p) {
+  Script().ExpectWindow("Computers of the Site", [&](Person& p) {
     p.Press("&Add...");
     EXPECT_THAT(p.Rows("&Computers:"), ElementsAre(Row{"attic"}, Row{"DESK"}));
-    p.ClickRow("&Computers:", 1);
-    Press(p, {"&Remove", "Close"});
+    Press(p, {"&Remove", "&Remove"});
+    EXPECT_THAT(Desk().CutControls(), ElementsAre()) << "the empty list says what to do";
+    p.Press("Close");
   });
   Script().ExpectWindow("New Computer", [](Person& p) {
-    p.Type("&Name:", "desk");
-    p.Press("OK");
-    p.Type("&Name:", "attic");
-    p.Press("OK");
+    for (const char* name : {"desk", "attic"}) {
+      p.Type("&Name:", name);
+      p.Press("OK");
+    }
   });
   Script().ExpectMessage("the site knows a computer of that name: enter another");
-  Script().ExpectMessage("Remove the computer \"DESK\" from those that can be chosen?", ui::Answer::kYes);
+  for (const std::string name : {"attic", "DESK"})
+    Script().ExpectMessage("Remove the computer \"" + name + "\" from those that can be chosen?",
+                           ui::Answer::kYes);
   EXPECT_TRUE(hosts::EditComputers(nullptr));
-  std::vector<alertstore::Computer> computers;
-  alertstore::ListComputers(computers);
-  EXPECT_EQ(computers.size(), 1u);
 }
 
 }  // namespace

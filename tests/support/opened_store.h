@@ -39,4 +39,11 @@ struct Opened : Store {
   }
 };
 
+/// All records of a store.
+template <class Store>
+auto Stored() {
+  Opened<Store> store;
+  return RecordsOf(store, store.Schema().selectors.front().number);
+}
+
 }  // namespace test_support
