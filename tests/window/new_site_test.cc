@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// An administrator sets up a new site without leaving the window.
+#include <nlohmann/json.hpp>
+
+#include "platform/base/host_name.h"
+#include "platform/base/paths.h"
+#include "tests/window/main_window_test.h"
+
+namespace alertconsole {
+namespace {
+
+using nlohmann::json;
+
+class NewSiteTest : public MainWindowTest {
+ protected:
+  void NewUser(const char* name) {
+    Script().ExpectWindow("New User", [=](Person& p) {
+      p.Type("&Name:", name);
+      p.Press("OK");
+    });
+    Give("New User");
+    EXPECT_EQ(Chosen("Users").toStdString(), name);
+  }
+  void NewEntry(const std::string& service, const char* field, const char* address) {
+    Script().ExpectWindow("New Entry", [=](Person& p) {
+      ChooseRow(p, "&Services:", service);
+      p.Press("Next >");
+      p.Type(field, address);
+      p.Press("Finish");
+    });
+    Give("New Entry");
+  }
+  void NewResponse(const std::string& service, const char* field, const char* message) {
+    Script().ExpectWindow("New Response", [=](Person& p) {
+      ChooseRow(p, "&Services:", service);
+      p.Press("Next >");
+      p.Type(field, message);
+      p.Press("Finish");
+    });
+    Give("New Response");
+  }
+  static void ChooseRow(Person& p, const std::string& list, const std::string& first) {
+    const auto rows = p.Rows(list);
+    for (std::size_t row = 0; row < rows.size(); ++row)
+      if (rows[row].front() == first) return p.ClickRow(list, static_cast<int>(row));
+    ADD_FAILURE() << "no row " << first;
+  }
+  void SetUpMail() {
+    Choose("Services", "Internet Mail");
+    Script().ExpectWindow("Internet Mail", [](Person& p) {
+      p.Type("&SMTP Server:", "mail.example.org");
+      p.Press("OK");
+    });
+    Give("Properties");
+  }
+  void SetUpPager() {
+    Choose("Services", "Alphanumeric Pager");
+    Script().ExpectWindow("Alphanumeric Pager", [](Person& p) {
+      p.Press("&Set service provider");
+      p.SelectTab("Modems");
+      p.Press("Ne&w...");
+      p.ClickRow("Modems", 0);
+      p.Press("OK");
+    });
+    Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [](Person& p) { p.Press("OK"); });
+    Script().ExpectWindow("Create new modem", [](Person& p) {
+      p.Choose("&Select modem type for the new modem:", "Generic 9600 bps modem");
+      p.Type("&Enter name for new modem:", "Rack modem");
+      p.Press("OK");
+    });
+    Script().ExpectWindow("Modem Properties", [](Person& p) { p.Press("OK"); });
+    Give("Properties");
+  }
+  void AddSecondManager() {
+    ShowPage("Alert &Managers");
+    Script().ExpectWindow("New Alert Manager", [](Person& p) {
+      p.Type("&Name of its computer:", "STANDBY");
+      p.Press("OK");
+    });
+    Give("New Alert Manager");
+    Script().ExpectWindow("Services of STANDBY", [](Person& p) {
+      ChooseRow(p, "Se&rvices:", "Wave File");
+      p.Press("&Deliver");
+      p.Press("Close");
+    });
+    Script().ExpectMessage(
+        "\"Wave File\" is delivered by " + platform::HostName() +
+            ", and one manager delivers a service at a time. Have \"STANDBY\" deliver it instead?",
+        platform::ui::Answer::kYes);
+    Give("Services Delivered");
+  }
+};
+
+const json& Named(const json& list, const std::string& name) {
+  for (const json& item : list)
+    if (item["name"] == name) return item;
+  throw std::runtime_error("nothing is named " + name);
+}
+
+TEST_F(NewSiteTest, MailPagerUsersResponsesAndManagersReachTheManagersFile) {
+  Open();
+  Press("&Set Up This Site");
+  SetUpMail();
+  SetUpPager();
+  ShowPage("&Users");
+  NewUser("Ann");
+  NewEntry("Internet Mail", "Email A&ddress:", "ann@example.org");
+  NewUser("Bob");
+  NewEntry("Alphanumeric Pager", "&PIN number:", "5550177");
+  ShowPage("&Responses");
+  NewResponse("Internet Mail", "Mail Message &Subject:", "Disk full");
+  NewResponse("Alphanumeric Pager", "&Message:", "Disk full");
+  AddSecondManager();
+
+  std::string bytes;
+  ASSERT_TRUE(platform::ReadWholeFile(Library().Directory() + "/alert-managers.json", bytes));
+  const json site = json::parse(bytes);
+  const json& mail = Named(site["services"], "Internet Mail");
+  EXPECT_EQ(mail["settings"]["smtpServer"], "mail.example.org");
+  EXPECT_EQ(mail["users"].at(0)["address"], "ann@example.org");
+  const json& pager = Named(site["services"], "Alphanumeric Pager");
+  EXPECT_EQ(pager["modem"]["modemName"], "Rack modem");
+  EXPECT_EQ(pager["users"].at(0)["address"], "5550177");
+  EXPECT_EQ(site["alertManagers"][1]["name"], "STANDBY");
+  EXPECT_EQ(site["alertManagers"][1]["services"].at(0)["serviceId"], Named(site["services"], "Wave File")["id"]);
+  std::vector<std::string> alerted;
+  for (const json& response : site["responses"])
+    if (response["userName"] != "")
+      alerted.push_back(response["serviceName"].get<std::string>() + ": " +
+                        response["userName"].get<std::string>());
+  EXPECT_THAT(alerted, testing::ElementsAre("Internet Mail: Ann", "Alphanumeric Pager: Bob"));
+  EXPECT_FALSE(Says("not yet told"));
+}
+
+}  // namespace
+}  // namespace alertconsole
