@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/hosts/manager_services.h"
 
+#include <algorithm>
+
 #include "companions/alertstore/selectors.h"
 #include "companions/alertstore/stores.h"
 #include "companions/dbconfig/strings.h"
@@ -43,7 +45,9 @@ class ManagerServicesDialog : public ListDialog {
   void EnableButtons() override;
   void Deliver();
   void Stop();
+  bool ReadAgain(site::Service& service);
   bool Clear(const site::Service& service);
+  void ShowChange(bool taken);
   const site::Service* Chosen();
   bool Delivers(const site::Service& service) const;
 
@@ -105,29 +109,40 @@ bool ManagerServicesDialog::Clear(const site::Service& service) {
   return index >= 0;
 }
 
-// A service has one manager, and the library leaves it with that one: another takes it over once it has none.
+// Another console may have changed the service since the list was filled; what is asked is to be about what holds now.
+bool ManagerServicesDialog::ReadAgain(site::Service& service) {
+  if (!Refill() || Chosen() == nullptr) return false;
+  service = *Chosen();
+  return true;
+}
+
+void ManagerServicesDialog::ShowChange(bool taken) {
+  NoteChange();
+  if (!taken) Tell("The stores did not take the change. The list shows what holds now.");
+}
+
+// A service has one manager, and the library leaves it with that one: another takes it over once it has none. Notes of
+// managers that are gone are in the way like others.
 void ManagerServicesDialog::Deliver() {
-  const site::Service service = *Chosen();
+  site::Service service;
+  if (!ReadAgain(service) || Delivers(service)) return;
   if (!service.managers.empty() &&
       !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) + ". Have \"" + name_ +
            "\" deliver it instead?"))
     return;
-  if (!Clear(service)) return Refill();
-  const int left = CountNotes(service.id);
-  if (left == 0) calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
-  NoteChange();
-  if (left > 0) Tell("The stores did not take the change: \"" + service.name + "\" stays as it was.");
+  if (!Clear(service)) return;
+  const bool cleared = CountNotes(service.id) == 0;
+  calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
+  ShowChange(cleared);
 }
 
 void ManagerServicesDialog::Stop() {
-  const site::Service service = *Chosen();
+  site::Service service;
+  if (!ReadAgain(service) || !Delivers(service)) return;
   if (service.managers.size() > 1 && !Ask("\"" + service.name + "\" is delivered by " +
                                           Listed(service.managers) + ". They stop together. Stop them all?"))
     return;
-  if (!Clear(service)) return Refill();
-  NoteChange();
-  if (CountNotes(service.id) > 0)
-    Tell("The stores did not take the change: \"" + service.name + "\" is still delivered.");
+  if (Clear(service)) ShowChange(CountNotes(service.id) == 0);
 }
 
 }  // namespace
