@@ -16,6 +16,8 @@ namespace {
 
 using platform::GUID;
 
+constexpr char kManagerDeleted[] = "Another console has deleted the alert manager.";
+
 /// How many notes say of managers that they deliver the service, of managers that are gone, too. 0 where they cannot be read.
 int CountNotes(const GUID& service) {
   alertstore::CAlertSERV_INST_NTFY_SERVDB store;
@@ -109,10 +111,18 @@ bool ManagerServicesDialog::Clear(const site::Service& service) {
   return index >= 0;
 }
 
-// Another console may have changed the service since the list was filled; what is asked is to be about what holds now.
+// Another console may have changed something since the list was filled; what is asked is to be about what holds now. The list
+// then selects another service where this one is gone.
 bool ManagerServicesDialog::ReadAgain(site::Service& service) {
-  if (!Refill() || Chosen() == nullptr) return false;
-  service = *Chosen();
+  const GUID id = List().Chosen()->id;
+  if (!Refill()) return false;
+  const site::Service* found = site::Find(overview_.services, id);
+  const bool has_manager = site::Find(overview_.managers, manager_) != nullptr;
+  if (found == nullptr || !has_manager) {
+    Tell(has_manager ? kServiceDeleted : kManagerDeleted);
+    return false;
+  }
+  service = *found;
   return true;
 }
 
@@ -151,7 +161,7 @@ bool EditManagerServices(ui::Window* parent, const site::LibraryCalls& calls, co
                          const GUID& manager) {
   const site::Manager* found = site::Find(overview.managers, manager);
   if (found == nullptr) {
-    Tell("Another console has deleted the alert manager.");
+    Tell(kManagerDeleted);
     return false;
   }
   ManagerServicesDialog dialog(parent, calls, *found);

@@ -264,10 +264,13 @@ TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
     EXPECT_EQ(Notes()[0].managerGuid, one) << "the answer was No";
     p.Press("&Deliver");
     EXPECT_EQ(BytesOf(Notes()[0]).substr(16, 32), BytesOf(post_) + BytesOf(two));
-    Press(p, {"&Stop Delivering", "Close"});
+    p.Press("&Stop Delivering");
+    DeleteElsewhere(post_);
+    Press(p, {"&Deliver", "Close"});
   });
   for (const auto answer : {ui::Answer::kNo, ui::Answer::kYes})
     Script().ExpectMessage("\"Post\" is delivered by ONE. Have \"TWO\" deliver it instead?", answer);
+  Script().ExpectMessage(kDeleted);
   EXPECT_TRUE(hosts::EditManagerServices(nullptr, calls_, Overview(), two));
   EXPECT_TRUE(Notes().empty());
 }
