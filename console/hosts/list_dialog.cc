@@ -14,9 +14,6 @@ ListDialog::ListDialog(ui::Window* parent, const Look& look)
       list_(*this, kIdList, look.list_label) {
   for (const auto& [title, margin] : look.columns) list_.AddColumn(title, margin);
   list_.SetOnChange([this] { EnableButtons(); });
-  list_.SetOnDoubleClick([this] {
-    if (!row_buttons_.empty()) row_buttons_.front()->OnClick();
-  });
 }
 
 ui::Button& ListDialog::AddButton(std::string label, std::function<void()> press) {
@@ -50,11 +47,13 @@ void ListDialog::EnableButtons() {
   for (ui::Button* button : row_buttons_) button->Enable(list_.Chosen() != nullptr);
 }
 
-void ListDialog::Refill() {
+bool ListDialog::Refill() {
   std::vector<RecordList::Row> rows;
-  if (ReadRows(rows)) list_.Fill(std::move(rows));
+  const bool read = ReadRows(rows);
+  if (read) list_.Fill(std::move(rows));
   empty_.Show(list_.Empty());
   EnableButtons();
+  return read;
 }
 
 void ListDialog::NoteChange() {

@@ -29,7 +29,7 @@ class ListDialog : public HostDialog {
   ListDialog(ui::Window* parent, const Look& look);
   /// Adds a button under those that are there. Their ids follow the list's, 100.
   ui::Button& AddButton(std::string label, std::function<void()> press);
-  /// The same for what is done to the selected record; a double click on a row presses the first of these.
+  /// The same for what is done to the selected record.
   ui::Button& AddRowButton(std::string label, std::function<void()> press);
   /// Adds Close, which Enter presses, and lays everything out. The last thing that a constructor does.
   void Finish();
@@ -39,7 +39,8 @@ class ListDialog : public HostDialog {
   virtual bool ReadRows(std::vector<RecordList::Row>& rows) = 0;
   /// Enables what can be done to the selected record.
   virtual void EnableButtons();
-  void Refill();
+  /// Reads the list again; false after telling that this failed.
+  bool Refill();
   /// Something was stored.
   void NoteChange();
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/hosts/manager_services.h"
 
+#include <algorithm>
+
 #include "companions/alertstore/selectors.h"
 #include "companions/alertstore/stores.h"
 #include "companions/dbconfig/strings.h"
@@ -13,6 +15,8 @@ namespace hosts {
 namespace {
 
 using platform::GUID;
+
+constexpr char kManagerDeleted[] = "Another console has deleted the alert manager.";
 
 /// How many notes say of managers that they deliver the service, of managers that are gone, too. 0 where they cannot be read.
 int CountNotes(const GUID& service) {
@@ -43,7 +47,9 @@ class ManagerServicesDialog : public ListDialog {
   void EnableButtons() override;
   void Deliver();
   void Stop();
+  bool ReadAgain(site::Service& service);
   bool Clear(const site::Service& service);
+  void ShowChange(bool taken);
   const site::Service* Chosen();
   bool Delivers(const site::Service& service) const;
 
@@ -105,29 +111,48 @@ bool ManagerServicesDialog::Clear(const site::Service& service) {
   return index >= 0;
 }
 
-// A service has one manager, and the library leaves it with that one: another takes it over once it has none.
+// Another console may have changed something since the list was filled; what is asked is to be about what holds now. The list
+// then selects another service where this one is gone.
+bool ManagerServicesDialog::ReadAgain(site::Service& service) {
+  const GUID id = List().Chosen()->id;
+  if (!Refill()) return false;
+  const site::Service* found = site::Find(overview_.services, id);
+  const bool has_manager = site::Find(overview_.managers, manager_) != nullptr;
+  if (found == nullptr || !has_manager) {
+    Tell(has_manager ? kServiceDeleted : kManagerDeleted);
+    return false;
+  }
+  service = *found;
+  return true;
+}
+
+void ManagerServicesDialog::ShowChange(bool taken) {
+  NoteChange();
+  if (!taken) Tell("The stores did not take the change. The list shows what holds now.");
+}
+
+// A service has one manager, and the library leaves it with that one: another takes it over once it has none. Notes of
+// managers that are gone are in the way like others.
 void ManagerServicesDialog::Deliver() {
-  const site::Service service = *Chosen();
+  site::Service service;
+  if (!ReadAgain(service) || Delivers(service)) return;
   if (!service.managers.empty() &&
       !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) + ". Have \"" + name_ +
            "\" deliver it instead?"))
     return;
-  if (!Clear(service)) return Refill();
-  const int left = CountNotes(service.id);
-  if (left == 0) calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
-  NoteChange();
-  if (left > 0) Tell("The stores did not take the change: \"" + service.name + "\" stays as it was.");
+  if (!Clear(service)) return;
+  const bool cleared = CountNotes(service.id) == 0;
+  calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
+  ShowChange(cleared);
 }
 
 void ManagerServicesDialog::Stop() {
-  const site::Service service = *Chosen();
+  site::Service service;
+  if (!ReadAgain(service) || !Delivers(service)) return;
   if (service.managers.size() > 1 && !Ask("\"" + service.name + "\" is delivered by " +
                                           Listed(service.managers) + ". They stop together. Stop them all?"))
     return;
-  if (!Clear(service)) return Refill();
-  NoteChange();
-  if (CountNotes(service.id) > 0)
-    Tell("The stores did not take the change: \"" + service.name + "\" is still delivered.");
+  if (Clear(service)) ShowChange(CountNotes(service.id) == 0);
 }
 
 }  // namespace
@@ -136,7 +161,7 @@ bool EditManagerServices(ui::Window* parent, const site::LibraryCalls& calls, co
                          const GUID& manager) {
   const site::Manager* found = site::Find(overview.managers, manager);
   if (found == nullptr) {
-    Tell("Another console has deleted the alert manager.");
+    Tell(kManagerDeleted);
     return false;
   }
   ManagerServicesDialog dialog(parent, calls, *found);

@@ -39,6 +39,9 @@ ProvidersDialog::ProvidersDialog(ui::Window* parent)
   AddButton("&Add...", [this] { Add(); });
   AddRowButton("&Change...", [this] { Change(); });
   AddRowButton("&Remove", [this] { Remove(); });
+  List().SetOnDoubleClick([this] {
+    if (List().Chosen() != nullptr) Change();
+  });
   Finish();
 }
 
@@ -74,7 +77,7 @@ void ProvidersDialog::Change() {
 void ProvidersDialog::Remove() {
   const site::Provider provider = Chosen();
   if (!Ask("Remove the paging provider \"" + std::string(provider.company.View()) +
-           "\"? Services that were set up with it keep its number and settings."))
+           "\"? Services set up with it keep its settings."))
     return;
   const alertstore::Status status = site::RemoveProvider(provider.guid);
   if (status != alertstore::kOk) return Tell(site::FailureText("remove the paging provider", status));

@@ -57,7 +57,6 @@ class ResponseWizard : public PanelWizard {
 // Types whose panel shows the message alone have more of a default message: the subject of a trap.
 void ResponseWizard::Begin(int index) {
   response_ = {};
-  response_.serviceRecordType = Calls().DomainServiceGetInfo(index)->recordType;
   Calls().DomainServiceInitWithDefMsg(index, &response_);
 }
 

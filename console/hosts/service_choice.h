@@ -12,6 +12,8 @@
 
 namespace hosts {
 
+inline constexpr char kServiceDeleted[] = "Another console has deleted the service.";
+
 /// Rows with name and type of the library's services, of those alone that `wanted` says so of by their index.
 std::vector<RecordList::Row> ServiceRows(const site::LibraryCalls& calls,
                                          const std::function<bool(int)>& wanted = {});
@@ -21,6 +23,6 @@ void AddServiceColumns(RecordList& list);
 /// The index of a service for the calls that follow at once. -1, after `gone` was told, when there is no such service any
 /// more: the stores are asked, as the library may have read its list before another console deleted it.
 int IndexOrTell(const site::LibraryCalls& calls, const platform::GUID& service,
-                const std::string& gone = "Another console has deleted the service.");
+                const std::string& gone = kServiceDeleted);
 
 }  // namespace hosts
