@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/hosts/host_dialog.h"
 
+#include <cctype>
+
 #include "companions/ctxhelp/ctxhelp.h"
 #include "platform/ui/message.h"
 
@@ -15,7 +17,13 @@ std::string Trimmed(const std::string& text) {
   return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-void Tell(const std::string& text) { ui::MessageBox(text); }
+// What failed is told as a part of a sentence by those who log it, too.
+std::string Sentence(std::string text) {
+  if (!text.empty()) text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+  return text.empty() || text.ends_with('.') ? text : text + ".";
+}
+
+void Tell(const std::string& text) { ui::MessageBox(Sentence(text)); }
 
 bool Ask(const std::string& question) {
   return ui::MessageBox(question, ui::Buttons::kNoYes, ui::MessageIcon::kQuestion) == ui::Answer::kYes;

@@ -39,7 +39,9 @@ class HostPage : public ui::PropertyPage {
 /// What was typed, without the blanks around it.
 std::string Trimmed(const std::string& text);
 
-/// Says something that keeps a window from going on, with the console's title.
+/// The text as a person reads it, with a capital letter and a full stop.
+std::string Sentence(std::string text);
+/// Says something that keeps a window from going on, as a sentence, with the console's title.
 void Tell(const std::string& text);
 /// The same with Yes and No, of which No is the default.
 bool Ask(const std::string& question);

@@ -3,13 +3,11 @@
 
 #include <algorithm>
 
-#include "companions/alertstore/selectors.h"
-#include "companions/alertstore/stores.h"
 #include "companions/dbconfig/strings.h"
 #include "console/hosts/list_dialog.h"
 #include "console/hosts/service_choice.h"
 #include "console/site/advice.h"
-#include "console/site/walk.h"
+#include "console/site/delivery.h"
 
 namespace hosts {
 namespace {
@@ -17,20 +15,6 @@ namespace {
 using platform::GUID;
 
 constexpr char kManagerDeleted[] = "Another console has deleted the alert manager.";
-
-/// How many notes say of managers that they deliver the service, of managers that are gone, too. 0 where they cannot be read.
-int CountNotes(const GUID& service) {
-  alertstore::CAlertSERV_INST_NTFY_SERVDB store;
-  int count = 0;
-  site::Walk(
-      store, alertstore::kEnabledServiceByService,
-      [&](const auto&) {
-        ++count;
-        return alertstore::kOk;
-      },
-      service);
-  return count;
-}
 
 std::string Listed(const std::vector<std::string>& names) {
   std::string list;
@@ -48,7 +32,6 @@ class ManagerServicesDialog : public ListDialog {
   void Deliver();
   void Stop();
   bool ReadAgain(site::Service& service);
-  bool Clear(const site::Service& service);
   void ShowChange(bool taken);
   const site::Service* Chosen();
   bool Delivers(const site::Service& service) const;
@@ -103,14 +86,6 @@ void ManagerServicesDialog::EnableButtons() {
   stop_.Enable(service != nullptr && Delivers(*service));
 }
 
-// One call takes away one note, whichever manager it names.
-bool ManagerServicesDialog::Clear(const site::Service& service) {
-  const int index = IndexOrTell(calls_, service.id);
-  for (int left = CountNotes(service.id); index >= 0 && left > 0; --left)
-    calls_.DomainServiceServerEnable(index, manager_, 0);
-  return index >= 0;
-}
-
 // Another console may have changed something since the list was filled; what is asked is to be about what holds now. The list
 // then selects another service where this one is gone.
 bool ManagerServicesDialog::ReadAgain(site::Service& service) {
@@ -131,8 +106,6 @@ void ManagerServicesDialog::ShowChange(bool taken) {
   if (!taken) Tell("The stores did not take the change. The list shows what holds now.");
 }
 
-// A service has one manager, and the library leaves it with that one: another takes it over once it has none. Notes of
-// managers that are gone are in the way like others.
 void ManagerServicesDialog::Deliver() {
   site::Service service;
   if (!ReadAgain(service) || Delivers(service)) return;
@@ -140,10 +113,8 @@ void ManagerServicesDialog::Deliver() {
       !Ask("\"" + service.name + "\" is delivered by " + Listed(service.managers) + ". Have \"" + name_ +
            "\" deliver it instead?"))
     return;
-  if (!Clear(service)) return;
-  const bool cleared = CountNotes(service.id) == 0;
-  calls_.DomainServiceServerEnable(calls_.IndexOf(service.id), manager_, 1);
-  ShowChange(cleared);
+  const int index = IndexOrTell(calls_, service.id);
+  if (index >= 0) ShowChange(site::DeliverThrough(calls_, index, service.id, manager_));
 }
 
 void ManagerServicesDialog::Stop() {
@@ -152,7 +123,8 @@ void ManagerServicesDialog::Stop() {
   if (service.managers.size() > 1 && !Ask("\"" + service.name + "\" is delivered by " +
                                           Listed(service.managers) + ". They stop together. Stop them all?"))
     return;
-  if (Clear(service)) ShowChange(CountNotes(service.id) == 0);
+  const int index = IndexOrTell(calls_, service.id);
+  if (index >= 0) ShowChange(site::StopDelivering(calls_, index, service.id));
 }
 
 }  // namespace

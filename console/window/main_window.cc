@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "companions/ctxhelp/resource_directory.h"
+#include "console/hosts/host_dialog.h"
 #include "console/site/advice.h"
 #include "console/site/backup_manager.h"
 #include "console/site/data_directory.h"
@@ -180,7 +181,7 @@ void MainWindow::SetUp() {
     const site::DirectoryTurn turn;
     site::AddStarterData();
   } catch (const site::Failure& failure) {
-    TellFailure(failure.what());
+    hosts::Tell(failure.what());
   }
   managers_file_.Write();
   ReadSite();

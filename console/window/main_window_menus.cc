@@ -5,6 +5,7 @@
 #include <QToolBar>
 
 #include "console/hosts/computers_dialog.h"
+#include "console/hosts/host_dialog.h"
 #include "console/hosts/providers_dialog.h"
 #include "console/site/dialing_rules.h"
 #include "console/window/guide_window.h"
@@ -116,7 +117,7 @@ void MainWindow::EditRules() {
         if (library_.RulesDialog(&as_owner_, same_area, long_distance, international) != platform::ui::kOk)
           return Outcome::kNothing;
         const std::string problem = site::WriteDialingRules({same_area, long_distance, international});
-        if (!problem.empty()) TellFailure("cannot keep the dialing rules: " + problem);
+        if (!problem.empty()) hosts::Tell("cannot keep the dialing rules: " + problem);
         return Outcome::kNothing;
       },
       {});

@@ -127,7 +127,7 @@ void ManagersPage::Remove() {
                         "\n\nThis cannot be undone."))
           return Outcome::kNothing;
         const alertstore::Status status = site::RemoveManager(manager.id);
-        if (status != alertstore::kOk) TellFailure(site::FailureText("remove the alert manager", status));
+        if (status != alertstore::kOk) hosts::Tell(site::FailureText("remove the alert manager", status));
         return Outcome::kStored;
       },
       tr("Removed \"%1\".").arg(ToQt(manager.name)));
@@ -149,7 +149,7 @@ void ManagersPage::SetBackup() {
   console_.Do(
       [&] {
         const std::string problem = site::WriteBackupManager(backup);
-        if (!problem.empty()) TellFailure("cannot keep the choice of the backup: " + problem);
+        if (!problem.empty()) hosts::Tell("cannot keep the choice of the backup: " + problem);
         return problem.empty() ? Outcome::kStored : Outcome::kNothing;
       },
       backup.IsNull() ? tr("There is no backup now.")

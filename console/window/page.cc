@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "console/window/page.h"
 
-#include "console/hosts/host_dialog.h"
-
 namespace alertconsole {
 
 Page::Page(Console& console, QString title, QWidget* parent)
@@ -39,13 +37,6 @@ void Page::Recall(const QSettings& settings) { MainView().Recall(settings); }
 QString Page::CountText(const RecordView& view, const QString& one, const QString& many) {
   const QString all = QString::number(view.Count()) + " " + (view.Count() == 1 ? one : many);
   return view.ShownCount() == view.Count() ? all : tr("%1 of %2").arg(view.ShownCount()).arg(all);
-}
-
-void TellFailure(const std::string& problem) {
-  if (problem.empty()) return;
-  std::string text = problem;
-  text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
-  hosts::Tell(text + ".");
 }
 
 }  // namespace alertconsole

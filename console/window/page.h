@@ -92,7 +92,4 @@ class Page : public QWidget {
   std::map<QAction*, std::function<bool()>> conditions_;
 };
 
-/// Shows a sentence that begins in lower case as a person reads it, with its title.
-void TellFailure(const std::string& problem);
-
 }  // namespace alertconsole

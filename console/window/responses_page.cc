@@ -104,7 +104,7 @@ void ResponsesPage::Remove() {
         for (const RowKey& key : chosen) {
           const alertstore::Status status = site::RemoveResponse(key.id);
           if (status != alertstore::kOk && status != alertstore::kNotFound)
-            TellFailure(site::FailureText("remove the response", status));
+            hosts::Tell(site::FailureText("remove the response", status));
         }
         return Outcome::kStored;
       },

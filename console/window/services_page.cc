@@ -8,6 +8,7 @@
 #include "companions/dbconfig/strings.h"
 #include "console/hosts/name_dialog.h"
 #include "console/site/advice.h"
+#include "console/site/delivery.h"
 #include "console/site/open_mark.h"
 #include "console/site/services.h"
 #include "desktops/qt/texts.h"
@@ -239,25 +240,20 @@ void ServicesPage::Switch(bool on) {
       [&] {
         for (const RowKey& key : view_.Selected()) {
           const alertstore::Status status = site::SwitchService(key.id, on);
-          if (status != alertstore::kOk) TellFailure(site::FailureText("switch the service", status));
+          if (status != alertstore::kOk) hosts::Tell(site::FailureText("switch the service", status));
         }
         return Outcome::kStored;
       },
       on ? tr("Switched on.") : tr("Switched off."));
 }
 
-// A service has one entry at a time, so that taking it from one manager comes first. The library takes the first entry off
-// whichever manager it names; a backup entry is one more.
 Outcome ServicesPage::DeliverThrough(const GUID& manager) {
-  constexpr int kEntriesAtMost = 16;
   for (const RowKey& key : view_.Selected()) {
     const int index = Locate(console_.Library(), key.id);
     if (index < 0) continue;
-    const site::Service* service = site::Find(console_.Site().services, key.id);
-    const std::size_t entries = service == nullptr ? 0 : service->managers.size();
-    for (std::size_t i = 0; i < entries && i < kEntriesAtMost; ++i)
-      console_.Library().DomainServiceServerEnable(index, manager, 0);
-    if (!manager.IsNull()) console_.Library().DomainServiceServerEnable(index, manager, 1);
+    const bool taken = manager.IsNull() ? site::StopDelivering(console_.Library(), index, key.id)
+                                        : site::DeliverThrough(console_.Library(), index, key.id, manager);
+    if (!taken) hosts::Tell("The stores did not take the change. The list shows what holds now.");
   }
   return Outcome::kStored;
 }

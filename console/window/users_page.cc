@@ -149,7 +149,7 @@ void UsersPage::RemoveUser() {
           return Outcome::kStored;
         }
         const alertstore::Status status = alertstore::RemoveConsoleUser(user.id);
-        if (status != alertstore::kOk) TellFailure(site::FailureText("remove the user", status));
+        if (status != alertstore::kOk) hosts::Tell(site::FailureText("remove the user", status));
         return Outcome::kStored;
       },
       tr("Removed \"%1\".").arg(ToQt(user.name)));

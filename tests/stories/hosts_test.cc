@@ -4,6 +4,7 @@
 #include "companions/dbconfig/strings.h"
 #include "console/hosts/computers_dialog.h"
 #include "console/hosts/entry_wizard.h"
+#include "console/hosts/host_dialog.h"
 #include "console/hosts/manager_services.h"
 #include "console/hosts/providers_dialog.h"
 #include "console/hosts/response_service.h"
@@ -49,7 +50,7 @@ class HostsTest : public StoryTest {
     return overview;
   }
   void ExpectFailure(const std::string& what) {
-    Script().ExpectMessage(site::FailureText(what, alertstore::kIoError));
+    Script().ExpectMessage(hosts::Sentence(site::FailureText(what, alertstore::kIoError)));
   }
   static void Press(Person& p, std::initializer_list<const char*> buttons) {
     for (const char* button : buttons) p.Press(button);
@@ -300,8 +301,8 @@ TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
     EXPECT_EQ(p.Text(kCompany), " Beta ");
     p.Press("OK");
   });
-  Script().ExpectMessage("a provider's company has at most 64 bytes: this one has 65");
-  Script().ExpectMessage("the phone number has at least one digit: enter what the modem dials");
+  Script().ExpectMessage("A provider's company has at most 64 bytes: this one has 65.");
+  Script().ExpectMessage("The phone number has at least one digit: enter what the modem dials.");
   ExpectFailure("store the paging provider");
   Script().ExpectWindow("Paging Provider Properties", [](Person& p) {
     p.Type(kCompany, "Gamma");
@@ -329,7 +330,7 @@ TEST_F(HostsTest, ComputersAreAddedAndRemoved) {
       p.Press("OK");
     }
   });
-  Script().ExpectMessage("the site knows a computer of that name: enter another");
+  Script().ExpectMessage("The site knows a computer of that name: enter another.");
   for (const std::string name : {"attic", "DESK"})
     Script().ExpectMessage("Remove the computer \"" + name + "\" from those that can be chosen?",
                            ui::Answer::kYes);

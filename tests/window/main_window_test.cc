@@ -100,7 +100,7 @@ TEST_F(MainWindowTest, ANameThatIsTooLongOrTakenStaysForCorrection) {
     p.Type("&Name of the copy:", " Siren ");
     p.Press("OK");
   });
-  Script().ExpectMessage("a service's name has 1 to 32 bytes: \"" + too_long + "\" has 40");
+  Script().ExpectMessage("A service's name has 1 to 32 bytes: \"" + too_long + "\" has 40.");
   Script().ExpectMessage("There is a service named \"SNMP Trap\" already: choose another name.");
   Give("Copy");
   EXPECT_EQ(Chosen("Services"), "Siren") << "the copy is the chosen one";

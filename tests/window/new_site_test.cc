@@ -63,6 +63,9 @@ class NewSiteTest : public MainWindowTest {
       p.Press("OK");
     });
     Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [](Person& p) { p.Press("OK"); });
+    Script().ExpectMessage(
+        "No records in the modem database. You will need to add a location (using the New button) in order "
+        "to use a modem.");
     Script().ExpectWindow("Create new modem", [](Person& p) {
       p.Choose("&Select modem type for the new modem:", "Generic 9600 bps modem");
       p.Type("&Enter name for new modem:", "Rack modem");
@@ -84,8 +87,7 @@ class NewSiteTest : public MainWindowTest {
       p.Press("Close");
     });
     Script().ExpectMessage(
-        "\"Wave File\" is delivered by " + platform::HostName() +
-            ", and one manager delivers a service at a time. Have \"STANDBY\" deliver it instead?",
+        "\"Wave File\" is delivered by " + platform::HostName() + ". Have \"STANDBY\" deliver it instead?",
         platform::ui::Answer::kYes);
     Give("Services Delivered");
   }
@@ -122,7 +124,8 @@ TEST_F(NewSiteTest, MailPagerUsersResponsesAndManagersReachTheManagersFile) {
   EXPECT_EQ(pager["modem"]["modemName"], "Rack modem");
   EXPECT_EQ(pager["users"].at(0)["address"], "5550177");
   EXPECT_EQ(site["alertManagers"][1]["name"], "STANDBY");
-  EXPECT_EQ(site["alertManagers"][1]["services"].at(0)["serviceId"], Named(site["services"], "Wave File")["id"]);
+  EXPECT_EQ(site["alertManagers"][1]["services"].at(0)["serviceId"],
+            Named(site["services"], "Wave File")["id"]);
   std::vector<std::string> alerted;
   for (const json& response : site["responses"])
     if (response["userName"] != "")
