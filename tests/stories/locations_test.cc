@@ -262,14 +262,7 @@ TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
   provider.maxTextLength = 240;
   platform::GUID id{};
   ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
-  library_.engine->FailAll("ApageNtfyServDB.dat", StoreOp::kUpdate);
-  Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [&](Person& p) {
-    p.Press("OK");
-    library_.engine->FailNone();
-    p.Press("OK");
-  });
-  Script().ExpectMessage("Unable to update the notification service-specific database record.");
-  EXPECT_EQ(alerting::RunSetPagerProvider(pager, nullptr), platform::ui::kOk);
+  EXPECT_EQ(run([](Person& p) { p.Press("OK"); }), platform::ui::kOk);
   std::string expected = test_support::StoredSpecific(alerting::kTypeAlpha,
                                                       test_support::StoredCommon(service).specificRecordId);
   const std::string stored = expected;
@@ -287,24 +280,6 @@ TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
     ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
   EXPECT_TRUE(alerting::LoadProviderTable());
   EXPECT_EQ(alerting::TheProviders().count, 1000u) << "of 1,001";
-}
-
-TEST_F(LocationsTest, AProviderForNoServiceYetMakesARecord) {
-  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
-  provider.company.Assign("Example Paging");
-  platform::GUID id{};
-  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
-  library_.engine->FailAll("ApageNtfyServDB.dat", StoreOp::kAdd);
-  Script().ExpectWindow("Set Alphanumeric Pager Service Provider", [&](Person& p) {
-    p.Press("OK");
-    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
-    library_.engine->FailNone();
-    library_.engine->Forget();
-    p.Press("OK");
-  });
-  Script().ExpectMessage("Unable to add record to service-specific database.");
-  EXPECT_EQ(alerting::CSetPagerProviderDlg(nullptr, nullptr).RunModal(), platform::ui::kOk);
-  EXPECT_EQ(library_.engine->Writes().size(), 1u);
 }
 
 }  // namespace

@@ -23,9 +23,6 @@ constexpr char kShown[] = "Alert for <User Name> at <Time>";
 constexpr char kUpdateFailed[] = "Unable to update the notification service database record.";
 constexpr char kReadFailed[] = "Unable to read the record from the notification service database.";
 
-const Labels kGeneralControls = {kEnable, "&Test", kServer, "..."};
-const Labels kMessageControls = {kSubject, kSubjectFields, kBody, kFields, kPriority};
-
 class SmtpSheetTest : public ServiceSheetsTest {
  protected:
   void SetUp() override {
@@ -148,65 +145,6 @@ TEST_F(SmtpSheetTest, ATestAsksWhatToDoWithPendingEdits) {
     Engine().FailNone();
     EXPECT_EQ(Engine().Writes().empty(), StoredServer() == "old.example.org");
   }
-}
-
-/// Presses Tab from the first control on, once for each other.
-Labels TabOrder(Person& p, const Labels& controls) {
-  p.Focus(controls.front());
-  Labels order = {p.FocusedLabel()};
-  while (order.size() < controls.size()) {
-    p.Press(Key::kTab);
-    order.push_back(p.FocusedLabel());
-  }
-  return order;
-}
-
-TEST_F(SmtpSheetTest, TabFollowsTheReadingOrderAndEveryControlHasAHelpTextOfItsOwn) {
-  Expect([](Person& p) {
-    EXPECT_EQ(TabOrder(p, kGeneralControls), kGeneralControls);
-    ExpectOwnHelp(p, kGeneralControls);
-    p.SelectTab(kMessageTab);
-    EXPECT_EQ(TabOrder(p, kMessageControls), kMessageControls);
-    ExpectOwnHelp(p, kMessageControls);
-    p.Press(kFields);
-    p.Press("Cancel");
-  });
-  Script().ExpectWindow("Choose Keyword", [](Person& p) {
-    ExpectOwnHelp(p, {"&Keywords:", "OK", "Cancel"});
-    p.Press("Cancel");
-  });
-  Open();
-}
-
-TEST_F(SmtpSheetTest, EveryAccessKeyReachesItsControl) {
-  Expect([](Person& p) {
-    p.AccessKey('e');
-    EXPECT_FALSE(p.IsChecked(kEnable));
-    p.AccessKey('e');
-    EXPECT_TRUE(p.IsChecked(kEnable));
-    p.AccessKey('s');
-    EXPECT_EQ(p.FocusedLabel(), kServer);
-    p.AccessKey('a');
-    EXPECT_FALSE(p.IsEnabled("Apply"));
-    p.AccessKey('t');
-    p.SelectTab(kMessageTab);
-    for (const auto& [key, label] : {std::pair{'s', kSubject}, {'m', kBody}, {'r', kPriority}}) {
-      p.AccessKey(key);
-      EXPECT_EQ(p.FocusedLabel(), label);
-    }
-    p.AccessKey('l');
-    p.AccessKey('f');
-    p.Press("Cancel");
-  });
-  ExpectTest();
-  for (int i = 0; i < 2; ++i) {
-    Script().ExpectWindow("Choose Keyword", [](Person& p) {
-      p.AccessKey('k');
-      EXPECT_EQ(p.FocusedLabel(), "&Keywords:");
-      p.Press(Key::kEscape);
-    });
-  }
-  Open();
 }
 
 TEST_F(SmtpSheetTest, AServerUsedBeforeIsChosenAndHeadsTheListOnceItIsSaved) {
