@@ -62,18 +62,6 @@ TEST_F(ManagersTest, ABackupManagerGetsASecondEntryForServicesWithABackupRecord)
   EXPECT_NE(backup.guid, Entries()[1].guid);
 }
 
-TEST_F(ManagersTest, TheCacheIsAsFreshAsItsLastLoad) {
-  const ALRTNTFYSERV& service = Find(SeedService(kTypeSmtp, "Mail"))->Common();
-  EnabledServicesCache cache;
-  for (const bool enabled : {true, false}) {
-    EnableServiceOnManager(service, one_, enabled);
-    EXPECT_EQ(cache.Contains(service.serviceId, one_), !enabled);
-    cache.Load();
-    EXPECT_EQ(cache.Contains(service.serviceId, one_), enabled);
-    EXPECT_FALSE(cache.Contains(service.serviceId, two_));
-  }
-}
-
 TEST_F(ManagersTest, FindsManagersByTheirWholeNameAndListsThem) {
   ComboDialog dialog;
   FillAlertManagerCombo(dialog.combo, one_);

@@ -209,9 +209,13 @@ TEST_F(ExportsTest, ServicesAreCopiedEnabledAndDeleted) {
   EXPECT_EQ(api_->DomainServiceCachedIsServer(3, manager_), 1U);
 
   EXPECT_EQ(api_->DomainServiceServerEnable(0, manager_, 1), 1U);
+  EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 1U);
   EXPECT_EQ(api_->DomainServiceDeleteService(0, manager_), 1U) << "the first of its type stays";
   EXPECT_EQ(api_->DomainServiceGetCount(), 4);
   EXPECT_EQ(api_->DomainServiceIsServer(0, manager_), 0U) << "but is disabled";
+  EXPECT_EQ(api_->DomainServiceCachedIsServer(0, manager_), 1U) << "as it was when last loaded";
+  EXPECT_EQ(api_->DomainServiceServerLoadRecords(), 1U);
+  EXPECT_EQ(api_->DomainServiceCachedIsServer(0, manager_), 0U);
   EXPECT_EQ(api_->DomainServiceDeleteService(3, manager_), 1U);
   EXPECT_EQ(api_->DomainServiceGetCount(), 3);
   EXPECT_EQ(api_->DomainServiceCopyService(1, nullptr), 1U);

@@ -175,7 +175,10 @@ TEST_F(SmtpSheetTest, SubjectPriorityAndLinesOfTheDefaultMessageAreStored) {
     p.Type(kBody, "100%s\nof <Tim");
     p.Press("OK");
   });
-  Script().ExpectWindow("Choose Keyword", [](Person& p) { p.DoubleClickItem("&Keywords:", "<Event ID>"); });
+  Script().ExpectWindow("Choose Keyword", [](Person& p) {
+    EXPECT_EQ(p.Items("&Keywords:").size(), 13u);
+    p.DoubleClickItem("&Keywords:", "<Event ID>");
+  });
   Open();
   EXPECT_EQ(Stored().defaultPriority, 0u);
   EXPECT_EQ(Stored().defaultSubject.View(), "On %s: %ld ");
