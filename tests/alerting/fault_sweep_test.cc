@@ -6,7 +6,13 @@
 
 #include <functional>
 
+#include "alerting/alert_page.h"
 #include "alerting/managers/enabled_services.h"
+#include "alerting/managers/snmp_manager_dlg.h"
+#include "alerting/managers/snmp_managers.h"
+#include "alerting/telephony/set_pager_provider_dlg.h"
+#include "companions/alertrecords/test_response.h"
+#include "companions/alertstore/computers.h"
 #include "tests/support/service_classes.h"
 
 namespace {
@@ -17,6 +23,20 @@ using ::testing::IsEmpty;
 
 using Lines = std::vector<std::string>;
 using Operation = std::function<bool()>;
+
+auto& SnmpManagerStore() { return UserStore<CAlertUSR_SNMPDB>(); }
+
+template <class Control>
+Control& At(ui::Form& form, const std::string& label) {
+  for (ui::Control* control : form.Controls())
+    if (control->Label() == label) return dynamic_cast<Control&>(*control);
+  throw std::out_of_range(label);
+}
+
+void Type(ui::Form& form, const std::string& field, const std::string& text) {
+  At<ui::Edit>(form, field).SetText(text);
+  form.OnPersonChange(At<ui::Edit>(form, field));
+}
 
 class FaultSweep : public ServiceTest {
  protected:
@@ -82,12 +102,15 @@ class FaultSweep : public ServiceTest {
     return std::string(NameOf(call.op)) + " " + Role(call.store);
   }
 
-  /// What the store is to the service, so that one table serves a whole family.
+  /// What the store is to the operation, so that one table serves a whole family.
   static std::string Role(const std::string& file) {
-    if (file == ServiceStore().Schema().file) return "services";
-    if (file == UserLinkStore().Schema().file) return "links";
-    if (file == EnabledServiceStore().Schema().file) return "enabled";
-    if (file == ModemStore().Schema().file) return "modems";
+    const std::map<std::string, const char*> roles = {
+        {ServiceStore().Schema().file, "services"},    {UserLinkStore().Schema().file, "links"},
+        {ModemStore().Schema().file, "modems"},        {EnabledServiceStore().Schema().file, "enabled"},
+        {ResponseStore().Schema().file, "responses"},  {ProviderStore().Schema().file, "providers"},
+        {ConsoleUserSchema().file, "console users"},   {ComputerSchema().file, "computers"},
+        {SnmpManagerStore().Schema().file, "managers"}};
+    if (const auto role = roles.find(file); role != roles.end()) return role->second;
     return file.find("NtfyServ") != std::string::npos ? "specific" : "users";
   }
 
@@ -180,6 +203,11 @@ TEST_F(FaultSweep, RecordsOfEveryType) {
 
 // Users of a service: of every type that has them, the same lines.
 
+const std::string kUserAdd = " [Unable to add record to the service-specific user database.]",
+                  kUserUpdate = " [Unable to update record in the service-specific user database.]",
+                  kLinkAdd = " [Unable to add record to the user installed services database.]",
+                  kReread = " [Unable to reread user record just written for the service.]";
+
 struct UserOperation {
   const char* name;
   std::function<bool(CNtfyServiceUserBase& service, const GUID& user)> run;
@@ -203,10 +231,7 @@ void ForgetUsers(CNtfyServiceUserBase& service) {
 }
 
 std::vector<UserOperation> UserOperations() {
-  const std::string user_add = " [Unable to add record to the service-specific user database.]",
-                    user_update = " [Unable to update record in the service-specific user database.]",
-                    user_delete = " [Unable to delete record in the service-specific user database.]",
-                    link_add = " [Unable to add record to the user installed services database.]",
+  const std::string user_delete = " [Unable to delete record in the service-specific user database.]",
                     link_update = " [Unable to update record in the user installed services database.]",
                     no_users = " [No records in the user installed services database.]",
                     first = "; wrote Add users", again = "; wrote Update users";
@@ -216,16 +241,16 @@ std::vector<UserOperation> UserOperations() {
        [](auto& service, auto& user) {
          return service.SaveUserEntry(user, {"Op", "1", 1});
        },
-       {"FindFirst links fails: yes" + first + ", Add links", "Lock users fails: no" + user_add,
-        "Add users fails: no" + user_add, "Unlock users fails: yes" + first + ", Add links",
-        "FindFirst links fails: yes" + first + ", Add links", "Add links fails: no" + link_add + first},
+       {"FindFirst links fails: yes" + first + ", Add links", "Lock users fails: no" + kUserAdd,
+        "Add users fails: no" + kUserAdd, "Unlock users fails: yes" + first + ", Add links",
+        "FindFirst links fails: yes" + first + ", Add links", "Add links fails: no" + kLinkAdd + first},
        false},
       {"save an entry again",
        [](auto& service, auto& user) {
          return service.SaveUserEntry(user, {"Op", "2", 1});
        },
-       {"FindFirst links fails: yes" + first + ", Update links", "Lock users fails: no" + user_update,
-        "FindFirst users fails: yes" + first + ", Update links", "Update users fails: no" + user_update,
+       {"FindFirst links fails: yes" + first + ", Update links", "Lock users fails: no" + kUserUpdate,
+        "FindFirst users fails: yes" + first + ", Update links", "Update users fails: no" + kUserUpdate,
         "Unlock users fails: yes" + again + ", Update links",
         "FindFirst links fails: yes" + again + ", Add links",
         "Update links fails: no" + link_update + again}},
@@ -283,10 +308,8 @@ TEST_F(FaultSweep, MailUsers) {
       return [&service, user, operation] { return operation(service, user); };
     };
   };
-  const std::string reread = " [Unable to reread user record just written for the service.]";
-  Expect({"Lock users fails: no" + reread, "FindFirst users fails: no" + reread,
-          "Update users fails: no [Unable to update record in the service-specific user database.]",
-          "Unlock users fails: yes; wrote Update users"},
+  Expect({"Lock users fails: no" + kReread, "FindFirst users fails: no" + kReread,
+          "Update users fails: no" + kUserUpdate, "Unlock users fails: yes; wrote Update users"},
          mci_user([](auto& service, auto& user) { return service.SetUserExtra(1, "EMS", user); }));
   Expect({"FindFirst users fails: no"}, mci_user([](auto& service, auto& user) {
            std::uint32_t enabled = 0;
@@ -333,6 +356,116 @@ TEST_F(FaultSweep, EnablingAndDisabling) {
           "Add enabled fails: yes" + add + wrote, "FindFirst enabled fails: no" + wrote + ", Add enabled"},
          change(kTypeNumeric, true));
   BackupManagerGuid() = kNullGuid;
+}
+
+// A test send: whether it was handed over is the answer, and nothing is handed over that was not written.
+
+TEST_F(FaultSweep, TestSends) {
+  const GUID target = MakeUser("Ann Operator");
+  EXPECT_EQ(AddComputer(target, "DESK"), kOk);
+  for (const std::uint32_t code : ConfiguredTypes()) {
+    SCOPED_TRACE(code);
+    const bool to_computer = code == kTypeSnmp || code == kTypeTts || code == kTypeGeneric;
+    const std::string names = to_computer ? " computers" : " console users";
+    // A name that cannot be read stays as the response has it.
+    Expect({"FindFirst responses fails: no [Unable to find record in the responses database.]",
+            "Open" + names + " fails: yes; wrote Update responses",
+            "Retrieve" + names + " fails: yes; wrote Update responses",
+            "Update responses fails: no [Unable to update record in the responses database.]"},
+           [&] {
+             CNtfyService& service = Fresh(code);
+             ALERTRESPREC response{};
+             response.responseId = alertrecords::TestResponseId(RecordTypeOf(code));
+             ResponseStore().DBAlertRecDelete(response.responseId);
+             EXPECT_EQ(ResponseStore().AddWithIdentity(response), kOk);
+             library.agentui.recorded.clear();
+             library.dbconfig.files_written = 0;
+             return [&] {
+               const bool sent = service.SendTestAlert(target, "text", "file", 1, nullptr);
+               EXPECT_EQ(library.agentui.recorded, sent ? Lines({"register", "send"}) : Lines());
+               EXPECT_EQ(library.dbconfig.files_written, sent ? 1 : 0);
+               return sent;
+             };
+           });
+  }
+}
+
+// The panel of a user's entry: it tries all that it writes, and what failed is told to whoever asks it to write.
+
+TEST_F(FaultSweep, UserPanels) {
+  const Lines new_entry = UserOperations()[0].expected;
+  const auto save = [&](std::uint32_t code, const std::string& field) {
+    return [this, code, field]() -> Operation {
+      const std::shared_ptr<CAlertPage> panel(Fresh(code).CreateAddUserPanel(0, GUID::Generate(), 0));
+      panel->Create();
+      Type(*panel, field, "1");
+      return [panel] { return panel->UpdatePanelData(); };
+    };
+  };
+  Expect(new_entry, save(kTypeSmtp, "Email A&ddress:"));
+  Expect(new_entry, save(kTypeNumeric, "&Phone number:"));
+  const std::string both = "; wrote Add users, Add links", whole = both + ", Update users";
+  Expect({"FindFirst links fails: yes" + whole, "Lock users fails: no" + kUserAdd + kReread,
+          "Add users fails: no" + kUserAdd + kReread, "Unlock users fails: yes" + whole,
+          "FindFirst links fails: yes" + whole,
+          "Add links fails: no" + kLinkAdd + "; wrote Add users, Update users",
+          "Lock users fails: no" + kReread + both, "FindFirst users fails: no" + kReread + both,
+          "Update users fails: no" + kUserUpdate + both, "Unlock users fails: yes" + whole},
+         save(kTypeMci, "Email &Address:"));
+}
+
+// Dialogs that store what a person chose; they stay open when it was not stored.
+
+/// `field`: one that must be filled in first.
+template <class Dialog>
+Operation PressOk(std::shared_ptr<Dialog> dialog, const std::string& field = "") {
+  return [dialog, field] {
+    dialog->OpenWindow();
+    if (!field.empty()) Type(*dialog, field, "1");
+    At<ui::Button>(*dialog, "OK").OnClick();
+    return dialog->Ended();
+  };
+}
+
+TEST_F(FaultSweep, ChoosingAPagingProvider) {
+  EnsureStoresOpen();
+  for (int i = 0; i < 2; ++i) AddRecord(ProviderStore());
+  // What cannot be read behind the first provider shortens the list.
+  const auto lines = [](const std::string& write, const std::string& message) -> Lines {
+    const std::string shorter = "FindNext providers fails: yes; wrote " + write + " specific";
+    return {"FindFirst providers fails: no [The service provider database is empty (has no records).]",
+            shorter,
+            shorter,
+            "Lock specific fails: no" + message,
+            write + " specific fails: no" + message,
+            "Unlock specific fails: yes; wrote " + write + " specific"};
+  };
+  Expect(lines("Update", kSpecificUpdate), [&] {
+    const auto* record = static_cast<const ALRTAPAGESERVICEREC*>(Fresh(kTypeAlpha).GetSpecificRecord());
+    return PressOk(std::make_shared<CSetPagerProviderDlg>(nullptr, record));
+  });
+  Expect(lines("Add", " [Unable to add record to service-specific database.]"),
+         [] { return PressOk(std::make_shared<CSetPagerProviderDlg>(nullptr)); });
+}
+
+TEST_F(FaultSweep, SnmpManagers) {
+  EnsureStoresOpen();
+  const std::string update = " [Unable to update a record in the SNMP Managers database.]",
+                    again = "; wrote Update managers";
+  const auto dialog = [](ALRTUSR_SNMPSERVICEREC* given) {
+    return PressOk(std::make_shared<CSnmpManagerDlg>(nullptr, given), "&Network Address:");
+  };
+  Expect({"Add managers fails: no [Unable to add a record to the SNMP Managers database.]"},
+         [&] { return dialog(nullptr); });
+  ALRTUSR_SNMPSERVICEREC manager{};
+  Expect({"Lock managers fails: no" + update, "Retrieve managers fails: yes" + again,
+          "Update managers fails: no" + update, "Unlock managers fails: yes" + again},
+         [&] {
+           manager.guid = AddRecord(SnmpManagerStore());
+           return dialog(&manager);
+         });
+  Expect({"Delete managers fails: no [Unable to delete a record in the SNMP Managers database.]"},
+         [&] { return [manager = AddRecord(SnmpManagerStore())] { return DeleteSnmpManager(manager); }; });
 }
 
 }  // namespace

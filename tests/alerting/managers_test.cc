@@ -23,9 +23,7 @@ class ManagersTest : public ServiceTest {
     EnsureStoresOpen();
     ALRT_SRV_CFGREC manager{};
     manager.managerName.Assign(name);
-    GUID id{};
-    EXPECT_EQ(ManagerStore().DBAlertRecAdd(manager, id), kOk);
-    return id;
+    return AddRecord(ManagerStore(), manager);
   }
 
   const GUID one_ = GUID::Generate(), two_ = GUID::Generate();
@@ -60,18 +58,6 @@ TEST_F(ManagersTest, ABackupManagerGetsASecondEntryForServicesWithABackupRecord)
   EXPECT_EQ(backup.managerGuid, two_);
   EXPECT_EQ(backup.backupGuid, Find(pager)->GetModemId());
   EXPECT_NE(backup.guid, Entries()[1].guid);
-}
-
-TEST_F(ManagersTest, TheCacheIsAsFreshAsItsLastLoad) {
-  const ALRTNTFYSERV& service = Find(SeedService(kTypeSmtp, "Mail"))->Common();
-  EnabledServicesCache cache;
-  for (const bool enabled : {true, false}) {
-    EnableServiceOnManager(service, one_, enabled);
-    EXPECT_EQ(cache.Contains(service.serviceId, one_), !enabled);
-    cache.Load();
-    EXPECT_EQ(cache.Contains(service.serviceId, one_), enabled);
-    EXPECT_FALSE(cache.Contains(service.serviceId, two_));
-  }
 }
 
 TEST_F(ManagersTest, FindsManagersByTheirWholeNameAndListsThem) {

@@ -93,34 +93,14 @@ void Edit(CNtfyService& service) {
 
 using ServiceRecordsTest = ServiceTest;
 
-TEST_F(ServiceRecordsTest, ASaveWritesItsFieldsAtTheirOffsetsAndNothingElse) {
-  for (const Layout& layout : kLayouts) {
-    SCOPED_TRACE(layout.code);
-    const GUID id = SeedService(layout.code, "Service", kPattern);
-    const ALRTNTFYSERV before = StoredCommon(id);
-    const std::string specific_before = StoredSpecific(layout.code, before.specificRecordId);
-    TheServices().RemoveAll();
-    CNtfyService& service = *Find(id);
-    Edit(service);
-    EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), specific_before)
-        << "edits stay in memory";
-    ASSERT_TRUE(service.SaveRecords());
-
-    EXPECT_EQ(StoredSpecific(layout.code, before.specificRecordId), Expected(layout, specific_before));
-    ALRTNTFYSERV expected = before;
-    expected.enabled = expected.virgin = 0;
-    expected.backupSpecificRecordId = service.Common().backupSpecificRecordId;
-    EXPECT_EQ(BytesOf(StoredCommon(id)), BytesOf(expected));
-    EXPECT_EQ(expected.backupSpecificRecordId.IsNull(), !service.IsModemService());
-  }
-}
-
-TEST_F(ServiceRecordsTest, ACopyCarriesTheUnsavedEditsUnderNewIdentities) {
+TEST_F(ServiceRecordsTest, ACopyAndASaveWriteTheEditsAtTheirOffsetsAndNothingElse) {
   for (const Layout& layout : kLayouts) {
     SCOPED_TRACE(layout.code);
     CNtfyService& service = NewService(layout.code, "Service", kPattern);
     const std::string source = StoredSpecific(layout.code, service.Common().specificRecordId);
     Edit(service);
+    EXPECT_EQ(StoredSpecific(layout.code, service.Common().specificRecordId), source)
+        << "edits stay in memory";
     GUID copy_id{};
     ASSERT_TRUE(service.MakeCopy("A name of more than thirty-two characters", copy_id));
 
@@ -138,6 +118,9 @@ TEST_F(ServiceRecordsTest, ACopyCarriesTheUnsavedEditsUnderNewIdentities) {
     expected.name = copy.name;
     expected.enabled = expected.virgin = 1;
     EXPECT_EQ(BytesOf(copy), BytesOf(expected));
+    ASSERT_TRUE(service.SaveRecords());
+    EXPECT_EQ(StoredSpecific(layout.code, service.Common().specificRecordId), Expected(layout, source));
+    EXPECT_EQ(StoredCommon(service.ServiceId()).enabled, 0U);
     if (!service.IsModemService()) continue;
     EXPECT_NE(copy.backupSpecificRecordId, service.Common().backupSpecificRecordId);
     EXPECT_FALSE(copy.backupSpecificRecordId.IsNull());

@@ -6,9 +6,12 @@
 #include <QLineEdit>
 #include <QTest>
 
+#include "alerting/alert_page.h"
+#include "alerting/alerting.h"
 #include "desktops/qt/qt_test_desktop.h"
 #include "platform/base/module.h"
 #include "platform/ui/edit.h"
+#include "tests/support/service_fixture.h"
 
 namespace desktops::qt {
 namespace {
@@ -70,14 +73,6 @@ TEST_F(PanelHostTest, APanelWorksInAWindowThatIsNotOfItsMaking) {
   EXPECT_EQ(panel->activations, 2);
 }
 
-TEST_F(PanelHostTest, ThePanelMayGoFirst) {
-  panel.reset();
-  EXPECT_FALSE(host->Activate());
-  QTest::mouseClick(place.get(), Qt::LeftButton);
-  Settle();
-  EXPECT_EQ(place->findChild<QLineEdit*>(), nullptr);
-}
-
 TEST_F(PanelHostTest, APageMayGoWhileItsSheetIsOpen) {
   platform::ui::PropertySheet sheet("Sheet", nullptr);
   auto first = std::make_unique<NumberPanel>();
@@ -93,24 +88,73 @@ TEST_F(PanelHostTest, APageMayGoWhileItsSheetIsOpen) {
   EXPECT_TRUE(desktop.script.Failures().empty());
 }
 
-TEST_F(PanelHostTest, ThePlaceMayGoFirst) {
-  place.reset();
-  EXPECT_TRUE(host->Activate());
-  panel->number.SetText("7");
-  host.reset();
-  EXPECT_FALSE(panel->Created());
-  EXPECT_TRUE(panel->UpdateData(true));
-  EXPECT_EQ(panel->value, 7u);
-}
-
 TEST_F(PanelHostTest, TheHostMayGoFirst) {
   host.reset();
+  EXPECT_FALSE(panel->Created());
   EXPECT_EQ(place->findChild<QLineEdit*>(), nullptr);
   panel->number.SetText("8");
   EXPECT_EQ(panel->number.Observer(), nullptr);
   const auto another = std::make_unique<QWidget>();
   host = std::make_unique<PanelHost>(*panel, *another);
   EXPECT_TRUE(panel->Created()) << "it can be shown again";
+}
+
+/// A panel of the library in a console's window, of which one or the other goes first.
+class LibraryPanelTest : public PanelHostTest {
+ protected:
+  using Update = std::uint32_t (*)(alerting::CAlertPage*);
+
+  void Show(alerting::CAlertPage* made) {
+    library_panel.reset(made);
+    place = std::make_unique<QWidget>();
+    host = std::make_unique<PanelHost>(*made, *place);
+    place->show();
+  }
+  /// Types into the one field that can be written.
+  void Enter(const char* text) {
+    QLineEdit* field = nullptr;
+    for (QLineEdit* each : place->findChildren<QLineEdit*>())
+      if (!each->isReadOnly()) field = each;
+    ASSERT_NE(field, nullptr);
+    QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClicks(field, text);
+  }
+  /// The panel writes what was typed, in a window and once that is gone.
+  void WriteAndGo(Update update, bool window_first) {
+    Enter("911");
+    EXPECT_EQ(update(library_panel.get()), 1U);
+    if (window_first) {
+      Enter("912");
+      place.reset();
+      EXPECT_TRUE(host->Activate());
+      EXPECT_EQ(update(library_panel.get()), 1U);
+    }
+    library_panel.reset();
+    EXPECT_FALSE(host->Activate());
+    Settle();
+    EXPECT_TRUE(place == nullptr || place->findChild<QLineEdit*>() == nullptr);
+    host.reset();
+  }
+
+  test_support::LibraryUnderTest alerting;
+  std::unique_ptr<alerting::CAlertPage> library_panel;
+};
+
+TEST_F(LibraryPanelTest, ItIsFilledInAndWritesWhicheverGoesFirst) {
+  const platform::GUID user = test_support::MakeUser("Ann Operator");
+  auto& service = test_support::NewService(alerting::kTypeNumeric);
+  for (const bool window_first : {false, true}) {
+    const std::string typed = window_first ? "912" : "911";
+    Show(UserGetAddServicePanel(0, 0, user, 0, nullptr));
+    WriteAndGo(UserUpdatePanelData, window_first);
+    alerting::UserEntry entry;
+    ASSERT_TRUE(test_support::Users(service).GetUserEntry(user, entry));
+    EXPECT_EQ(entry.address, typed);
+    alertstore::ALERTRESPREC response{};
+    Show(ResponseGetAddServicePanel(0, 0, &response, 0, nullptr));
+    WriteAndGo(ResponseUpdatePanelData, window_first);
+    EXPECT_EQ(response.message.View(), typed);
+  }
 }
 
 }  // namespace

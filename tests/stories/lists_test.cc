@@ -8,9 +8,7 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
 using desktops::PersonError;
-using testing::ElementsAre;
 
 class ListsDialog : public Dialog {
  public:
@@ -146,18 +144,6 @@ TEST_F(ListsTest, ArrowKeysMoveTheRowAndKeysAreTold) {
   });
   EXPECT_THAT(keys, ElementsAre(Key::kDown, Key::kEnd, Key::kDown, Key::kHome, Key::kDelete));
   EXPECT_THAT(dialog_.log, ElementsAre("user", "user", "user")) << "one for each new selection";
-}
-
-TEST_F(ListsTest, ADisabledListCannotBeTouched) {
-  dialog_.users.Enable(false);
-  dialog_.ports.Enable(false);
-  dialog_.names.Show(false);
-  Run([](Person& p) {
-    EXPECT_THROW(p.ClickRow("&Users:", 0), PersonError);
-    EXPECT_THROW(p.Choose("&Port:", "Com1"), PersonError);
-    EXPECT_THROW(p.DoubleClickItem("&Names:", "beta"), PersonError);
-  });
-  EXPECT_TRUE(dialog_.log.empty());
 }
 
 }  // namespace
