@@ -427,17 +427,9 @@ Operation PressOk(std::shared_ptr<Dialog> dialog, const std::string& field = "")
   };
 }
 
-template <class Store>
-GUID AddEmptyTo(Store& store) {
-  typename Store::RecordType record{};
-  GUID id{};
-  EXPECT_EQ(store.DBAlertRecAdd(record, id), kOk);
-  return id;
-}
-
 TEST_F(FaultSweep, ChoosingAPagingProvider) {
   EnsureStoresOpen();
-  for (int i = 0; i < 2; ++i) AddEmptyTo(ProviderStore());
+  for (int i = 0; i < 2; ++i) AddRecord(ProviderStore());
   // What cannot be read behind the first provider shortens the list.
   const auto lines = [](const std::string& write, const std::string& message) -> Lines {
     const std::string shorter = "FindNext providers fails: yes; wrote " + write + " specific";
@@ -469,11 +461,11 @@ TEST_F(FaultSweep, SnmpManagers) {
   Expect({"Lock managers fails: no" + update, "Retrieve managers fails: yes" + again,
           "Update managers fails: no" + update, "Unlock managers fails: yes" + again},
          [&] {
-           manager.guid = AddEmptyTo(SnmpManagerStore());
+           manager.guid = AddRecord(SnmpManagerStore());
            return dialog(&manager);
          });
   Expect({"Delete managers fails: no [Unable to delete a record in the SNMP Managers database.]"},
-         [&] { return [manager = AddEmptyTo(SnmpManagerStore())] { return DeleteSnmpManager(manager); }; });
+         [&] { return [manager = AddRecord(SnmpManagerStore())] { return DeleteSnmpManager(manager); }; });
 }
 
 }  // namespace

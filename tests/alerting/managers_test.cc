@@ -23,9 +23,7 @@ class ManagersTest : public ServiceTest {
     EnsureStoresOpen();
     ALRT_SRV_CFGREC manager{};
     manager.managerName.Assign(name);
-    GUID id{};
-    EXPECT_EQ(ManagerStore().DBAlertRecAdd(manager, id), kOk);
-    return id;
+    return AddRecord(ManagerStore(), manager);
   }
 
   const GUID one_ = GUID::Generate(), two_ = GUID::Generate();

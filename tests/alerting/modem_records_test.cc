@@ -53,9 +53,7 @@ class ModemRecordsTest : public ServiceTest {
     modem.dialPrefix.Assign("ATDT");
     modem.alphaInitString.Assign("ATM0");
     modem.capabilities = 5;
-    GUID id{};
-    EXPECT_EQ(ModemStore().DBAlertRecAdd(modem, id), kOk);
-    return id;
+    return AddRecord(ModemStore(), modem);
   }
   static ModemSettings Settings(const GUID& modem) { return {modem, 9600, 7, 1, 2, "dial.scr"}; }
 };

@@ -53,11 +53,8 @@ class DbConfigTest : public StoreTest {
   }
 
   template <class Store>
-  static GUID AddTo(typename Store::RecordType record) {
-    Opened<Store> store;
-    GUID id{};
-    EXPECT_EQ(store.DBAlertRecAdd(record, id), kOk);
-    return id;
+  static GUID AddTo(const typename Store::RecordType& record) {
+    return test_support::AddRecord(Opened<Store>(), record);
   }
 
   template <class User>

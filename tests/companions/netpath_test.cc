@@ -99,11 +99,9 @@ TEST_F(NetPathTest, APathThroughADirectoryTreeNamesTheTree) {
 
 TEST_F(NetPathTest, NoPathNeedsConvertingWhereEveryManagerIsThisMachine) {
   const auto add = [](const std::string& name) {
-    Opened<alertstore::CAlert_SRV_CFGDB> managers;
     alertstore::ALRT_SRV_CFGREC record{};
     record.managerName.Assign(name);
-    platform::GUID id{};
-    EXPECT_EQ(managers.DBAlertRecAdd(record, id), alertstore::kOk);
+    test_support::AddRecord(Opened<alertstore::CAlert_SRV_CFGDB>(), record);
   };
   add(platform::HostName());
   EXPECT_EQ(netpath_->Operation13(0) & 0xFFFF, netpath::kNoConversion);

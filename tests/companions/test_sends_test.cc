@@ -82,16 +82,13 @@ class TestSendsTest : public StoreTest {
   }
 
   void Enable(std::string_view manager, const platform::GUID& service, bool backup = false) {
-    Opened<alertstore::CAlert_SRV_CFGDB> managers;
-    Opened<alertstore::CAlertSERV_INST_NTFY_SERVDB> entries;
     alertstore::ALRT_SRV_CFGREC record{};
     record.managerName.Assign(manager);
     alertstore::ALRTSERV_INST_NTFY_SERVREC entry{};
-    platform::GUID id{};
-    ASSERT_EQ(managers.DBAlertRecAdd(record, entry.managerGuid), alertstore::kOk);
+    entry.managerGuid = test_support::AddRecord(Opened<alertstore::CAlert_SRV_CFGDB>(), record);
     entry.serviceGuid = service;
     entry.isBackup = backup ? 1 : 0;
-    ASSERT_EQ(entries.DBAlertRecAdd(entry, id), alertstore::kOk);
+    test_support::AddRecord(Opened<alertstore::CAlertSERV_INST_NTFY_SERVDB>(), entry);
   }
 
   void Send() {

@@ -79,9 +79,7 @@ TEST_F(AlertctlSiteTest, AServiceWithoutItsRecordIsNotCopiedAndDisturbsNoOther) 
 TEST_F(AlertctlSiteTest, ManagersOfOneNameAreToldApartByIdentity) {
   Opened<CAlert_SRV_CFGDB> managers;
   ALRT_SRV_CFGREC twin = managers.First();
-  GUID id{};
-  twin.guid = platform::kNullGuid;
-  ASSERT_EQ(managers.DBAlertRecAdd(twin, id), kOk);
+  const GUID id = test_support::AddRecord(managers, twin);
   EXPECT_THAT(Run({"service", "enable", "Internet Mail"}), Fails(4, "name it by its identity"));
   EXPECT_THAT(Run({"service", "enable", "Internet Mail", "--manager", id.ToString()}),
               Fails(4, "disable it there first"));

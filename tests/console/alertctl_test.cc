@@ -144,9 +144,8 @@ TEST_F(AlertctlSiteTest, NoPasswordOrCommunityNameIsEverPrinted) {
   record.password.Assign("s3cr3t!");
   ASSERT_EQ(store.DBAlertRecUpdate(record), kOk);
   ALRTUSR_SNMPSERVICEREC manager{};
-  GUID id{};
   manager.community.Assign("s3cr3t!!");
-  ASSERT_EQ(Opened<CAlertUSR_SNMPDB>().DBAlertRecAdd(manager, id), kOk);
+  test_support::AddRecord(Opened<CAlertUSR_SNMPDB>(), manager);
   EXPECT_THAT(ConfigFile(), AllOf(HasSubstr("\"s3cr3t!\""), HasSubstr("\"s3cr3t!!\"")))
       << "the alert managers need it";
 
@@ -178,8 +177,7 @@ TEST_F(AlertctlSiteTest, AServiceIsCopiedDisabledEnabledAndDeleted) {
 
   ALRT_SRV_CFGREC other{};
   other.managerName.Assign("server-2");
-  GUID id{};
-  ASSERT_EQ(Opened<CAlert_SRV_CFGDB>().DBAlertRecAdd(other, id), kOk);
+  test_support::AddRecord(Opened<CAlert_SRV_CFGDB>(), other);
   EXPECT_EQ(Run({"service", "enable", "Night mail", "--manager", "server-2"}).code, 4) << "enabled elsewhere";
   RunJson({"service", "disable", "Night mail"});
   EXPECT_EQ(RunJson({"service", "enable", "Night mail", "--manager", "server-2"})["alertManagers"],

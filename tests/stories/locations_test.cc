@@ -14,7 +14,7 @@
 namespace stories {
 namespace {
 
-using alertstore::ALRTMODEM_LOCATION;
+using namespace alerting;  // NOLINT
 using desktops::Person;
 using platform::ui::Answer;
 using test_support::StoreOp;
@@ -39,19 +39,19 @@ constexpr char kDelete[] =
 
 class LocationsTest : public StoryTest {
  protected:
-  void SetUp() override { alerting::EnsureStoresOpen(); }
+  void SetUp() override { EnsureStoresOpen(); }
   void Add(const char* name) {
     platform::GUID id{};
-    ASSERT_TRUE(alerting::CreateLocation(name, id));
+    ASSERT_TRUE(CreateLocation(name, id));
   }
   static ALRTMODEM_LOCATION Stored(const char* name) {
     ALRTMODEM_LOCATION location{};
-    EXPECT_TRUE(alerting::ReadLocation(name, location)) << name;
+    EXPECT_TRUE(ReadLocation(name, location)) << name;
     return location;
   }
   int Run(desktops::Script::Story story) {
     Script().ExpectWindow(kDialog, std::move(story));
-    return alerting::CDialingPropertiesDlg(nullptr).RunModal();
+    return CDialingPropertiesDlg(nullptr).RunModal();
   }
 
   test_support::LibraryUnderTest library_;
@@ -73,7 +73,7 @@ TEST_F(LocationsTest, EveryFieldIsStoredAtItsOffset) {
               p.ChooseOption(kUses, "&Pulse dialing");
               p.Press("OK");
             }),
-            platform::ui::kOk);
+            ui::kOk);
   const ALRTMODEM_LOCATION stored = Stored("Office");
   EXPECT_EQ(stored.areaCode.View(), "80123456789");
   EXPECT_EQ(stored.localAccess.View(), "9,");
@@ -116,7 +116,7 @@ TEST_F(LocationsTest, ChoosingAnotherLocationStoresTheOneBefore) {
     p.Press("Cancel");
   });
   Script().ExpectMessage("Unable to update the modem location database record.");
-  alerting::CDialingPropertiesDlg(nullptr, "Office").RunModal();
+  CDialingPropertiesDlg(nullptr, "Office").RunModal();
   EXPECT_EQ(Stored("Home").localAccess.View(), "");
 }
 
@@ -154,7 +154,7 @@ TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
   Script().ExpectMessage("Unable to delete record from modem locations database.");
   Script().ExpectMessage(kDelete, Answer::kYes);
   Script().ExpectMessage(kNoLocations);
-  alerting::CDialingPropertiesDlg(nullptr).RunModal();
+  CDialingPropertiesDlg(nullptr).RunModal();
 }
 
 TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
@@ -165,7 +165,7 @@ TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
     p.Press("Cancel");
   });
   Script().ExpectMessage(kNoLocations);
-  EXPECT_EQ(alerting::CDialingPropertiesDlg(nullptr).RunModal(), platform::ui::kCancel);
+  EXPECT_EQ(CDialingPropertiesDlg(nullptr).RunModal(), ui::kCancel);
 
   for (const char* name : {"Gone", "Home", "Office"}) Add(name);
   Script().ExpectWindow(kDialog, [&](Person& p) {
@@ -174,7 +174,7 @@ TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
     EXPECT_EQ(p.Items(kFrom).size(), 3u);
     library_.engine->FailNone();
     p.Type(kOutside, "9");
-    ASSERT_TRUE(alerting::DeleteLocation("Gone"));
+    ASSERT_TRUE(DeleteLocation("Gone"));
     p.Press("OK");
     p.Press("&Remove");
     EXPECT_EQ(p.Text(kOutside), "9");
@@ -196,7 +196,7 @@ TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
     Script().ExpectMessage(kDelete, Answer::kYes);
     Script().ExpectMessage(kNoLocations);
   }
-  alerting::CDialingPropertiesDlg(nullptr).RunModal();
+  CDialingPropertiesDlg(nullptr).RunModal();
 }
 
 TEST_F(LocationsTest, NamesHoldSixtyFourCharactersAndCountriesKeepTheirNumbers) {
@@ -206,19 +206,19 @@ TEST_F(LocationsTest, NamesHoldSixtyFourCharactersAndCountriesKeepTheirNumbers) 
       p.Type("&Name:", typed);
       p.Press("OK");
     });
-    alerting::CLocationNameDlg dialog(nullptr);
-    ASSERT_EQ(dialog.RunModal(), platform::ui::kOk);
+    CLocationNameDlg dialog(nullptr);
+    ASSERT_EQ(dialog.RunModal(), ui::kOk);
     if (length > 64)
       Script().ExpectMessage("You cannot create a location with the same name as an existing location.");
     platform::GUID id{}, found{};
-    EXPECT_EQ(alerting::CreateLocation(dialog.Name(), id), length <= 64);
-    EXPECT_EQ(alerting::FindLocationByName(typed, found), length <= 64);
+    EXPECT_EQ(CreateLocation(dialog.Name(), id), length <= 64);
+    EXPECT_EQ(FindLocationByName(typed, found), length <= 64);
     EXPECT_EQ(found, id);
   }
   std::set<std::string> names;
   int without_area_codes = 0;
-  for (const alerting::Country* country = alerting::CountryTable.data(); country->id != 0; ++country) {
-    names.insert(alerting::Text(static_cast<int>(country->id)));
+  for (const Country* country = CountryTable.data(); country->id != 0; ++country) {
+    names.insert(Text(static_cast<int>(country->id)));
     without_area_codes += country->has_area_codes == 0;
   }
   EXPECT_EQ(names.size(), 241u);
@@ -234,37 +234,36 @@ TEST_F(LocationsTest, RulesAreCopiedBackOnOkAlone) {
       p.Type("&International calls:", "");
       p.Press(button);
     });
-    alerting::CDialingRulesDlg(nullptr, same, distance, abroad).RunModal();
+    CDialingRulesDlg(nullptr, same, distance, abroad).RunModal();
     EXPECT_STREQ(same, button == std::string("OK") ? "#9!@" : "1");
   }
   EXPECT_STREQ(abroad, "");
 }
 
 TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
-  const platform::GUID service = test_support::SeedService(alerting::kTypeAlpha, "Pager", 0xA5);
-  alerting::CNtfyService& pager = *test_support::Find(service);
+  const platform::GUID service = test_support::SeedService(kTypeAlpha, "Pager", 0xA5);
+  CNtfyService& pager = *test_support::Find(service);
   const auto run = [&](desktops::Script::Story story) {
     Script().ExpectWindow("Set Alphanumeric Pager Service Provider", std::move(story));
-    return alerting::RunSetPagerProvider(pager, nullptr);
+    return RunSetPagerProvider(pager, nullptr);
   };
   Script().ExpectMessage("The service provider database is empty (has no records).");
   EXPECT_EQ(run([](Person& p) {
               p.Press("OK");
               p.Press("Cancel");
             }),
-            platform::ui::kCancel);
+            ui::kCancel);
 
-  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
+  ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
   provider.company.Assign("Example Paging");
   provider.regionB.Assign("North");
   provider.phone.Assign("555-0123");
   provider.baudRate = 2400;
   provider.maxTextLength = 240;
-  platform::GUID id{};
-  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
-  EXPECT_EQ(run([](Person& p) { p.Press("OK"); }), platform::ui::kOk);
-  std::string expected = test_support::StoredSpecific(alerting::kTypeAlpha,
-                                                      test_support::StoredCommon(service).specificRecordId);
+  test_support::AddRecord(ProviderStore(), provider);
+  EXPECT_EQ(run([](Person& p) { p.Press("OK"); }), ui::kOk);
+  std::string expected =
+      test_support::StoredSpecific(kTypeAlpha, test_support::StoredCommon(service).specificRecordId);
   const std::string stored = expected;
   test_support::PutText(expected, 16, 2049, " North");
   test_support::PutU32(expected, 2322, 240);
@@ -275,11 +274,9 @@ TEST_F(LocationsTest, AChosenProviderReplacesTheServicesTexts) {
   EXPECT_EQ(stored, expected);
   EXPECT_EQ(stored[4100], '\xA5') << "what the provider says nothing of stays";
 
-  provider.guid = {};
-  for (int i = 0; i < 1000; ++i)
-    ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
-  EXPECT_TRUE(alerting::LoadProviderTable());
-  EXPECT_EQ(alerting::TheProviders().count, 1000u) << "of 1,001";
+  for (int i = 0; i < 1000; ++i) test_support::AddRecord(ProviderStore(), provider);
+  EXPECT_TRUE(LoadProviderTable());
+  EXPECT_EQ(TheProviders().count, 1000u) << "of 1,001";
 }
 
 }  // namespace

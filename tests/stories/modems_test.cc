@@ -11,9 +11,8 @@
 namespace stories {
 namespace {
 
-using alertstore::ALRTSERV_MODEM;
+using namespace alerting;  // NOLINT
 using desktops::Person;
-using platform::GUID;
 using platform::ui::Answer;
 using test_support::StoreOp;
 using testing::ElementsAre;
@@ -33,12 +32,12 @@ constexpr char kPage[] = "Modems";
 class ModemsTest : public StoryTest {
  protected:
   void SetUp() override {
-    alerting::EnsureStoresOpen();
-    ASSERT_TRUE(alerting::CreateLocation("Office", office_));
-    alertstore::ALRT_SRV_CFGREC manager{};
+    EnsureStoresOpen();
+    ASSERT_TRUE(CreateLocation("Office", office_));
+    ALRT_SRV_CFGREC manager{};
     manager.managerName.Assign("ALPHA");
-    ASSERT_EQ(alerting::ManagerStore().DBAlertRecAdd(manager, alpha_), alertstore::kOk);
-    type_ = Add(alerting::ModemTypeStore(), "Courier", [](ALRTSERV_MODEM& type) {
+    alpha_ = test_support::AddRecord(ManagerStore(), manager);
+    type_ = Add(ModemTypeStore(), "Courier", [](ALRTSERV_MODEM& type) {
       type.initString.Assign("AT&F1");
       type.hangupString.Assign("ATH0");
       type.dialPrefix.Assign("ATDT");
@@ -46,7 +45,7 @@ class ModemsTest : public StoryTest {
       type.comPort = 2;
       type.capabilities = 3;
     });
-    modem_ = Add(alerting::ModemStore(), "Modem", [&](ALRTSERV_MODEM& modem) {
+    modem_ = Add(ModemStore(), "Modem", [&](ALRTSERV_MODEM& modem) {
       modem.baudRate = 1200;
       modem.comPort = 1;
       modem.managerGuid = alpha_;
@@ -60,20 +59,18 @@ class ModemsTest : public StoryTest {
   template <class Store, class Fill>
   static GUID Add(Store& store, const char* name, Fill fill) {
     ALRTSERV_MODEM record{};
-    GUID id{};
     fill(record);
     record.name.Assign(name);
-    EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk) << name;
-    return id;
+    return test_support::AddRecord(store, record);
   }
-  static std::string Bytes(alerting::ModemStoreOf store, const GUID& id) {
+  static std::string Bytes(ModemStoreOf store, const GUID& id) {
     ALRTSERV_MODEM record{};
-    EXPECT_TRUE(alerting::FindModemOrFirst(store, id, record));
+    EXPECT_TRUE(FindModemOrFirst(store, id, record));
     return {reinterpret_cast<const char*>(&record), sizeof record};
   }
   int Edit(desktops::Script::Story story) {
     Script().ExpectWindow(kModem, std::move(story));
-    return alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+    return CModemPropertiesDlg(nullptr, modem_).RunModal();
   }
 
   test_support::LibraryUnderTest library_;
@@ -81,7 +78,7 @@ class ModemsTest : public StoryTest {
 };
 
 TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
-  std::string expected = Bytes(alerting::ModemStore, modem_);
+  std::string expected = Bytes(ModemStore, modem_);
   Script().ExpectWindow(kModem, [](Person& p) {
     EXPECT_EQ(p.Text("&Type:"), "Courier");
     EXPECT_EQ(p.Text("I am dialing &from"), "Office");
@@ -106,7 +103,7 @@ TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
     p.Type("&Alpha pager initialization string:", std::string(300, 'A'));
     p.Press("OK");
   });
-  EXPECT_EQ(alerting::CModemPropertiesDlg(nullptr, platform::kNullGuid).RunModal(), platform::ui::kOk);
+  EXPECT_EQ(CModemPropertiesDlg(nullptr, platform::kNullGuid).RunModal(), ui::kOk);
   test_support::PutText(expected, 162, 2049, "in the rack");
   test_support::PutU32(expected, 2211, 1);
   test_support::PutText(expected, 2215, 256, "ATZ");
@@ -118,7 +115,7 @@ TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
   test_support::PutU32(expected, 2619, 4);
   test_support::PutU32(expected, 2623, 1 + 4);
   test_support::PutText(expected, 2627, 36, "+++");
-  EXPECT_EQ(Bytes(alerting::ModemStore, modem_), expected);
+  EXPECT_EQ(Bytes(ModemStore, modem_), expected);
 }
 
 TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
@@ -134,9 +131,9 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
     p.Press("Cancel");
   });
   ALRTSERV_MODEM stored{};
-  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, modem_, stored));
+  ASSERT_TRUE(FindModemOrFirst(ModemStore, modem_, stored));
   EXPECT_EQ(stored.capabilities, 16u) << "what was applied stays after Cancel";
-  const GUID other = Add(alerting::ModemTypeStore(), "Zoom", [](ALRTSERV_MODEM& type) {
+  const GUID other = Add(ModemTypeStore(), "Zoom", [](ALRTSERV_MODEM& type) {
     type.initString.Assign("ATX4");
     type.baudRate = 300;
   });
@@ -144,7 +141,7 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
     p.Choose("&Type:", "Zoom");
     p.Press("OK");
   });
-  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, modem_, stored));
+  ASSERT_TRUE(FindModemOrFirst(ModemStore, modem_, stored));
   EXPECT_EQ(stored.name.View(), "Zoom");
   EXPECT_EQ(stored.initString.View(), "ATX4");
   EXPECT_EQ(stored.modemTypeGuid, other);
@@ -152,7 +149,7 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
 }
 
 TEST_F(ModemsTest, ADirectPortShowsNoOtherUseWhateverItsRecordSays) {
-  modem_ = Add(alerting::ModemStore(), "Port", [](ALRTSERV_MODEM& modem) { modem.capabilities = 16 + 1; });
+  modem_ = Add(ModemStore(), "Port", [](ALRTSERV_MODEM& modem) { modem.capabilities = 16 + 1; });
   Edit([](Person& p) {
     EXPECT_TRUE(p.IsChecked("Direct Po&rt I/O"));
     EXPECT_FALSE(p.IsChecked("&Numeric Pager"));
@@ -162,10 +159,10 @@ TEST_F(ModemsTest, ADirectPortShowsNoOtherUseWhateverItsRecordSays) {
 }
 
 TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
-  const std::string before = Bytes(alerting::ModemStore, modem_);
-  ASSERT_TRUE(alerting::DeleteLocation("Office"));
+  const std::string before = Bytes(ModemStore, modem_);
+  ASSERT_TRUE(DeleteLocation("Office"));
   GUID home{};
-  ASSERT_TRUE(alerting::CreateLocation("Home", home));
+  ASSERT_TRUE(CreateLocation("Home", home));
   Script().ExpectWindow(kModem, [&](Person& p) {
     p.Type("&Comment:", "kept");
     p.Press("OK");
@@ -175,7 +172,7 @@ TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
     library_.engine->FailAll("ModemDB.dat", StoreOp::kLock);
     p.Press("&Apply");
     library_.engine->FailNone();
-    ASSERT_EQ(alerting::ManagerStore().DBAlertRecDelete(alpha_), alertstore::kOk);
+    ASSERT_EQ(ManagerStore().DBAlertRecDelete(alpha_), kOk);
     p.Press("OK");
     EXPECT_EQ(p.Text("&Comment:"), "kept");
     EXPECT_TRUE(p.IsEnabled("&Apply"));
@@ -186,27 +183,27 @@ TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
   for (int i = 0; i < 2; ++i) Script().ExpectMessage("Unable to update the modem database record.");
   Script().ExpectMessage(kNoManagers);
   Script().ExpectMessage("You must select an alert manager for the modem before you update the record.");
-  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
-  EXPECT_EQ(Bytes(alerting::ModemStore, modem_), before);
+  CModemPropertiesDlg(nullptr, modem_).RunModal();
+  EXPECT_EQ(Bytes(ModemStore, modem_), before);
 }
 
 TEST_F(ModemsTest, WhatIsMissingIsToldInTheOrderOfTheFields) {
-  const GUID zoom = Add(alerting::ModemTypeStore(), "Zoom", [](auto&) {});
+  const GUID zoom = Add(ModemTypeStore(), "Zoom", [](auto&) {});
   Script().ExpectWindow(kModem, [&](Person& p) {
-    ASSERT_TRUE(alerting::DeleteModemType(zoom));
+    ASSERT_TRUE(DeleteModemType(zoom));
     p.Choose("&Type:", "Zoom");
     EXPECT_TRUE(p.IsEnabled("&Apply"));
     p.Press("Cancel");
   });
   Script().ExpectMessage(kNoModems);
-  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+  CModemPropertiesDlg(nullptr, modem_).RunModal();
 
-  ASSERT_TRUE(alerting::DeleteModemType(type_));
-  ASSERT_TRUE(alerting::DeleteLocation("Office"));
-  ASSERT_EQ(alerting::ManagerStore().DBAlertRecDelete(alpha_), alertstore::kOk);
+  ASSERT_TRUE(DeleteModemType(type_));
+  ASSERT_TRUE(DeleteLocation("Office"));
+  ASSERT_EQ(ManagerStore().DBAlertRecDelete(alpha_), kOk);
   for (const char* message : {kNoLocations, kNoManagers, kNoModems}) Script().ExpectMessage(message);
   Edit([](Person& p) { p.Press("OK"); });
-  ASSERT_TRUE(alerting::DeleteModem(modem_));
+  ASSERT_TRUE(DeleteModem(modem_));
   Script().ExpectMessage(kNoModems);
   Edit([](Person& p) {
     EXPECT_THAT(p.Items("&Port:"), IsEmpty());
@@ -215,7 +212,7 @@ TEST_F(ModemsTest, WhatIsMissingIsToldInTheOrderOfTheFields) {
 }
 
 TEST_F(ModemsTest, ATypeIsSavedWithoutAnAlertManagerAndThenNamesNone) {
-  const GUID left = Add(alerting::ModemTypeStore(), "Left", [](ALRTSERV_MODEM& type) {
+  const GUID left = Add(ModemTypeStore(), "Left", [](ALRTSERV_MODEM& type) {
     type.managerGuid = GUID::Generate();
     type.managerName.Assign("GONE");
   });
@@ -224,9 +221,9 @@ TEST_F(ModemsTest, ATypeIsSavedWithoutAnAlertManagerAndThenNamesNone) {
     p.Press("OK");
   });
   Script().ExpectMessage(kNoManagers);
-  EXPECT_EQ(alerting::CModemTypePropertiesDlg(nullptr, left).RunModal(), platform::ui::kOk);
+  EXPECT_EQ(CModemTypePropertiesDlg(nullptr, left).RunModal(), ui::kOk);
   ALRTSERV_MODEM stored{};
-  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemTypeStore, left, stored));
+  ASSERT_TRUE(FindModemOrFirst(ModemTypeStore, left, stored));
   EXPECT_EQ(stored.enabled, 1u);
   EXPECT_EQ(stored.managerName.View(), "");
   EXPECT_TRUE(stored.managerGuid.IsNull());
@@ -251,11 +248,11 @@ TEST_F(ModemsTest, LocationsAreMadeAndEditedFromAModem) {
     p.Choose("I am &dialing from:", "Office");
     p.Press("OK");
   });
-  alerting::CModemPropertiesDlg(nullptr, modem_).RunModal();
+  CModemPropertiesDlg(nullptr, modem_).RunModal();
 }
 
 TEST_F(ModemsTest, ANewModemTakesAProposedNameAndItsTypesSettings) {
-  for (const char* name : {"Courier", "Courier (2)"}) Add(alerting::ModemStore(), name, [](auto&) {});
+  for (const char* name : {"Courier", "Courier (2)"}) Add(ModemStore(), name, [](auto&) {});
   Script().ExpectWindow("Create new modem", [&](Person& p) {
     EXPECT_FALSE(p.IsEnabled("OK"));
     p.Choose("&Select modem type for the new modem:", "Courier");
@@ -275,10 +272,10 @@ TEST_F(ModemsTest, ANewModemTakesAProposedNameAndItsTypesSettings) {
       "modem to one "
       "that is not in use.");
   Script().ExpectMessage("Unable to add record to the modem database.");
-  alerting::CNewModemDlg dialog(nullptr);
-  ASSERT_EQ(dialog.RunModal(), platform::ui::kOk);
+  CNewModemDlg dialog(nullptr);
+  ASSERT_EQ(dialog.RunModal(), ui::kOk);
   ALRTSERV_MODEM made{};
-  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemStore, dialog.Modem(), made));
+  ASSERT_TRUE(FindModemOrFirst(ModemStore, dialog.Modem(), made));
   EXPECT_EQ(made.name.View(), "Mine!");
   EXPECT_EQ(made.modemTypeGuid, type_);
   EXPECT_EQ(made.dialPrefix.View(), "ATDT");
@@ -327,9 +324,9 @@ TEST_F(ModemsTest, TypesAreMadeChangedAndRemovedAtOnce) {
   Script().ExpectMessage(kRemove, Answer::kYes);
   Script().ExpectMessage("Unable to delete record in the modem database.");
   Script().ExpectMessage(kRemove, Answer::kYes);
-  alerting::CManageModemTypesDlg(nullptr).RunModal();
+  CManageModemTypesDlg(nullptr).RunModal();
   ALRTSERV_MODEM mine{};
-  ASSERT_TRUE(alerting::FindModemOrFirst(alerting::ModemTypeStore, platform::kNullGuid, mine));
+  ASSERT_TRUE(FindModemOrFirst(ModemTypeStore, platform::kNullGuid, mine));
   EXPECT_EQ(mine.name.View(), "Mine");
   EXPECT_EQ(mine.capabilities, 16u);
   EXPECT_EQ(mine.managerName.View(), "ALPHA");
@@ -337,9 +334,9 @@ TEST_F(ModemsTest, TypesAreMadeChangedAndRemovedAtOnce) {
 
 // Another console changes the types between two fills of lists: what a list shows is what its buttons act on.
 TEST_F(ModemsTest, RemoveTakesTheTypeThatIsShown) {
-  for (const char* name : {"Second", "Third"}) Add(alerting::ModemTypeStore(), name, [](auto&) {});
+  for (const char* name : {"Second", "Third"}) Add(ModemTypeStore(), name, [](auto&) {});
   Script().ExpectWindow("Manage Modem Types", [&](Person& p) {
-    ASSERT_TRUE(alerting::DeleteModemType(type_));
+    ASSERT_TRUE(DeleteModemType(type_));
     p.Press("&New...");
     p.Choose("&Modem Types:", "Second");
     p.Press("&Remove");
@@ -356,39 +353,38 @@ TEST_F(ModemsTest, RemoveTakesTheTypeThatIsShown) {
       "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
       "later.",
       Answer::kYes);
-  alerting::CManageModemTypesDlg(nullptr).RunModal();
+  CManageModemTypesDlg(nullptr).RunModal();
 }
 
 TEST_F(ModemsTest, ListsEndAtTheirRoom) {
-  platform::ui::Dialog dialog(nullptr, "Lists");
-  platform::ui::ListView list(dialog, 1, "List");
-  platform::ui::ComboBox types(dialog, 2, "Types", true), rates(dialog, 3, "Rates");
-  for (int i = 0; i < 256; ++i) Add(alerting::ModemStore(), ("M" + std::to_string(i)).c_str(), [](auto&) {});
-  alerting::FillModemListCtrl(list, modem_);
+  ui::Dialog dialog(nullptr, "Lists");
+  ui::ListView list(dialog, 1, "List");
+  ui::ComboBox types(dialog, 2, "Types", true), rates(dialog, 3, "Rates");
+  for (int i = 0; i < 256; ++i) Add(ModemStore(), ("M" + std::to_string(i)).c_str(), [](auto&) {});
+  FillModemListCtrl(list, modem_);
   EXPECT_EQ(list.RowCount(), 256);
   EXPECT_EQ(list.SelectedRow(), 0);
-  alerting::FillBaudRateCombo(rates, 9600, 19200);
+  FillBaudRateCombo(rates, 9600, 19200);
   EXPECT_EQ(rates.Text(), "9600");
   EXPECT_EQ(rates.Count(), 9);
-  for (int i = 0; i < 5000; ++i)
-    Add(alerting::ModemTypeStore(), ("T" + std::to_string(i)).c_str(), [](auto&) {});
-  alerting::FillModemTypeCombo(types, "courier");
+  for (int i = 0; i < 5000; ++i) Add(ModemTypeStore(), ("T" + std::to_string(i)).c_str(), [](auto&) {});
+  FillModemTypeCombo(types, "courier");
   EXPECT_EQ(types.Count(), 5000) << "of 5,001";
   EXPECT_EQ(types.Current(), -1) << "names are compared byte by byte";
 }
 
 TEST_F(ModemsTest, WithoutTypesNothingIsMadeAndNamesAreCutForTheirNumber) {
   const std::string longest(64, 't');
-  Add(alerting::ModemStore(), longest.c_str(), [](auto&) {});
-  EXPECT_EQ(alerting::ProposeModemName(longest), std::string(60, 't') + " (2)");
+  Add(ModemStore(), longest.c_str(), [](auto&) {});
+  EXPECT_EQ(ProposeModemName(longest), std::string(60, 't') + " (2)");
   GUID id{};
   library_.engine->FailAll("QModemDB.dat", StoreOp::kAdd);
   Script().ExpectMessage(kTypeFailed);
-  EXPECT_FALSE(alerting::CreateModemType("Mine", type_, id));
+  EXPECT_FALSE(CreateModemType("Mine", type_, id));
   library_.engine->FailNone();
-  ASSERT_TRUE(alerting::DeleteModemType(type_));
+  ASSERT_TRUE(DeleteModemType(type_));
   Script().ExpectMessage(kTypeFailed);
-  EXPECT_FALSE(alerting::CreateModemType("Mine", type_, id));
+  EXPECT_FALSE(CreateModemType("Mine", type_, id));
   EXPECT_TRUE(id.IsNull());
   Script().ExpectMessage(kNoModems);
   Script().ExpectWindow("Create new modem", [](Person& p) {
@@ -400,14 +396,14 @@ TEST_F(ModemsTest, WithoutTypesNothingIsMadeAndNamesAreCutForTheirNumber) {
     p.Press("Cancel");
   });
   Script().ExpectMessage(kNoModems);
-  EXPECT_EQ(alerting::CNewModemDlg(nullptr).RunModal(), platform::ui::kCancel);
+  EXPECT_EQ(CNewModemDlg(nullptr).RunModal(), ui::kCancel);
 }
 
 class ModemPageTest : public ModemsTest {
  protected:
   void SetUp() override {
     ModemsTest::SetUp();
-    service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager");
+    service_ = test_support::SeedService(kTypeNumeric, "Pager");
   }
   /// Opens the sheet at its Modems page.
   template <class Sheet>
@@ -416,11 +412,11 @@ class ModemPageTest : public ModemsTest {
       p.SelectTab(kPage);
       story(p);
     });
-    alerting::RunSheet<Sheet>(*test_support::Find(service_), nullptr);
+    RunSheet<Sheet>(*test_support::Find(service_), nullptr);
   }
   std::string Stored(bool backup) {
     const auto common = test_support::StoredCommon(service_);
-    return test_support::StoredSpecific(alerting::kTypeNumeric,
+    return test_support::StoredSpecific(kTypeNumeric,
                                         backup ? common.backupSpecificRecordId : common.specificRecordId);
   }
 
@@ -428,7 +424,7 @@ class ModemPageTest : public ModemsTest {
 };
 
 TEST_F(ModemPageTest, TheChosenModemAndLineGoIntoTheRecord) {
-  service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager", 0xA5);
+  service_ = test_support::SeedService(kTypeNumeric, "Pager", 0xA5);
   test_support::Find(service_);  // makes the backup record
   std::string expected = Stored(false);
   Script().ExpectWindow("Pager", [](Person& p) {
@@ -448,7 +444,7 @@ TEST_F(ModemPageTest, TheChosenModemAndLineGoIntoTheRecord) {
     p.Press("OK");
   });
   Script().ExpectMessage("You must select a modem before you update the record.");
-  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+  RunSheet<CSheetServiceNum>(*test_support::Find(service_), nullptr);
   test_support::PutU32(expected, 2065, 12);
   test_support::PutText(expected, 2069, 65, "Modem");
   expected.replace(2134, 16, reinterpret_cast<const char*>(&modem_), 16);
@@ -464,10 +460,10 @@ TEST_F(ModemPageTest, TheChosenModemAndLineGoIntoTheRecord) {
 }
 
 TEST_F(ModemPageTest, TheBackupLinkIsTheOtherRecord) {
-  service_ = test_support::SeedService(alerting::kTypeNumeric, "Pager", 0xA5);
+  service_ = test_support::SeedService(kTypeNumeric, "Pager", 0xA5);
   test_support::Find(service_);
   const std::string primary = Stored(false);
-  Open<alerting::CSheetServiceModem>([](Person& p) {
+  Open<CSheetServiceModem>([](Person& p) {
     p.ClickRow(kPage, 0);
     p.Press("Apply");
     EXPECT_FALSE(p.IsEnabled("Apply"));
@@ -482,8 +478,8 @@ TEST_F(ModemPageTest, TheBackupLinkIsTheOtherRecord) {
 }
 
 TEST_F(ModemPageTest, APageWithoutAServiceSavesNothing) {
-  alerting::CPropPgModem page;
-  platform::ui::PropertySheet sheet("Pager", nullptr);
+  CPropPgModem page;
+  ui::PropertySheet sheet("Pager", nullptr);
   sheet.AddPage(page);
   Script().ExpectWindow("Pager", [&](Person& p) {
     p.ClickRow(kPage, 0);
@@ -501,7 +497,7 @@ TEST_F(ModemPageTest, ModemsAreMadeChangedAndRemovedAtOnceWhateverBecomesOfTheSh
     EXPECT_EQ(p.Rows(kPage).size(), 2u);
     p.DoubleClickRow(kPage, 0);
     p.ClickRow(kPage, 1);
-    p.Press(platform::ui::Key::kDelete);
+    p.Press(ui::Key::kDelete);
     p.ClickRow(kPage, 1);
     p.Press("&Delete");
     EXPECT_EQ(p.Rows(kPage).size(), 1u);
@@ -519,23 +515,23 @@ TEST_F(ModemPageTest, ModemsAreMadeChangedAndRemovedAtOnceWhateverBecomesOfTheSh
   Script().ExpectMessage(kDelete, Answer::kNo);
   Script().ExpectMessage(kDelete, Answer::kYes);
   Script().ExpectWindow("Manage Modem Types", [](Person& p) { p.Press("Close"); });
-  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+  RunSheet<CSheetServiceNum>(*test_support::Find(service_), nullptr);
 }
 
 TEST_F(ModemPageTest, AModemThatIsGoneIsToldAndPagersHaveNoScript) {
   Script().ExpectWindow("Pager", [&](Person& p) {
     p.SelectTab(kPage);
     p.ClickRow(kPage, 0);
-    ASSERT_TRUE(alerting::DeleteModem(modem_));
+    ASSERT_TRUE(DeleteModem(modem_));
     p.Press("OK");
     p.Press("Cancel");
   });
   Script().ExpectMessage(
       "Unable to find the corresponding  record in the modem database.  Try selecting a different modem.");
-  alerting::RunSheet<alerting::CSheetServiceNum>(*test_support::Find(service_), nullptr);
+  RunSheet<CSheetServiceNum>(*test_support::Find(service_), nullptr);
 
-  service_ = test_support::SeedService(alerting::kTypeAlpha, "Pager");
-  alerting::TheServices().RemoveAll();
+  service_ = test_support::SeedService(kTypeAlpha, "Pager");
+  TheServices().RemoveAll();
   Script().ExpectWindow("Pager", [](Person& p) {
     p.Type("Te&xt Length:", "80");
     p.SelectTab(kPage);
@@ -543,7 +539,7 @@ TEST_F(ModemPageTest, AModemThatIsGoneIsToldAndPagersHaveNoScript) {
     p.Press("Cancel");
   });
   Script().ExpectMessage(kNoModems);
-  alerting::RunSheet<alerting::CSheetServiceAlpha>(*test_support::Find(service_), nullptr);
+  RunSheet<CSheetServiceAlpha>(*test_support::Find(service_), nullptr);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 namespace stories {
 namespace {
 
+using namespace alerting;  // NOLINT
 using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::kCancel;
@@ -61,7 +62,6 @@ Entries Body(std::size_t offset, std::size_t width, const char* label = kHalfBod
 }
 
 const std::vector<SheetRow>& Rows() {
-  using namespace alerting;  // NOLINT
   static const std::vector<SheetRow> rows = {
       {kTypeMhs, MhsLogin(), Mail(375, 257), 1661, {"..."}},
       {kTypeSnmp, {}, Body(2130, 1025), 3416, {"A&dd...", "&SNMP Destinations:"}},
@@ -119,9 +119,9 @@ std::string WithEntries(std::string bytes, const SheetRow& row) {
 }
 
 TEST_F(ServiceSheetsTest, WhatIsEnteredOnEveryPageReachesTheStoreAndTheConfigurationFile) {
-  alerting::SetCompanions({});  // the real components
+  SetCompanions({});  // the real components
   for (const SheetRow& row : Rows()) {
-    SCOPED_TRACE(alerting::GetServiceTypeName(row.code));
+    SCOPED_TRACE(GetServiceTypeName(row.code));
     Seed(row.code);
     const std::string expected = WithEntries(Bytes(), row);
     const int result = Open([&](Person& p) {
@@ -147,8 +147,7 @@ TEST_F(ServiceSheetsTest, WhatIsEnteredOnEveryPageReachesTheStoreAndTheConfigura
 Labels TabsOf(const SheetRow& row) {
   Labels tabs{"General"};
   if (!row.message.empty()) tabs.push_back(kMessageTab);
-  constexpr std::uint32_t kDialing[] = {alerting::kTypeMci, alerting::kTypeCompuServe, alerting::kTypeAlpha,
-                                        alerting::kTypeNumeric, alerting::kTypeGeneric};
+  constexpr std::uint32_t kDialing[] = {kTypeMci, kTypeCompuServe, kTypeAlpha, kTypeNumeric, kTypeGeneric};
   if (std::find(std::begin(kDialing), std::end(kDialing), row.code) != std::end(kDialing))
     tabs.push_back("Modems");
   return tabs;
@@ -156,7 +155,7 @@ Labels TabsOf(const SheetRow& row) {
 
 TEST_F(ServiceSheetsTest, CancelWritesNothingAndEveryControlHasItsHelp) {
   for (const SheetRow& row : Rows()) {
-    SCOPED_TRACE(alerting::GetServiceTypeName(row.code));
+    SCOPED_TRACE(GetServiceTypeName(row.code));
     Seed(row.code);
     const int result = Open([&](Person& p) {
       EXPECT_EQ(p.Tabs(), TabsOf(row));
@@ -182,7 +181,7 @@ TEST_F(ServiceSheetsTest, CancelWritesNothingAndEveryControlHasItsHelp) {
 
 TEST_F(ServiceSheetsTest, AFailedUpdateIsToldAndKeepsTheSheetOpen) {
   for (const SheetRow& row : Rows()) {
-    SCOPED_TRACE(alerting::GetServiceTypeName(row.code));
+    SCOPED_TRACE(GetServiceTypeName(row.code));
     Seed(row.code);
     Expect([&](Person& p) {
       p.Check(kEnable, false);
@@ -211,7 +210,7 @@ TEST_F(ServiceSheetsTest, AFailedUpdateIsToldAndKeepsTheSheetOpen) {
 }
 
 TEST_F(ServiceSheetsTest, PasswordsThatDifferAreNotSaved) {
-  for (const std::uint32_t code : {alerting::kTypeMci, alerting::kTypeCompuServe, alerting::kTypeVim}) {
+  for (const std::uint32_t code : {kTypeMci, kTypeCompuServe, kTypeVim}) {
     Seed(code);
     Expect([&](Person& p) {
       p.Type(kPassword, "secret");
@@ -234,8 +233,8 @@ TEST_F(ServiceSheetsTest, PasswordsThatDifferAreNotSaved) {
 }
 
 TEST_F(ServiceSheetsTest, ASingleBlankIsShownAndSavedAsNothing) {
-  Seed(alerting::kTypeMci);
-  Store<alertstore::ALRTMCISERVICEREC>([](auto& record) {
+  Seed(kTypeMci);
+  Store<ALRTMCISERVICEREC>([](auto& record) {
     record.phoneNumber.Assign(" ");
     record.password.Assign(" ");
   });
@@ -260,14 +259,14 @@ TEST_F(ServiceSheetsTest, TextsThatNoPageShowsAreEmptiedWithASave) {
     });
     return Bytes().find("old") == std::string::npos;
   };
-  Seed(alerting::kTypeWave);
-  Store<alertstore::ALRTWAVESERVICEREC>([](auto& record) {
+  Seed(kTypeWave);
+  Store<ALRTWAVESERVICEREC>([](auto& record) {
     record.text1.Assign("old");
     record.text2.Assign("old");
   });
   EXPECT_TRUE(save());
-  Seed(alerting::kTypeTts);
-  Store<alertstore::ALRTTTSSERVICEREC>([](auto& record) { record.text.Assign("old"); });
+  Seed(kTypeTts);
+  Store<ALRTTTSSERVICEREC>([](auto& record) { record.text.Assign("old"); });
   EXPECT_TRUE(save());
 }
 
@@ -278,7 +277,7 @@ constexpr char kNoUniversalPath[] =
 constexpr char kUseAnyway[] = "\nDo you wish to use the non-UNC path anyway?";
 
 TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
-  Seed(alerting::kTypeMhs);
+  Seed(kTypeMhs);
   Library().netpath.operation13 = 0;
   Library().netpath.resolved = "/net/post";
   const std::string deep = Library().Directory() + "/" + std::string(200, 'd') + "/" + std::string(60, 'd');
@@ -309,7 +308,7 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
 }
 
 TEST_F(ServiceSheetsTest, APostOfficeWithoutUniversalFormIsStoredOnlyWhenThePersonAgrees) {
-  Seed(alerting::kTypeMhs);
+  Seed(kTypeMhs);
   Library().netpath.operation13 = 0;
   Expect([&](Person& p) {
     p.Type(kDirectory, "/mail/post");
@@ -326,7 +325,7 @@ TEST_F(ServiceSheetsTest, APostOfficeWithoutUniversalFormIsStoredOnlyWhenThePers
 }
 
 TEST_F(ServiceSheetsTest, SystemsWithoutAFolderDialogHaveNoButtonForIt) {
-  Seed(alerting::kTypeMhs);
+  Seed(kTypeMhs);
   Desk().SetSystemMajorVersion(3);
   Open([](Person& p) {
     EXPECT_FALSE(p.IsVisible("..."));
@@ -335,7 +334,6 @@ TEST_F(ServiceSheetsTest, SystemsWithoutAFolderDialogHaveNoButtonForIt) {
 }
 
 TEST_F(ServiceSheetsTest, FieldsHoldAsMuchAsTheirRecords) {
-  using namespace alerting;  // NOLINT
   const struct {
     std::uint32_t code;
     const char* label;
@@ -375,9 +373,9 @@ TEST_F(ServiceSheetsTest, PhoneAndPagerFieldsRefuseOtherCharactersWithABeep) {
   const struct {
     std::uint32_t code;
     const char *tab, *label, *typed, *taken;
-  } rows[] = {{alerting::kTypeAlpha, "General", "P&hone:", "55a5*-(0)", "555-(0)"},
-              {alerting::kTypeCompuServe, "General", kPhone, "5 5,x5", "55,5"},
-              {alerting::kTypeNumeric, kMessageTab, kNumericBody, "9-1*1a#", "91*1#"}};
+  } rows[] = {{kTypeAlpha, "General", "P&hone:", "55a5*-(0)", "555-(0)"},
+              {kTypeCompuServe, "General", kPhone, "5 5,x5", "55,5"},
+              {kTypeNumeric, kMessageTab, kNumericBody, "9-1*1a#", "91*1#"}};
   for (const auto& row : rows) {
     Seed(row.code);
     Open([&](Person& p) {
@@ -401,20 +399,9 @@ struct NumberRow {
 };
 
 TEST_F(ServiceSheetsTest, NumbersEndAtTheirBoundsAndAreRefusedBeyondThemOnce) {
-  const NumberRow rows[] = {{alerting::kTypeNumeric,
-                             kDelay,
-                             "0",
-                             "60",
-                             "0",
-                             {"61", ""},
-                             "Please enter an integer between 0 and 60."},
-                            {alerting::kTypeAlpha,
-                             kLength,
-                             "1",
-                             "255",
-                             "255",
-                             {"0", "256"},
-                             "Please enter an integer between 1 and 255."}};
+  const NumberRow rows[] = {
+      {kTypeNumeric, kDelay, "0", "60", "0", {"61", ""}, "Please enter an integer between 0 and 60."},
+      {kTypeAlpha, kLength, "1", "255", "255", {"0", "256"}, "Please enter an integer between 1 and 255."}};
   for (const NumberRow& row : rows) {
     SCOPED_TRACE(row.label);
     Seed(row.code);
@@ -444,14 +431,13 @@ TEST_F(ServiceSheetsTest, NumbersEndAtTheirBoundsAndAreRefusedBeyondThemOnce) {
 }
 
 TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
-  Seed(alerting::kTypeAlpha);
-  alertstore::ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
+  Seed(kTypeAlpha);
+  ALRTAPAGE_SERVICE_PROVIDER_REC provider{};
   provider.company.Assign("Chosen");
   provider.maxTextLength = 40;
   provider.baudRate = 300;
   provider.dataBits = 7;
-  platform::GUID id{};
-  ASSERT_EQ(alerting::ProviderStore().DBAlertRecAdd(provider, id), alertstore::kOk);
+  test_support::AddRecord(ProviderStore(), provider);
   Expect([](Person& p) {
     p.SelectTab("Modems");
     p.SelectTab("General");
@@ -482,11 +468,11 @@ TEST_F(ServiceSheetsTest, AChosenProviderIsShownAtOnceAndStaysAfterCancel) {
 }
 
 TEST_F(ServiceSheetsTest, ABodyAloneIsShownCutAndSavedWithoutSubjectAndWithThePriorityItHad) {
-  Seed(alerting::kTypeSnmp);
-  Store<alertstore::ALRTSNMPSERVICEREC>([](auto& record) {
+  Seed(kTypeSnmp);
+  Store<ALRTSNMPSERVICEREC>([](auto& record) {
     record.defaultBody.Assign(std::string(300, 'b'));
     record.defaultSubject.Assign("%s");
-    alerting::WriteKeywordSlots({5}, record.subjectKeywords);
+    WriteKeywordSlots({5}, record.subjectKeywords);
     record.defaultPriority = 2;
   });
   std::string expected = WithEntries(Bytes(), Rows()[1]);
@@ -504,8 +490,8 @@ TEST_F(ServiceSheetsTest, MciBodiesAreBrokenIntoLinesAndCompuServeHasItsNote) {
   constexpr char kNote[] =
       "Note: Compuserve subjects have a maximum length of 40 characters.  If you use fields they may be "
       "truncated.";
-  for (const std::uint32_t code : {alerting::kTypeMci, alerting::kTypeCompuServe}) {
-    const bool mci = code == alerting::kTypeMci;
+  for (const std::uint32_t code : {kTypeMci, kTypeCompuServe}) {
+    const bool mci = code == kTypeMci;
     Seed(code);
     Open([&](Person& p) {
       p.SelectTab(kMessageTab);

@@ -6,7 +6,7 @@
 namespace stories {
 namespace {
 
-using alertstore::ALRTSMTPSERVICEREC;
+using namespace alerting;  // NOLINT
 using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::kCancel;
@@ -26,14 +26,14 @@ constexpr char kReadFailed[] = "Unable to read the record from the notification 
 class SmtpSheetTest : public ServiceSheetsTest {
  protected:
   void SetUp() override {
-    Seed(alerting::kTypeSmtp, 0xA5);
+    Seed(kTypeSmtp, 0xA5);
     Store<ALRTSMTPSERVICEREC>([](auto& record) {
       record.smtpServer.Assign("old.example.org");
       record.defaultBody.Assign("Alert for %s at %s");
       record.defaultSubject.Assign("Alert");
       record.defaultPriority = 1;
-      alerting::WriteKeywordSlots({1, 5}, record.bodyKeywords);
-      alerting::WriteKeywordSlots({}, record.subjectKeywords);
+      WriteKeywordSlots({1, 5}, record.bodyKeywords);
+      WriteKeywordSlots({}, record.subjectKeywords);
     });
     Engine().Forget();
   }
@@ -81,7 +81,7 @@ TEST_F(SmtpSheetTest, AServiceThatCannotBeReadAgainIsShownAsItWas) {
 }
 
 TEST_F(SmtpSheetTest, AServiceThatAnotherConsoleDeletedCannotBeSaved) {
-  ASSERT_EQ(alerting::ServiceStore().DBAlertRecDelete(ServiceId()), alertstore::kOk);
+  ASSERT_EQ(ServiceStore().DBAlertRecDelete(ServiceId()), alertstore::kOk);
   Engine().Forget();
   Script().ExpectMessage(kReadFailed);
   Expect([](Person& p) {
@@ -182,7 +182,7 @@ TEST_F(SmtpSheetTest, SubjectPriorityAndLinesOfTheDefaultMessageAreStored) {
   Open();
   EXPECT_EQ(Stored().defaultPriority, 0u);
   EXPECT_EQ(Stored().defaultSubject.View(), "On %s: %ld ");
-  EXPECT_EQ(alerting::ReadKeywordSlots(Stored().subjectKeywords), (alerting::KeywordIds{4, 11}));
+  EXPECT_EQ(ReadKeywordSlots(Stored().subjectKeywords), (KeywordIds{4, 11}));
   EXPECT_EQ(Stored().defaultBody.View(), "100%s\r\nof <Tim");
   EXPECT_EQ(Stored().bodyKeywords[0].id, 0u);
 }
@@ -218,7 +218,7 @@ TEST_F(SmtpSheetTest, AKeywordIsSelectedAndDeletedAsOneByKeyboardAndMouse) {
     EXPECT_EQ(p.Text(kBody), "Alert for <User Name> at ");
     p.Press("Apply");
     EXPECT_EQ(Stored().defaultBody.View(), "Alert for %s at ");
-    EXPECT_EQ(alerting::ReadKeywordSlots(Stored().bodyKeywords), (alerting::KeywordIds{1}));
+    EXPECT_EQ(ReadKeywordSlots(Stored().bodyKeywords), (KeywordIds{1}));
     p.SelectText(kBody, 5, 16);
     EXPECT_EQ(p.Selection(kBody), std::pair(5ul, 21ul)) << "a drag into a keyword takes it whole";
     p.ClickInText(kBody, 12);

@@ -10,8 +10,7 @@
 namespace stories {
 namespace {
 
-using alerting::CSnmpManagerDlg;
-using alertstore::ALRTUSR_SNMPSERVICEREC;
+using namespace alerting;  // NOLINT
 using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::Key;
@@ -34,11 +33,11 @@ constexpr char kSure[] =
 
 class SnmpManagerTest : public StoryTest {
  protected:
-  static auto& Store() { return alerting::UserStore<alertstore::CAlertUSR_SNMPDB>(); }
-  void SetUp() override { alerting::EnsureStoresOpen(); }
+  static auto& Store() { return UserStore<CAlertUSR_SNMPDB>(); }
+  void SetUp() override { EnsureStoresOpen(); }
 
   std::vector<ALRTUSR_SNMPSERVICEREC> Stored() {
-    return test_support::RecordsOf(Store(), alertstore::kSnmpManagerByIdentity);
+    return test_support::RecordsOf(Store(), kSnmpManagerByIdentity);
   }
   ALRTUSR_SNMPSERVICEREC AddManager(const std::string& address) {
     ALRTUSR_SNMPSERVICEREC manager{};
@@ -47,7 +46,7 @@ class SnmpManagerTest : public StoryTest {
     manager.address.Assign(address);
     manager.computer.Assign("OLD");
     manager.community.Assign("");
-    EXPECT_EQ(Store().DBAlertRecAdd(manager, id), alertstore::kOk);
+    EXPECT_EQ(Store().DBAlertRecAdd(manager, id), kOk);
     return manager;
   }
   int Run(const char* caption, ALRTUSR_SNMPSERVICEREC* manager, desktops::Script::Story story) {
@@ -70,7 +69,7 @@ void ExpectRowButtons(Person& p, bool enabled) {
 }
 
 TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
-  ASSERT_EQ(alertstore::AddComputer(platform::GUID::Generate(), "OPERATIONS"), alertstore::kOk);
+  ASSERT_EQ(AddComputer(platform::GUID::Generate(), "OPERATIONS"), kOk);
   library_.agentui.chosen_address = std::string(39, 'a');
   Script().ExpectWindow(kAdd, [this](Person& p) {
     EXPECT_FALSE(p.IsEnabled("OK"));
@@ -92,7 +91,7 @@ TEST_F(SnmpManagerTest, AnAddedManagerIsStoredAtItsOffsets) {
   Script().ExpectWindow("Choose Computer", [](Person& p) { p.Press("OK"); });
   Script().ExpectMessage("Please enter no more than 28 characters.");
   CSnmpManagerDlg dialog(nullptr, nullptr);
-  EXPECT_EQ(dialog.RunModal(), platform::ui::kOk);
+  EXPECT_EQ(dialog.RunModal(), ui::kOk);
   ASSERT_EQ(Stored().size(), 1u);
   const std::string bytes(reinterpret_cast<const char*>(&Stored()[0]), sizeof(ALRTUSR_SNMPSERVICEREC));
   std::string expected(2309, '\0');
@@ -117,7 +116,7 @@ TEST_F(SnmpManagerTest, AChangedManagerKeepsTheBytesThatAreNotShown) {
                   p.Type(kComment, "");
                   p.Press("OK");
                 }),
-            platform::ui::kOk);
+            ui::kOk);
   const ALRTUSR_SNMPSERVICEREC stored = Stored()[0];
   EXPECT_EQ(stored.computer.View(), "NEW");
   EXPECT_EQ(stored.enabled, 0xA5A5A5A5u);
@@ -128,20 +127,20 @@ TEST_F(SnmpManagerTest, AChangedManagerKeepsTheBytesThatAreNotShown) {
                   p.Type(kMachine, "CANCELLED");
                   p.Press("Cancel");
                 }),
-            platform::ui::kCancel);
+            ui::kCancel);
   EXPECT_EQ(Stored()[0].computer.View(), "NEW");
 }
 
 TEST_F(SnmpManagerTest, TheListShowsTheFirstHundred) {
-  platform::ui::Dialog dialog(nullptr, "List");
-  platform::ui::ListView list(dialog, 1, "List");
-  EXPECT_FALSE(alerting::FillSnmpManagerList(list, true));
+  ui::Dialog dialog(nullptr, "List");
+  ui::ListView list(dialog, 1, "List");
+  EXPECT_FALSE(FillSnmpManagerList(list, true));
   for (int i = 0; i < 101; ++i) AddManager("192.0.2." + std::to_string(i));
-  EXPECT_FALSE(alerting::FillSnmpManagerList(list, false)) << "as last loaded";
-  EXPECT_TRUE(alerting::FillSnmpManagerList(list, true));
+  EXPECT_FALSE(FillSnmpManagerList(list, false)) << "as last loaded";
+  EXPECT_TRUE(FillSnmpManagerList(list, true));
   EXPECT_EQ(list.RowCount(), 100);
   EXPECT_EQ(list.Cell(99, 0), "192.0.2.99");
-  EXPECT_EQ(alerting::SnmpManagerOfRow(list, 100), nullptr);
+  EXPECT_EQ(SnmpManagerOfRow(list, 100), nullptr);
 }
 
 TEST_F(SnmpManagerTest, ManagersAreAddedChangedAndRemovedWhateverBecomesOfTheSheet) {
@@ -189,8 +188,8 @@ TEST_F(SnmpManagerTest, ManagersAreAddedChangedAndRemovedWhateverBecomesOfTheShe
   for (const Answer answer : {Answer::kNo, Answer::kYes}) Script().ExpectMessage(kSure, answer);
   Script().ExpectMessage("Unable to delete a record in the SNMP Managers database.");
   Script().ExpectMessage(kSure, Answer::kYes);
-  test_support::SeedService(alerting::kTypeSnmp, kSheet);
-  EXPECT_EQ(DomainServicePropertySheet(nullptr, 0), platform::ui::kCancel);
+  test_support::SeedService(kTypeSnmp, kSheet);
+  EXPECT_EQ(DomainServicePropertySheet(nullptr, 0), ui::kCancel);
   EXPECT_THAT(Addresses(), ElementsAre("192.0.2.2"));
 }
 

@@ -19,6 +19,14 @@ auto RecordsOf(Store& store, std::uint32_t selector, const platform::GUID* key =
   return records;
 }
 
+/// Adds a record to an open store and answers its identity; a failure fails the test.
+template <class Store>
+platform::GUID AddRecord(Store&& store, typename std::remove_reference_t<Store>::RecordType record = {}) {
+  platform::GUID id{};
+  EXPECT_EQ(store.DBAlertRecAdd(record, id), alertstore::kOk);
+  return id;
+}
+
 /// A store that is open; a failure fails the test.
 template <class Store>
 struct Opened : Store {

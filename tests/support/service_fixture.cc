@@ -81,9 +81,7 @@ GUID SeedCommon(std::uint32_t record_type, std::string_view name) {
   common.recordType = record_type;
   common.enabled = 1;
   common.name.Assign(name);
-  GUID id{};
-  EXPECT_EQ(alerting::ServiceStore().DBAlertRecAdd(common, id), kOk);
-  return id;
+  return AddRecord(alerting::ServiceStore(), common);
 }
 
 GUID SeedService(std::uint32_t code, std::string_view name, std::uint8_t pattern) {
@@ -95,12 +93,9 @@ GUID SeedService(std::uint32_t code, std::string_view name, std::uint8_t pattern
   common.enabled = 1;
   common.virgin = 1;
   common.name.Assign(name);
-  GUID id{}, specific_id{};
   CAlertNtfyServDB& store = alerting::ServiceStore();
-  if (code == alerting::kTypeProgram) {
-    EXPECT_EQ(store.DBAlertRecAdd(common, id), kOk);
-    return id;
-  }
+  if (code == alerting::kTypeProgram) return AddRecord(store, common);
+  GUID id{}, specific_id{};
   WithRecordOf(code, [&]<class Record>() {
     Record record;
     std::memset(&record, pattern, sizeof(record));
