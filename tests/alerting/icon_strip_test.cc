@@ -2,7 +2,6 @@
 #include "alerting/ui/icon_strip.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "desktops/scripted/scripted_desktop.h"
 #include "platform/ui/dialog.h"

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "desktops/scripted/scripted_desktop.h"
 #include "tests/support/service_fixture.h"

@@ -3,7 +3,6 @@
 
 #include <gmock/gmock.h>
 
-#include <cstring>
 #include <fstream>
 
 #include "companions/agentui/recent_lists.h"

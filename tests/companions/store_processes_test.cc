@@ -7,7 +7,6 @@
 
 #include <chrono>
 #include <functional>
-#include <string>
 
 #include "companions/alertstore/file_lock.h"
 #include "tests/companions/store_fixture.h"

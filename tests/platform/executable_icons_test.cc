@@ -2,7 +2,6 @@
 #include "platform/ui/executable_icons.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "platform/ui/icon_files.h"
 #include "tests/support/icon_bytes.h"

@@ -2,7 +2,6 @@
 #include "platform/ui/image.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "tests/support/icon_bytes.h"
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 // What a script must notice: a story that passes is worth as much as those that fail here.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <stdexcept>
 #include <thread>

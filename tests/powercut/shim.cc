@@ -7,7 +7,6 @@
 #include <unistd.h>
 
 #include <cstdarg>
-#include <cstdio>
 #include <memory>
 
 #include "tests/powercut/disk.h"

@@ -8,7 +8,6 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
 using desktops::PersonError;
 
 class ControlsDialog : public Dialog {
@@ -189,8 +188,8 @@ TEST_F(ControlsTest, TextsAndNotesAreSeen) {
     EXPECT_TRUE(p.IsVisible("Another note"));
     dialog_.note.Show(false);
     EXPECT_FALSE(p.IsVisible("Another note"));
-    EXPECT_THAT(p.Screen(), testing::HasSubstr("&First:"));
-    EXPECT_THAT(p.Screen(), testing::Not(testing::HasSubstr("Another note")));
+    EXPECT_THAT(p.Screen(), HasSubstr("&First:"));
+    EXPECT_THAT(p.Screen(), Not(HasSubstr("Another note")));
   });
 }
 

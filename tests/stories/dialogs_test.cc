@@ -9,8 +9,6 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
-using testing::ElementsAre;
 
 /// Every kind of exchanged value.
 class ExchangeDialog : public Dialog {

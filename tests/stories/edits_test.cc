@@ -12,7 +12,6 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
 using test_support::Marked;
 
 /// Refuses "x" when it is typed and leaves it out of what is pasted.

@@ -15,7 +15,6 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using Scroll = ui::Canvas::Scroll;
 
 constexpr char kIcon[] = "Select Icon", kWave[] = "Select WAV file";

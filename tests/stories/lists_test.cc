@@ -8,9 +8,7 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
 using desktops::PersonError;
-using testing::ElementsAre;
 
 class ListsDialog : public Dialog {
  public:

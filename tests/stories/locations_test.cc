@@ -15,10 +15,8 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using platform::ui::Answer;
 using test_support::StoreOp;
-using testing::ElementsAre;
 
 constexpr char kDialog[] = "Dialing Properties";
 constexpr char kFrom[] = "I am &dialing from:";
@@ -111,7 +109,7 @@ TEST_F(LocationsTest, ChoosingAnotherLocationStoresTheOneBefore) {
     p.Choose(kFrom, "Office");
     EXPECT_EQ(p.Text(kFrom), "Home") << "whose settings still stand in the fields";
     EXPECT_EQ(p.Text(kOutside), "0");
-    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+    EXPECT_THAT(library_.engine->HeldLocks(), IsEmpty());
     library_.engine->FailNone();
     p.Press("Cancel");
   });
@@ -138,7 +136,7 @@ TEST_F(LocationsTest, LocationsAreAddedAndRemovedAtOnce) {
     p.Press("&Remove");
     library_.engine->FailNone();
     p.Press("&Remove");
-    EXPECT_THAT(p.Items(kFrom), testing::IsEmpty());
+    EXPECT_THAT(p.Items(kFrom), IsEmpty());
     p.Press("Cancel");
   });
   for (const char* name : {"Home", "Office"}) {
@@ -183,13 +181,10 @@ TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
     p.Press("&Remove");
     p.Choose(kFrom, "Office");
     EXPECT_EQ(p.Text(kOutside), "") << "what was entered for the removed one does not stand in the way";
-    EXPECT_THAT(library_.engine->HeldLocks(), testing::IsEmpty());
+    EXPECT_THAT(library_.engine->HeldLocks(), IsEmpty());
     p.Press("Cancel");
   });
-  Script().ExpectWindow("Enter Name of Location", [](Person& p) {
-    p.Type("&Name:", "Refused");
-    p.Press("OK");
-  });
+  Script().ExpectWindow("Enter Name of Location", Fill({{"&Name:", "Refused"}}));
   Script().ExpectMessage("Unable to add record to modem locations database.");
   Script().ExpectMessage(kNoLocations);
   for (int i = 0; i < 2; ++i) {
@@ -202,10 +197,7 @@ TEST_F(LocationsTest, WhatTheStoreRefusesIsToldAndTheInputStays) {
 TEST_F(LocationsTest, NamesHoldSixtyFourCharactersAndCountriesKeepTheirNumbers) {
   for (const std::size_t length : {63u, 64u, 65u}) {
     const std::string typed(length, 'n');
-    Script().ExpectWindow("Enter Name of Location", [&](Person& p) {
-      p.Type("&Name:", typed);
-      p.Press("OK");
-    });
+    Script().ExpectWindow("Enter Name of Location", Fill({{"&Name:", typed}}));
     CLocationNameDlg dialog(nullptr);
     ASSERT_EQ(dialog.RunModal(), ui::kOk);
     if (length > 64)

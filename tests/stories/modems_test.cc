@@ -12,11 +12,8 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using platform::ui::Answer;
 using test_support::StoreOp;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char kModem[] = "Modem Properties";
 constexpr char kNoModems[] =
@@ -94,15 +91,13 @@ TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
     EXPECT_FALSE(p.IsVisible("&Voice"));
     p.Press("OK");
   });
-  Script().ExpectWindow("Modem Advanced Properties", [](Person& p) {
-    p.Type("&Initialization string:", "ATZ");
-    p.Type("&Hangup string:", "+++ATH");
-    p.Type("Dialing &prefix string:", "ATDP");
-    p.Type("Dialing &suffix string:", ";");
-    p.Type("&Escape string:", "+++");
-    p.Type("&Alpha pager initialization string:", std::string(300, 'A'));
-    p.Press("OK");
-  });
+  Script().ExpectWindow("Modem Advanced Properties",
+                        Fill({{"&Initialization string:", "ATZ"},
+                              {"&Hangup string:", "+++ATH"},
+                              {"Dialing &prefix string:", "ATDP"},
+                              {"Dialing &suffix string:", ";"},
+                              {"&Escape string:", "+++"},
+                              {"&Alpha pager initialization string:", std::string(300, 'A')}}));
   EXPECT_EQ(CModemPropertiesDlg(nullptr, platform::kNullGuid).RunModal(), ui::kOk);
   test_support::PutText(expected, 162, 2049, "in the rack");
   test_support::PutU32(expected, 2211, 1);
@@ -238,10 +233,7 @@ TEST_F(ModemsTest, LocationsAreMadeAndEditedFromAModem) {
     EXPECT_TRUE(p.IsEnabled("&Apply"));
     p.Press("Cancel");
   });
-  Script().ExpectWindow("Enter Name of Location", [](Person& p) {
-    p.Type("&Name:", "Home");
-    p.Press("OK");
-  });
+  Script().ExpectWindow("Enter Name of Location", Fill({{"&Name:", "Home"}}));
   Script().ExpectWindow("Dialing Properties", [](Person& p) { p.Press("OK"); });
   Script().ExpectWindow("Dialing Properties", [](Person& p) {
     EXPECT_EQ(p.Text("I am &dialing from:"), "Home");

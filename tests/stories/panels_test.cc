@@ -10,9 +10,6 @@ namespace {
 
 using namespace alerting;  // NOLINT
 using alertstore::ALERTRESPREC;
-using desktops::Person;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char kWizard[] = "New";
 constexpr std::uint32_t kBackAndFinish = ui::kWizardBack | ui::kWizardFinish;

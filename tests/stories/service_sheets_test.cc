@@ -10,15 +10,10 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::kCancel;
 using platform::ui::kOk;
 using test_support::StoreOp;
-using testing::AllOf;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 
 /// What a person enters in a field and where that is stored. Width 0: as a number.
 struct Entry {

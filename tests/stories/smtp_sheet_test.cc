@@ -7,14 +7,11 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::kCancel;
 using platform::ui::Key;
 using platform::ui::kOk;
 using test_support::StoreOp;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr char kServer[] = "&SMTP Server:";
 constexpr char kPriority[] = "P&riority:";
@@ -109,10 +106,7 @@ TEST_F(SmtpSheetTest, TheSheetShowsWhatIsStoredWhenItOpens) {
 
 TEST_F(SmtpSheetTest, AConfigurationFileThatCannotBeWrittenIsReportedAfterTheSheetClosed) {
   Library().dbconfig.result = 1;
-  Expect([](Person& p) {
-    p.Type(kServer, "mail.example.org");
-    p.Press("OK");
-  });
+  Expect(Fill({{kServer, "mail.example.org"}}));
   Script().ExpectMessage("Error writing to alert manager configuration file.");
   EXPECT_EQ(Open(), kOk);
   EXPECT_EQ(StoredServer(), "mail.example.org");

@@ -11,11 +11,9 @@ namespace stories {
 namespace {
 
 using namespace alerting;  // NOLINT
-using desktops::Person;
 using platform::ui::Answer;
 using platform::ui::Key;
 using test_support::StoreOp;
-using testing::ElementsAre;
 
 constexpr char kAdd[] = "Add SNMP Manager";
 constexpr char kProperties[] = "SNMP Manager Properties";
@@ -172,15 +170,8 @@ TEST_F(SnmpManagerTest, ManagersAreAddedChangedAndRemovedWhateverBecomesOfTheShe
     EXPECT_FALSE(p.IsEnabled("Apply")) << "the sheet has nothing to save";
     p.Press("Cancel");
   });
-  Script().ExpectWindow(kAdd, [](Person& p) {
-    p.Type(kAddress, "192.0.2.2");
-    p.Press("OK");
-  });
-  Script().ExpectWindow(kProperties, [](Person& p) {
-    p.Type(kCommunity, "public");
-    p.Type(kMachine, "OPS");
-    p.Press("OK");
-  });
+  Script().ExpectWindow(kAdd, Fill({{kAddress, "192.0.2.2"}}));
+  Script().ExpectWindow(kProperties, Fill({{kCommunity, "public"}, {kMachine, "OPS"}}));
   Script().ExpectWindow(kProperties, [](Person& p) {
     EXPECT_EQ(p.Text(kCommunity), "public") << "the record as it was stored";
     p.Press("Cancel");
@@ -204,7 +195,7 @@ TEST_F(SnmpManagerTest, AComputerThatIsNotChosenLeavesTheMachineNameAndUnreadabl
   });
   for (const char* text : {"No computer is known to this site yet.", "The computers cannot be read"})
     Script().ExpectWindow("Choose Computer", [text](Person& p) {
-      EXPECT_THAT(p.Screen(), testing::HasSubstr(text));
+      EXPECT_THAT(p.Screen(), HasSubstr(text));
       EXPECT_FALSE(p.IsEnabled("OK"));
       p.Press("Cancel");
     });

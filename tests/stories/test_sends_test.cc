@@ -12,8 +12,6 @@ namespace {
 
 using namespace alerting;  // NOLINT
 using alertstore::ALERTRESPREC;
-using desktops::Person;
-using testing::ElementsAre;
 
 constexpr char kRecipient[] = "&Alert Recipient:";
 constexpr char kSiteTest[] = "Site Alerting Service Test:  Site service";
@@ -111,10 +109,7 @@ TEST_F(TestSendsTest, TheWaitSaysWhatItIsForAndEnds) {
 TEST_F(TestSendsTest, AReportIsShownOnceEvenWhenTheDialogIsGoneAndItComesOnAnotherThread) {
   SeedAll(kTypeSnmp);
   OpenTest();
-  Script().ExpectWindow(kSiteTest, [](Person& p) {
-    p.Type("&Message:", "trap");
-    p.Press("OK");
-  });
+  Script().ExpectWindow(kSiteTest, Fill({{"&Message:", "trap"}}));
   Open();
   EXPECT_EQ(Stored().message.View(), "trap");
   EXPECT_EQ(Stored().subject.View(), "as it was") << "a message alone";
@@ -202,10 +197,7 @@ TEST_F(TestSendsTest, AUserIsTestedWithoutChoosingOne) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.code);
     SeedAll(row.code);
-    Script().ExpectWindow(kUserTest, [&](Person& p) {
-      p.Type(row.field, row.typed);
-      p.Press("OK");
-    });
+    Script().ExpectWindow(kUserTest, Fill({{row.field, row.typed}}));
     const int index = *TheServices().FindById(ServiceId());
     EXPECT_EQ(UserServiceTestDialog(nullptr, index, user_), 1u);
     EXPECT_EQ(Stored().message.View(), row.sent);

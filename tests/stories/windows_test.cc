@@ -12,10 +12,7 @@ namespace stories {
 namespace {
 
 using namespace platform::ui;
-using desktops::Person;
 using desktops::PersonError;
-using testing::ElementsAre;
-using testing::IsEmpty;
 using Log = std::vector<std::string>;
 
 class WindowsTest : public StoryTest {};

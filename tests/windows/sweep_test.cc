@@ -3,7 +3,6 @@
 // button, and holds each to what every window owes to those who use it. The list of all windows is the one of the help
 // pages, so a window that nobody reaches is missed here.
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <stdlib.h>
 
 #include <QApplication>
