@@ -20,27 +20,6 @@ class ServiceListTest : public ServiceTest {
   }
 };
 
-TEST_F(ServiceListTest, AnEmptyStoreIsReportedOnceAndAnswersAsTheLastGoodRead) {
-  CNtfyServiceList& list = TheServices();
-  EXPECT_FALSE(list.Read());
-  EXPECT_THAT(desktop.TakeMessages(),
-              ElementsAre("Unable to read records from the notification service database. (waiting)"));
-  EXPECT_FALSE(list.Read()) << "silently, as long as no read has succeeded";
-  EXPECT_EQ(list.GetCount(), 0);
-
-  SeedService(kTypeSmtp, "Mail");
-  list.RemoveAll();
-  EXPECT_TRUE(list.Read());
-  EXPECT_EQ(list.GetCount(), 1);
-
-  list.RemoveAll();
-  library.engine->FailAll("", StoreOp::kFindFirst);
-  EXPECT_FALSE(list.Read());
-  EXPECT_TRUE(list.Read()) << "a read has succeeded before";
-  EXPECT_EQ(list.GetCount(), 0);
-  EXPECT_EQ(desktop.TakeMessages().size(), 1U);
-}
-
 TEST_F(ServiceListTest, ListsTypesWithAClassInTheOrderOfTheStore) {
   SeedService(kTypeWave, "a wave");
   for (const std::uint32_t type : {RecordTypeOf(kTypePhone), RecordTypeOf(kTypeScript), 0U, 16U})
@@ -59,15 +38,6 @@ TEST_F(ServiceListTest, ListsTypesWithAClassInTheOrderOfTheStore) {
   EXPECT_THAT(Names(), ElementsAre("a program", "another wave"));
   EXPECT_EQ(TheServices().FindById(second_wave), 1);
   EXPECT_TRUE(TheServices().IsFirstOfType(1));
-}
-
-TEST_F(ServiceListTest, AServiceWhoseSpecificRecordIsGoneStaysInTheList) {
-  SeedCommon(RecordTypeOf(kTypeSmtp), "half a service");
-  ASSERT_TRUE(TheServices().Read());
-  EXPECT_THAT(Names(), ElementsAre("half a service"));
-  EXPECT_THAT(
-      desktop.TakeMessages(),
-      ElementsAre("Unable to read the record from the notification service-specific database. (waiting)"));
 }
 
 TEST_F(ServiceListTest, ADeleteThatFailsStillTakesTheServiceFromTheList) {

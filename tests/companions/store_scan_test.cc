@@ -15,20 +15,6 @@ namespace {
 
 using StoreScanTest = StoreTest;
 
-TEST_F(StoreScanTest, AScanGivesTheRecordsInTheOrderOfAdding) {
-  Services services;
-  ALRTNTFYSERV record{};
-  EXPECT_EQ(services.DBAlertRecFindFirst(kByIdentity, 0, nullptr, record), kNotFound);
-
-  AddNamed(services, "Zulu");
-  const GUID middle = AddNamed(services, "Mike");
-  AddNamed(services, "Alpha");
-  EXPECT_EQ(NamesOf(services, kByIdentity), "Zulu Mike Alpha");
-
-  ASSERT_EQ(services.DBAlertRecUpdate(Named<ALRTNTFYSERV>("Nan", middle)), kOk);
-  EXPECT_EQ(NamesOf(services, kByIdentity), "Zulu Nan Alpha") << "a change leaves a record at its place";
-}
-
 TEST_F(StoreScanTest, FindNextAfterTheEndStaysAtTheEnd) {
   Services services;
   ALRTNTFYSERV record{};

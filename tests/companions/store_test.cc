@@ -26,17 +26,6 @@ TEST_F(StoreTest, AddWritesTheFreshIdentityToBothPlaces) {
   EXPECT_EQ(record.serviceId, second);
 }
 
-TEST_F(StoreTest, EveryByteOfARecordComesBack) {
-  Opened<CAlertRespDB> responses;
-  ALERTRESPREC record;
-  auto* bytes = reinterpret_cast<std::uint8_t*>(&record);
-  for (std::size_t i = 0; i < sizeof record; ++i) bytes[i] = static_cast<std::uint8_t>(i * 7 + i / 256);
-  GUID id{};
-  ASSERT_EQ(responses.DBAlertRecAdd(record, id), kOk);
-  const ALERTRESPREC read = Stored(responses, id);
-  EXPECT_EQ(std::memcmp(&read, &record, sizeof record), 0);
-}
-
 TEST_F(StoreTest, RetrieveGoesByTheIdentityInTheRecord) {
   Services services;
   AddNamed(services, "First");
@@ -84,37 +73,15 @@ TEST_F(StoreTest, NamesOfModemsTypesAndLocationsAreUniqueEachInItsStore) {
   EXPECT_EQ(NamesOf(services, kByIdentity), "Mail Mail") << "services may share a name";
 }
 
-TEST_F(StoreTest, ARecordMayBringItsIdentity) {
-  Opened<CAlertRespDB> responses;
-  ALERTRESPREC record{};
-  EXPECT_EQ(responses.AddWithIdentity(record), kInvalidArgument);
-  record.responseId = GUID::Generate();
-  EXPECT_EQ(responses.AddWithIdentity(record), kOk);
-  EXPECT_EQ(responses.AddWithIdentity(record), kNotUnique);
-  EXPECT_EQ(test_support::RecordsOf(responses, kByIdentity, &record.responseId).size(), 1u);
-}
-
 TEST_F(StoreTest, ATwoRecordAddLinksBothUnderFreshIdentities) {
   Services services;
-  Opened<CAlertUsrInstServDB> links;
-  Opened<CAlertUSR_MCIDB> users;
   ALRTNTFYSERV common{};
   ALRTMCISERVICEREC mci{};
-  mci.loginId.Assign("gateway");
   GUID id{}, specific_id{};
   ASSERT_EQ(services.DBAlertRecAdd(common, id, mci, specific_id), kOk);
   EXPECT_EQ(common.serviceId, id);
   EXPECT_EQ(common.specificRecordId, specific_id);
   EXPECT_EQ(mci.guid, specific_id);
-  EXPECT_EQ(Stored(*services.SpecificStore<ALRTMCISERVICEREC>(), specific_id).loginId.View(), "gateway");
-
-  ALRTUSRINSTSERV link{};
-  ALRTUSR_MCISERVICEREC user{};
-  GUID link_id{}, user_id{};
-  ASSERT_EQ(links.DBAlertRecAdd(link, link_id, user, user_id), kOk);
-  ASSERT_EQ(links.DBAlertRecFindFirst(kLinkByUserRecord, 16, &user_id, link), kOk);
-  EXPECT_EQ(link.guid, link_id);
-  EXPECT_EQ(users.DBAlertRecFindFirst(CAlertUSR_MCIDB::kSelectors.by_id, 16, &user_id, user), kOk);
 }
 
 TEST_F(StoreTest, MailTypesOfOneLayoutHaveStoresOfTheirOwn) {
@@ -223,23 +190,6 @@ TEST_F(StoreTest, WhatIsMissingIsMadeByTheNextWriter) {
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "");
   AddNamed(modems, "made again");
   EXPECT_EQ(NamesOf(modems, kModemByIdentity), "made again");
-}
-
-TEST_F(StoreTest, ALinkIsFoundByServiceAndUserAtOnce) {
-  Opened<CAlertUsrInstServDB> links;
-  const GUID user = GUID::Generate();
-  GUID key[] = {GUID::Generate(), user};
-  ALRTUSRINSTSERV link{};
-  link.userId = user;
-  for (const GUID& service : {GUID::Generate(), key[0], GUID::Generate()}) {
-    link.serviceId = service;
-    ASSERT_EQ(Add(links, link), kOk);
-  }
-  EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByServiceAndUser, sizeof key, key, link), kOk);
-  EXPECT_EQ(link.serviceId, key[0]);
-  EXPECT_EQ(links.DBAlertRecFindNext(link), kEndOfScan);
-  key[1] = key[0];
-  EXPECT_EQ(links.DBAlertRecFindFirst(kLinkByServiceAndUser, sizeof key, key, link), kNotFound);
 }
 
 }  // namespace

@@ -57,12 +57,16 @@ TEST_F(AtomicWriteTest, KilledWritersLeaveOneTemporaryFileThatTheNextOneReplaces
 
 TEST_F(AtomicWriteTest, AFileThatWasLeftBehindGivesNeitherItsBytesNorItsMode) {
   ASSERT_TRUE(WriteFileAtomically(path_ + ".tmp", "longer than the new bytes", 0666));
-  ASSERT_TRUE(WriteFileAtomically(path_, "new", 0600));
+  const std::string bytes("n\0w", 3), taken = directory_ + "/taken";
+  ASSERT_TRUE(WriteFileAtomically(path_, bytes, 0600));
   struct stat info {};
   ASSERT_EQ(stat(path_.c_str(), &info), 0);
   EXPECT_EQ(info.st_mode & 0777, 0600u);
-  EXPECT_EQ(Bytes(), "new");
-  EXPECT_THAT(Names(), UnorderedElementsAre("file"));
+  EXPECT_EQ(Bytes(), bytes);
+  ASSERT_TRUE(platform::MakeDirectories(taken));
+  for (const std::string& path : {taken, directory_ + "/missing/file"})
+    EXPECT_FALSE(WriteFileAtomically(path, "x", 0600)) << path;
+  EXPECT_THAT(Names(), UnorderedElementsAre("file", "taken"));
 }
 
 TEST_F(AtomicWriteTest, WhatStoodUnderTheTemporaryNameIsNotWrittenTo) {

@@ -152,15 +152,6 @@ TEST_F(ControlsTest, EnterEscapeAndTheCloseBoxEndTheDialog) {
   EXPECT_EQ(dialog_.log, (std::vector<std::string>{"extra", "changed L&ines:"}));
 }
 
-TEST_F(ControlsTest, APressBesideFindsTheButtonOfTheRow) {
-  Play(dialog_, [](Person& p) {
-    p.PressBeside("Pat&h:", "...");
-    p.PressBeside("&Address:", "...");
-    EXPECT_THROW(p.PressBeside("&First:", "..."), PersonError);
-  });
-  EXPECT_EQ(dialog_.log, (std::vector<std::string>{"path...", "address..."}));
-}
-
 TEST_F(ControlsTest, WhatIsHiddenOrDisabledCannotBeTouched) {
   dialog_.second.Show(false);
   dialog_.box.Enable(false);
@@ -177,20 +168,6 @@ TEST_F(ControlsTest, WhatIsHiddenOrDisabledCannotBeTouched) {
     EXPECT_THROW(p.Press("No such button"), PersonError);
   });
   EXPECT_TRUE(dialog_.log.empty());
-}
-
-TEST_F(ControlsTest, TextsAndNotesAreSeen) {
-  Play(dialog_, [this](Person& p) {
-    EXPECT_EQ(p.Caption(), "Controls");
-    EXPECT_TRUE(p.IsVisible("Mind the gap."));
-    EXPECT_TRUE(p.IsVisible("A note"));
-    dialog_.note.SetLabel("Another note");
-    EXPECT_TRUE(p.IsVisible("Another note"));
-    dialog_.note.Show(false);
-    EXPECT_FALSE(p.IsVisible("Another note"));
-    EXPECT_THAT(p.Screen(), HasSubstr("&First:"));
-    EXPECT_THAT(p.Screen(), Not(HasSubstr("Another note")));
-  });
 }
 
 TEST_F(ControlsTest, AControlThatGoesOutOfReachPassesTheFocusOn) {
@@ -210,15 +187,6 @@ TEST_F(ControlsTest, TheProgramMovesTheFocus) {
     dialog_.note.SetFocus();
     EXPECT_EQ(p.FocusedLabel(), "Pat&h:") << "a static text takes none";
   });
-}
-
-TEST_F(ControlsTest, TheHelpKeyAsksAboutTheControlWithTheFocus) {
-  Play(dialog_, [](Person& p) {
-    EXPECT_EQ(p.HelpOn("&Second:"), "&Second:");
-    EXPECT_EQ(p.FocusedLabel(), "&Second:");
-    EXPECT_EQ(p.HelpOn("Cancel"), "Cancel");
-  });
-  EXPECT_EQ(Desk().LastHelpText(), "Cancel");
 }
 
 }  // namespace

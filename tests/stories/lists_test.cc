@@ -146,17 +146,5 @@ TEST_F(ListsTest, ArrowKeysMoveTheRowAndKeysAreTold) {
   EXPECT_THAT(dialog_.log, ElementsAre("user", "user", "user")) << "one for each new selection";
 }
 
-TEST_F(ListsTest, ADisabledListCannotBeTouched) {
-  dialog_.users.Enable(false);
-  dialog_.ports.Enable(false);
-  dialog_.names.Show(false);
-  Run([](Person& p) {
-    EXPECT_THROW(p.ClickRow("&Users:", 0), PersonError);
-    EXPECT_THROW(p.Choose("&Port:", "Com1"), PersonError);
-    EXPECT_THROW(p.DoubleClickItem("&Names:", "beta"), PersonError);
-  });
-  EXPECT_TRUE(dialog_.log.empty());
-}
-
 }  // namespace
 }  // namespace stories

@@ -77,20 +77,6 @@ TEST_F(SmtpSheetTest, AServiceThatCannotBeReadAgainIsShownAsItWas) {
   });
 }
 
-TEST_F(SmtpSheetTest, AServiceThatAnotherConsoleDeletedCannotBeSaved) {
-  ASSERT_EQ(ServiceStore().DBAlertRecDelete(ServiceId()), alertstore::kOk);
-  Engine().Forget();
-  Script().ExpectMessage(kReadFailed);
-  Expect([](Person& p) {
-    p.Press("OK");
-    p.Press("Cancel");
-  });
-  Script().ExpectMessage(kUpdateFailed);
-  EXPECT_EQ(Open(), kCancel);
-  EXPECT_THAT(Engine().Writes(), IsEmpty());
-  EXPECT_THAT(Engine().HeldLocks(), IsEmpty());
-}
-
 TEST_F(SmtpSheetTest, TheSheetShowsWhatIsStoredWhenItOpens) {
   Open([](Person& p) {
     EXPECT_EQ(p.Text(kServer), "old.example.org") << "newer than what the list has read";
