@@ -13,8 +13,7 @@ using ::testing::ElementsAre;
 
 constexpr char kFileWarning[] =
     "The file or program associated with this response has \nbeen left unchanged.  But since the service "
-    "type has \n"
-    "been changed, the file should probably also be changed.";
+    "type has \nbeen changed, the file should probably also be changed.";
 
 class ResponsesTest : public ServiceTest {
  protected:

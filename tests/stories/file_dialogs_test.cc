@@ -24,8 +24,7 @@ const std::string kLater = "\nThe product may not operate correctly as a result.
 const std::pair<int, std::string> kWarnings[] = {
     {kPathInTree,
      "Console has detected that the path you entered contains the NDS tree.\nIt is recommended that you "
-     "enter "
-     "the UNC path or map the drive directly not through the NDS tree." +
+     "enter the UNC path or map the drive directly not through the NDS tree." +
          kGuide},
     {kPathNotUniversal, "Unable to create a UNC universal pathname to the file you selected." + kLater},
     {kPathInvalid, "Path is invalid." + kLater},

@@ -29,8 +29,7 @@ constexpr char kDisable[] = "To disable call waiting, dial:";
 constexpr char kUses[] = "The phone system at this location uses";
 constexpr char kNoLocations[] =
     "No records in the modem location database. You will need to add a location (using the New button) in "
-    "order to "
-    "use a modem.";
+    "order to use a modem.";
 constexpr char kDelete[] =
     "Are you sure you want to delete the location?  This operation is immediate and cannot be canceled "
     "later.";

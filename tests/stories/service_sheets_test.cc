@@ -267,8 +267,7 @@ TEST_F(ServiceSheetsTest, TextsThatNoPageShowsAreEmptiedWithASave) {
 
 constexpr char kNoUniversalPath[] =
     "Unable to create a UNC universal pathname to the file you selected.\nThe product may not operate "
-    "correctly as a "
-    "result.\nRefer to the implementation guide for additional information.";
+    "correctly as a result.\nRefer to the implementation guide for additional information.";
 constexpr char kUseAnyway[] = "\nDo you wish to use the non-UNC path anyway?";
 
 TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
@@ -296,8 +295,7 @@ TEST_F(ServiceSheetsTest, AChosenPostOfficeIsShownAndStoredInUniversalForm) {
   Script().ExpectFileDialog("Select directory for post office:", deep);
   Script().ExpectMessage(
       "Path is invalid.\nThe product may not operate correctly as a result.\nRefer to the implementation "
-      "guide "
-      "for additional information.");
+      "guide for additional information.");
   EXPECT_EQ(Open(), kOk);
   EXPECT_EQ(Bytes().substr(16, 15), std::string("\\\\server\\post\0", 15));
 }

@@ -185,10 +185,8 @@ TEST_F(WindowsTest, AWaitComesBackBehindItsWindowsAndTakesNoInput) {
 
 constexpr char kLongNote[] =
     "A note of many words wraps, and how many lines it needs follows from the width that the sheet gives it "
-    "in the "
-    "end. Where the height is taken from another width than that, the last of these lines is cut, or what "
-    "stands "
-    "below is pushed out of the window, which is what this story is about.";
+    "in the end. Where the height is taken from another width than that, the last of these lines is cut, or "
+    "what stands below is pushed out of the window, which is what this story is about.";
 
 /// Asks for more room than the page before it.
 class LargePage : public PropertyPage {
