@@ -20,7 +20,9 @@ class ListeningEdit : public Edit {
   using Edit::Edit;
   int focus_gained = 0, focus_lost = 0, mouse_ups = 0;
   std::vector<Key> keys_up;
+  std::vector<std::string> pasted;
 
+  void OnPaste(std::string_view text) override { pasted.emplace_back(text); }
   void OnSetFocus() override { ++focus_gained; }
   void OnKillFocus() override { ++focus_lost; }
   void OnMouseUp() override { ++mouse_ups; }
@@ -205,15 +207,17 @@ TEST_F(EditsTest, AReadOnlyFieldCanBeCopiedFromOnly) {
   EXPECT_TRUE(dialog_.changed.empty());
 }
 
-TEST_F(EditsTest, AFieldHearsOfFocusMouseAndKeys) {
+TEST_F(EditsTest, AFieldHearsOfFocusMouseKeysAndPastes) {
   Run([](Person& p) {
     p.ClickInText("&Listening:", 0);
     p.Press(Key::kRight);
     p.Press(Key::kEnd);
+    p.Paste("&Listening:", "pasted");
     p.Focus("&Name:");
   });
   EXPECT_EQ(dialog_.listening.focus_gained, 1);
   EXPECT_EQ(dialog_.listening.focus_lost, 1);
+  EXPECT_THAT(dialog_.listening.pasted, ElementsAre("pasted"));
   EXPECT_EQ(dialog_.listening.mouse_ups, 1);
   EXPECT_EQ(dialog_.listening.keys_up, (std::vector{Key::kRight, Key::kEnd}));
 }
