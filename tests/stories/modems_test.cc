@@ -24,6 +24,10 @@ constexpr char kNoLocations[] =
     "order to use a modem.";
 constexpr char kNoManagers[] = "No records in the Alert Manager database.";
 constexpr char kTypeFailed[] = "Unable to add record to the modem type database.";
+constexpr char kSameType[] = "You cannot create a modem type with the same name as an existing modem type.";
+constexpr char kRemoveType[] =
+    "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
+    "later.";
 constexpr char kPage[] = "Modems";
 
 class ModemsTest : public StoryTest {
@@ -60,11 +64,12 @@ class ModemsTest : public StoryTest {
     record.name.Assign(name);
     return test_support::AddRecord(store, record);
   }
-  static std::string Bytes(ModemStoreOf store, const GUID& id) {
+  static ALRTSERV_MODEM Stored(ModemStoreOf store, const GUID& id) {
     ALRTSERV_MODEM record{};
     EXPECT_TRUE(FindModemOrFirst(store, id, record));
-    return {reinterpret_cast<const char*>(&record), sizeof record};
+    return record;
   }
+  std::string ModemBytes() const { return test_support::BytesOf(Stored(ModemStore, modem_)); }
   int Edit(desktops::Script::Story story) {
     Script().ExpectWindow(kModem, std::move(story));
     return CModemPropertiesDlg(nullptr, modem_).RunModal();
@@ -75,7 +80,7 @@ class ModemsTest : public StoryTest {
 };
 
 TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
-  std::string expected = Bytes(ModemStore, modem_);
+  std::string expected = ModemBytes();
   Script().ExpectWindow(kModem, [](Person& p) {
     EXPECT_EQ(p.Text("&Type:"), "Courier");
     EXPECT_EQ(p.Text("I am dialing &from"), "Office");
@@ -110,7 +115,7 @@ TEST_F(ModemsTest, EveryFieldOfAModemIsStoredAtItsOffset) {
   test_support::PutU32(expected, 2619, 4);
   test_support::PutU32(expected, 2623, 1 + 4);
   test_support::PutText(expected, 2627, 36, "+++");
-  EXPECT_EQ(Bytes(ModemStore, modem_), expected);
+  EXPECT_EQ(ModemBytes(), expected);
 }
 
 TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
@@ -125,9 +130,7 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
     EXPECT_TRUE(p.IsEnabled("A&lpha Pager"));
     p.Press("Cancel");
   });
-  ALRTSERV_MODEM stored{};
-  ASSERT_TRUE(FindModemOrFirst(ModemStore, modem_, stored));
-  EXPECT_EQ(stored.capabilities, 16u) << "what was applied stays after Cancel";
+  EXPECT_EQ(Stored(ModemStore, modem_).capabilities, 16u) << "what was applied stays after Cancel";
   const GUID other = Add(ModemTypeStore(), "Zoom", [](ALRTSERV_MODEM& type) {
     type.initString.Assign("ATX4");
     type.baudRate = 300;
@@ -136,7 +139,7 @@ TEST_F(ModemsTest, ADirectPortStandsAloneAndANewTypeBringsItsStrings) {
     p.Choose("&Type:", "Zoom");
     p.Press("OK");
   });
-  ASSERT_TRUE(FindModemOrFirst(ModemStore, modem_, stored));
+  const ALRTSERV_MODEM stored = Stored(ModemStore, modem_);
   EXPECT_EQ(stored.name.View(), "Zoom");
   EXPECT_EQ(stored.initString.View(), "ATX4");
   EXPECT_EQ(stored.modemTypeGuid, other);
@@ -154,7 +157,7 @@ TEST_F(ModemsTest, ADirectPortShowsNoOtherUseWhateverItsRecordSays) {
 }
 
 TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
-  const std::string before = Bytes(ModemStore, modem_);
+  const std::string before = ModemBytes();
   ASSERT_TRUE(DeleteLocation("Office"));
   GUID home{};
   ASSERT_TRUE(CreateLocation("Home", home));
@@ -179,7 +182,7 @@ TEST_F(ModemsTest, AFailedSaveSaysWhyAndKeepsTheInput) {
   Script().ExpectMessage(kNoManagers);
   Script().ExpectMessage("You must select an alert manager for the modem before you update the record.");
   CModemPropertiesDlg(nullptr, modem_).RunModal();
-  EXPECT_EQ(Bytes(ModemStore, modem_), before);
+  EXPECT_EQ(ModemBytes(), before);
 }
 
 TEST_F(ModemsTest, WhatIsMissingIsToldInTheOrderOfTheFields) {
@@ -217,8 +220,7 @@ TEST_F(ModemsTest, ATypeIsSavedWithoutAnAlertManagerAndThenNamesNone) {
   });
   Script().ExpectMessage(kNoManagers);
   EXPECT_EQ(CModemTypePropertiesDlg(nullptr, left).RunModal(), ui::kOk);
-  ALRTSERV_MODEM stored{};
-  ASSERT_TRUE(FindModemOrFirst(ModemTypeStore, left, stored));
+  const ALRTSERV_MODEM stored = Stored(ModemTypeStore, left);
   EXPECT_EQ(stored.enabled, 1u);
   EXPECT_EQ(stored.managerName.View(), "");
   EXPECT_TRUE(stored.managerGuid.IsNull());
@@ -265,8 +267,7 @@ TEST_F(ModemsTest, ANewModemTakesAProposedNameAndItsTypesSettings) {
   Script().ExpectMessage("Unable to add record to the modem database.");
   CNewModemDlg dialog(nullptr);
   ASSERT_EQ(dialog.RunModal(), ui::kOk);
-  ALRTSERV_MODEM made{};
-  ASSERT_TRUE(FindModemOrFirst(ModemStore, dialog.Modem(), made));
+  const ALRTSERV_MODEM made = Stored(ModemStore, dialog.Modem());
   EXPECT_EQ(made.name.View(), "Mine!");
   EXPECT_EQ(made.modemTypeGuid, type_);
   EXPECT_EQ(made.dialPrefix.View(), "ATDT");
@@ -307,17 +308,13 @@ TEST_F(ModemsTest, TypesAreMadeChangedAndRemovedAtOnce) {
       });
     }
   }
-  Script().ExpectMessage("You cannot create a modem type with the same name as an existing modem type.");
-  constexpr char kRemove[] =
-      "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
-      "later.";
-  Script().ExpectMessage(kRemove, Answer::kNo);
-  Script().ExpectMessage(kRemove, Answer::kYes);
+  Script().ExpectMessage(kSameType);
+  Script().ExpectMessage(kRemoveType, Answer::kNo);
+  Script().ExpectMessage(kRemoveType, Answer::kYes);
   Script().ExpectMessage("Unable to delete record in the modem database.");
-  Script().ExpectMessage(kRemove, Answer::kYes);
+  Script().ExpectMessage(kRemoveType, Answer::kYes);
   CManageModemTypesDlg(nullptr).RunModal();
-  ALRTSERV_MODEM mine{};
-  ASSERT_TRUE(FindModemOrFirst(ModemTypeStore, platform::kNullGuid, mine));
+  const ALRTSERV_MODEM mine = Stored(ModemTypeStore, platform::kNullGuid);
   EXPECT_EQ(mine.name.View(), "Mine");
   EXPECT_EQ(mine.capabilities, 16u);
   EXPECT_EQ(mine.managerName.View(), "ALPHA");
@@ -339,11 +336,8 @@ TEST_F(ModemsTest, RemoveTakesTheTypeThatIsShown) {
     p.Choose("&Select modem type to use as a basis for the new type:", "Second");
     p.Press("OK");
   });
-  Script().ExpectMessage("You cannot create a modem type with the same name as an existing modem type.");
-  Script().ExpectMessage(
-      "Are you sure you want to delete the modem type?  This operation is immediate and cannot be canceled "
-      "later.",
-      Answer::kYes);
+  Script().ExpectMessage(kSameType);
+  Script().ExpectMessage(kRemoveType, Answer::kYes);
   CManageModemTypesDlg(nullptr).RunModal();
 }
 
