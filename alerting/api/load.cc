@@ -9,7 +9,7 @@
 #include "alerting/responses/keywords.h"
 #include "alerting/services/service_list.h"
 #include "alerting/services/types.h"
-#include "alerting/testing/send_test.h"
+#include "alerting/testing/sends.h"
 
 namespace alerting {
 

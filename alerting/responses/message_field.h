@@ -21,7 +21,7 @@ struct MessageField {
 
   std::string text;
   CKeywordEdit edit;
-  ui::Button fields;
+  ui::FieldButton fields;
 };
 
 }  // namespace alerting

@@ -4,7 +4,7 @@
 #include "alerting/testing/file_tests.h"
 #include "alerting/testing/message_tests.h"
 #include "alerting/testing/select_user_dlg.h"
-#include "alerting/testing/send_test.h"
+#include "alerting/testing/sends.h"
 
 // The tests of all types, as the table of windows names them. Each runs its dialog and answers whether it ended with OK.
 

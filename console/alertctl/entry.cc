@@ -55,7 +55,7 @@ Result List(const Arguments& arguments) {
   else
     Collect(FindService(site, arguments.service), user_id, list);
   if (list.empty()) return {list, "There are no entries. \"alertctl entry set\" adds one.\n"};
-  TextTable table({"USER", "SERVICE", "ADDRESS", "ENABLED"});
+  TextTable table({"USER", "SERVICE", "ADDRESS", "ALERTED"});
   for (const Json& entry : list)
     table.Add({entry["user"], entry["service"], entry["address"], YesNo(entry["enabled"])});
   return {list, table.Text()};

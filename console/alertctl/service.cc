@@ -40,7 +40,7 @@ Result List() {
   if (site["services"].empty())
     return {Json::array(), "There are no services. \"alertctl init\" adds one of every type.\n"};
   Json list = Json::array();
-  TextTable table({"NAME", "TYPE", "ENABLED", "USERS", "ALERT MANAGERS", "IDENTITY"});
+  TextTable table({"NAME", "TYPE", "ON", "USERS", "DELIVERED BY", "IDENTITY"});
   for (const Json& service : site["services"]) {
     list.push_back(Summary(site, service));
     const Json& summary = list.back();

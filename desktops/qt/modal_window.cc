@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktops/qt/modal_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QVBoxLayout>
@@ -18,6 +18,16 @@ ModalWindow::ModalWindow(platform::ui::Modal& modal, QWidget* parent) : QDialog(
   setWindowTitle(ToQt(ShownWindow().Label()));
   setEnabled(ShownWindow().Enabled());
   ShownWindow().SetObserver(this);
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget*, QWidget* now) { ShowWhatEnterPresses(now); });
+}
+
+// A button with the focus is the one that Enter presses, so no other may look like it meanwhile.
+void ModalWindow::ShowWhatEnterPresses(QWidget* focus) {
+  if (focus == nullptr || focus->window() != this) return;
+  auto* button = qobject_cast<QPushButton*>(focus);
+  if (button == nullptr) button = UsualDefault();
+  if (button != nullptr) button->setDefault(true);
 }
 
 ModalWindow::~ModalWindow() { ShownWindow().SetObserver(nullptr); }
@@ -66,10 +76,14 @@ void ModalWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 DialogWindow::DialogWindow(platform::ui::Dialog& dialog, QWidget* parent)
-    : ModalWindow(dialog, parent), view_(FormView::Laid(dialog, this)) {
+    : ModalWindow(dialog, parent), dialog_(dialog), view_(FormView::Laid(dialog, this)) {
   auto* whole = new QVBoxLayout(this);
   whole->setContentsMargins({});
   whole->addWidget(view_.get());
+}
+
+QPushButton* DialogWindow::UsualDefault() const {
+  return qobject_cast<QPushButton*>(WidgetOf(dialog_.DefaultButton()));
 }
 
 }  // namespace desktops::qt

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPushButton>
 
 #include "desktops/qt/form_view.h"
 #include "platform/ui/dialog.h"
@@ -30,10 +31,14 @@ class ModalWindow : public QDialog, public platform::ui::WindowObserver, public 
   void keyPressEvent(QKeyEvent* event) override;
   /// The size at which nothing is cut; wrapped texts are as high as they are at that width.
   QSize WantedSize();
+  /// The button that Enter presses from a field, or null.
+  virtual QPushButton* UsualDefault() const = 0;
   /// Enter was pressed while neither a control nor a button has the keyboard.
   virtual void PressDefault() {}
 
  private:
+  void ShowWhatEnterPresses(QWidget* focus);
+
   platform::ui::Modal& modal_;
 };
 
@@ -42,6 +47,9 @@ class DialogWindow : public ModalWindow {
   DialogWindow(platform::ui::Dialog& dialog, QWidget* parent);
 
  private:
+  QPushButton* UsualDefault() const override;
+
+  const platform::ui::Dialog& dialog_;
   std::unique_ptr<FormView> view_;
 };
 

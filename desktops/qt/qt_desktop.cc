@@ -8,10 +8,10 @@
 #include <QMimeData>
 #include <QStyle>
 #include <QTimer>
-#include <QWhatsThis>
 
 #include "desktops/qt/file_choice.h"
 #include "desktops/qt/guard.h"
+#include "desktops/qt/help_popup.h"
 #include "desktops/qt/icons.h"
 #include "desktops/qt/input_gate.h"
 #include "desktops/qt/sheet_window.h"
@@ -174,15 +174,12 @@ int QtDesktop::IconSpacing() {
 }
 
 void QtDesktop::ShowHelpText(Window* beside, const std::string& text) {
-  QWidget* widget = qt::WidgetOwner::WidgetOf(beside);
+  const QWidget* widget = qt::WidgetOwner::WidgetOf(beside);
   QWidget* window = ActiveParent();
-  QPoint place = QCursor::pos();
-  if (widget != nullptr) {
-    place = widget->mapToGlobal(widget->rect().bottomLeft());
-  } else if (window != nullptr) {
-    place = window->mapToGlobal(window->rect().center());
-  }
-  QWhatsThis::showText(place, Qt::convertFromPlainText(qt::ToQt(text)), widget != nullptr ? widget : window);
+  if (widget == nullptr) widget = window;
+  const QRect area = widget == nullptr ? QRect(QCursor::pos(), QSize(1, 1))
+                                       : QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size());
+  (new qt::HelpPopup(qt::ToQt(text), window))->ShowBeside(area);
 }
 
 void QtDesktop::Post(std::function<void()> task) {

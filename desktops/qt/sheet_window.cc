@@ -157,8 +157,13 @@ void SheetWindow::ShowButtons() {
     widget->setVisible(sheet_.ButtonVisible(button));
     widget->setEnabled(sheet_.ButtonEnabled(button));
   }
+  if (qobject_cast<QPushButton*>(focusWidget()) == nullptr) UsualDefault()->setDefault(true);
+}
+
+QPushButton* SheetWindow::UsualDefault() const {
   const PropertyPage* page = sheet_.ActivePage();
-  if (page == nullptr || page->DefaultButton() == nullptr) buttons_[sheet_.DefaultButton()]->setDefault(true);
+  auto* own = page == nullptr ? nullptr : qobject_cast<QPushButton*>(WidgetOf(page->DefaultButton()));
+  return own != nullptr ? own : buttons_.at(sheet_.DefaultButton());
 }
 
 void SheetWindow::PressDefault() {

@@ -29,6 +29,7 @@ class SheetWindow : public ModalWindow {
   void RemoveTab(int index);
   void MakeRoomForPages();
   void PressDefault() override;
+  QPushButton* UsualDefault() const override;
   void ShowPage();
   void ShowButtons();
   void EndTabOrderWithButtons(const FormView& page);

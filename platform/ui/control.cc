@@ -49,10 +49,10 @@ void Button::OnClick() {
   if (WithinReach()) Run(on_click_);
 }
 
-std::string BrowseButton::SpokenName() const {
+std::string FieldButton::SpokenName() const {
   std::string field = field_.SpokenName();
   if (!field.empty() && field.back() == ':') field.pop_back();
-  return "Choose " + field;
+  return purpose_ + " " + field;
 }
 
 void CheckBox::SetChecked(bool checked) {

@@ -107,14 +107,23 @@ class Button : public Control {
   bool is_default_ = false;
 };
 
-/// The small "..." button behind a field, which offers values for it. Its face says nothing, so it is spoken of by its field.
-class BrowseButton : public Button {
+/// A button behind a field that has its like behind other fields, so that it is spoken of by its field: `purpose` and the
+/// field's name.
+class FieldButton : public Button {
  public:
-  BrowseButton(Form& form, int id, const Control& field) : Button(form, id, "..."), field_(field) {}
+  FieldButton(Form& form, int id, std::string face, std::string purpose, const Control& field)
+      : Button(form, id, std::move(face)), purpose_(std::move(purpose)), field_(field) {}
   std::string SpokenName() const override;
 
  private:
+  const std::string purpose_;
   const Control& field_;
+};
+
+/// The small "..." button behind a field, which offers values for it.
+class BrowseButton : public FieldButton {
+ public:
+  BrowseButton(Form& form, int id, const Control& field) : FieldButton(form, id, "...", "Choose", field) {}
 };
 
 class CheckBox : public Control {

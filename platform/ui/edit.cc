@@ -122,6 +122,7 @@ void Edit::InsertByPerson(std::string_view text) {
   const std::size_t room = limit_ > kept ? limit_ - kept : 0;
   std::size_t fits = Utf8Prefix(text, room);
   if (fits > 0 && IsLineBreak(text, fits - 1)) --fits;
+  if (fits < text.size()) Desktop::Current().Beep();  // nothing gets lost without a sound
   if (fits == 0 && !text.empty()) return;
   text = text.substr(0, fits);
   if (text_.compare(start_, end_ - start_, text) == 0) return SetSelection(end_, end_);

@@ -21,6 +21,7 @@
 #include "desktops/qt/canvas_adapter.h"
 #include "desktops/qt/cut_controls.h"
 #include "desktops/qt/guard.h"
+#include "desktops/qt/help_popup.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/file_dialog.h"
 #include "platform/ui/lists.h"
@@ -314,9 +315,39 @@ TEST_F(QtWindowTest, AWizardShowsWhatEnterPresses) {
     EXPECT_EQ(shown_default(), "&Next >");
     wizard.SetWizardButtons(kWizardBack | kWizardFinish);
     EXPECT_EQ(shown_default(), "Finish");
+    for (auto* button : QApplication::activeModalWidget()->findChildren<QPushButton*>())
+      if (button->text() == "Cancel") button->setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(shown_default(), "Cancel") << "the one with the focus is what Enter presses";
     person.Press("Cancel");
   });
   wizard.RunModal();
+}
+
+TEST_F(QtWindowTest, ALetterFindsAnItemWhoseNameStandsInBrackets) {
+  ReportingDialog dialog;
+  platform::ui::ListBox list(dialog, 1, "&Fields:");
+  for (const char* text : {"<Alert Time>", "<Severity>", "<User Name>"}) list.Add(text);
+  Show(dialog, [&](Person&) {
+    QTest::keyClick(&Widget<QTreeWidget>(), Qt::Key_U);
+    EXPECT_EQ(list.Current(), 2);
+  });
+}
+
+TEST_F(QtWindowTest, HelpStandsWholeOnTheScreenUntilAKeyIsPressed) {
+  ReportingDialog dialog;
+  Show(dialog, [&](Person&) {
+    const QRect screen = QApplication::primaryScreen()->availableGeometry();
+    const QString text = QString("outgoing ").repeated(60);
+    auto* popup = new HelpPopup(text, QApplication::activeModalWidget());
+    popup->ShowBeside(QRect(screen.bottomRight() - QPoint(5, 5), QSize(4, 4)));
+    EXPECT_TRUE(screen.contains(popup->geometry()));
+    const QRect needed = popup->fontMetrics().boundingRect(popup->contentsRect(), Qt::TextWordWrap, text);
+    EXPECT_LE(needed.height(), popup->height());
+    QPointer<HelpPopup> shown(popup);
+    QTest::keyClick(popup, Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(shown.isNull());
+  });
 }
 
 /// Keeps the names it hears of.

@@ -2,7 +2,7 @@
 // Test sends: from the dialog to what the alert server is handed, and the report.
 #include <thread>
 
-#include "alerting/testing/send_test.h"
+#include "alerting/testing/sends.h"
 #include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/computers.h"
 #include "tests/stories/service_sheet_fixture.h"

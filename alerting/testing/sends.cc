@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "alerting/testing/send_test.h"
+#include "alerting/testing/sends.h"
 
 #include <atomic>
 #include <new>
