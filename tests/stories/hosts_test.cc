@@ -315,6 +315,42 @@ TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
   EXPECT_TRUE(Providers().empty());
 }
 
+TEST_F(HostsTest, ProvidersAreImportedFromAFileAndItsFaultsAreTold) {
+  const TemporaryDirectory folder;
+  const std::string good = folder.Path() + "/good.csv", bad = folder.Path() + "/bad.csv",
+                    header = "company,phone,baud rate,parity,data bits,stop bits,text length\n";
+  const auto line = [](const std::string& company) { return company + ",555-0161,2400,even,7,1,240\n"; };
+  platform::WriteFileAtomically(good, header + line("A") + line("B") + line("A") + line("C"), 0600);
+  std::string faults, wrong = header + line("A");
+  for (int i = 3; i <= 14; ++i) wrong += "x\n";
+  for (int i = 3; i <= 12; ++i)
+    faults +=
+        "\nLine " + std::to_string(i) + ": the number of fields is 1, that of columns 7: give it as many.";
+  platform::WriteFileAtomically(bad, wrong, 0600);
+  Script().ExpectWindow("Paging Providers", [&](Person& p) {
+    Press(p, {"&Import...", "&Import..."});
+    EXPECT_TRUE(Providers().empty());
+    library_.engine->FailNth(kAnyStore, StoreOp::kAdd, 2);
+    p.Press("&Import...");
+    EXPECT_EQ(p.Rows("Paging &providers:").size(), 1u) << "what was added shows";
+    p.Press("&Import...");
+    EXPECT_THAT(p.Rows("Paging &providers:"), ElementsAre(Row{"A", " ", "555-0161", "2400", "240"},
+                                                          Row{"B", " ", "555-0161", "2400", "240"},
+                                                          Row{"C", " ", "555-0161", "2400", "240"}));
+    EXPECT_NE(p.HelpOn("&Import..."), "");
+    p.Press("Close");
+  });
+  for (const std::string& path : {std::string(), bad, good, good})
+    Script().ExpectFileDialog("Import Paging Providers", path);
+  Script().ExpectMessage("Nothing was imported. Correct the file and import it again.\n" + faults +
+                         "\nand 2 more.");
+  Script().ExpectMessage(
+      hosts::Sentence(site::FailureText("add the paging provider \"B\"", alertstore::kIoError)) +
+      " 1 of 4 were added: import the file again to add the rest.");
+  Script().ExpectMessage("2 paging providers were added; the site had 2 already.");
+  EXPECT_TRUE(hosts::EditProviders(nullptr));
+}
+
 TEST_F(HostsTest, ComputersAreAddedAndRemoved) {
   alertstore::AddComputer(GUID::Generate(), "DESK");
   Script().ExpectWindow("Computers of the Site", [&](Person& p) {
