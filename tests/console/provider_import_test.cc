@@ -17,7 +17,7 @@ namespace {
 
 const std::string kHeader =
                       "company,region A,region B,phone,baud rate,parity,data bits,stop bits,text length\n",
-                  kLine = ",,555-0101,2400,even,7,1,240\n", kPlain = "||555-0101|2400|even|7|1|240";
+                  kLine = ",,,555-0101,2400,even,7,1,240\n", kPlain = "|||555-0101|2400|even|7|1|240";
 
 class ProviderImportTest : public testing::Test {
  protected:

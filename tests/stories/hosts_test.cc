@@ -13,6 +13,7 @@
 #include "console/site/advice.h"
 #include "console/site/managers.h"
 #include "console/site/responses.h"
+#include "platform/base/atomic_write.h"
 #include "tests/stories/service_sheet_fixture.h"
 #include "tests/support/static_calls.h"
 
@@ -340,13 +341,18 @@ TEST_F(HostsTest, ProvidersAreImportedFromAFileAndItsFaultsAreTold) {
     EXPECT_NE(p.HelpOn("&Import..."), "");
     p.Press("Close");
   });
-  for (const std::string& path : {std::string(), bad, good, good})
+  const auto choose = [&](const std::string& path) {
     Script().ExpectFileDialog("Import Paging Providers", path);
+  };
+  choose("");
+  choose(bad);
   Script().ExpectMessage("Nothing was imported. Correct the file and import it again.\n" + faults +
                          "\nand 2 more.");
+  choose(good);
   Script().ExpectMessage(
-      hosts::Sentence(site::FailureText("add the paging provider \"B\"", alertstore::kIoError)) +
-      " 1 of 4 were added: import the file again to add the rest.");
+      hosts::Sentence(site::FailureText("add the paging provider \"B\"", alertstore::kIoError) +
+                      "; 1 of 4 were added: import the file again to add the rest"));
+  choose(good);
   Script().ExpectMessage("2 paging providers were added; the site had 2 already.");
   EXPECT_TRUE(hosts::EditProviders(nullptr));
 }
