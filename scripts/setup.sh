@@ -3,8 +3,8 @@
 # its packages cannot be had, everything but the Qt desktop and the console window is still built.
 set -euo pipefail
 
-required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libgtest-dev libgmock-dev
-          libbenchmark-dev)
+required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libcsv-dev libgtest-dev
+          libgmock-dev libbenchmark-dev)
 optional=(qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-dejavu-core ccache)
 
 missing() {

@@ -41,6 +41,7 @@ int main(int argc, char** argv) {
   alertctl::AddUserVerbs(verbs);
   alertctl::AddEntryVerbs(verbs);
   alertctl::AddManagerVerbs(verbs);
+  alertctl::AddProviderVerbs(verbs);
   alertctl::AddResponseVerbs(verbs);
   alertctl::AddConfigVerbs(verbs);
   alertctl::AddBackupVerbs(verbs);

@@ -23,8 +23,6 @@ constexpr char kEnableExamples[] =
     "  alertctl service enable \"Internet Mail\" --manager \"$(uname -n)\"";
 constexpr char kDisableExamples[] = "  alertctl service disable \"Internet Mail\"";
 
-constexpr char kTellManagers[] = "Tell the alert managers with \"alertctl config write\".\n";
-
 struct Arguments {
   std::string service;
   std::string new_name;

@@ -24,22 +24,6 @@ bool Matches(const Json& object, const std::string& name) {
   return platform::EqualIgnoringCase(object["name"].get<std::string>(), name);
 }
 
-/// The one object of `objects` with that name or identity; `kind` and `list_verb` are for the messages.
-const Json& FindOne(const Json& objects, const std::string& name, const std::string& kind,
-                    const std::string& list_verb) {
-  const Json* found = nullptr;
-  for (const Json& object : objects) {
-    if (!Matches(object, name)) continue;
-    if (found != nullptr)
-      throw Failure(kInvalid, "more than one " + kind + " is named \"" + name +
-                                  "\": name it by its identity (\"" + list_verb + "\" shows them)");
-    found = &object;
-  }
-  if (found == nullptr)
-    throw Failure(kNothingMatched, "no " + kind + " is named \"" + name + "\": see \"" + list_verb + "\"");
-  return *found;
-}
-
 const dbconfig::ServiceType* TypeOf(const Json& service) {
   for (const auto& type : dbconfig::ServiceTypes())
     if (service["type"] == type.key) return &type;
@@ -54,6 +38,21 @@ dbconfig::Site ReadSite() {
 }
 
 }  // namespace
+
+const Json& FindOne(const Json& objects, const std::string& name, const std::string& kind,
+                    const std::string& list_verb) {
+  const Json* found = nullptr;
+  for (const Json& object : objects) {
+    if (!Matches(object, name)) continue;
+    if (found != nullptr)
+      throw Failure(kInvalid, "more than one " + kind + " is named \"" + name +
+                                  "\": name it by its identity (\"" + list_verb + "\" shows them)");
+    found = &object;
+  }
+  if (found == nullptr)
+    throw Failure(kNothingMatched, "no " + kind + " is named \"" + name + "\": see \"" + list_verb + "\"");
+  return *found;
+}
 
 Json LoadSite() {
   Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));

@@ -17,6 +17,10 @@ Json LoadSite();
 /// Masks the passwords in a document, and the community names of the SNMP managers, which are passwords too.
 void MaskSecrets(Json& document);
 
+/// The one object of `objects`, which have "id" and "name", of that name (either case) or identity; `kind` and `list_verb`
+/// are for the messages. Throws kNothingMatched, or kInvalid when several match.
+const Json& FindOne(const Json& objects, const std::string& name, const std::string& kind,
+                    const std::string& list_verb);
 /// The service of that name (either case) or identity. Throws kNothingMatched, or kInvalid when several
 /// match.
 const Json& FindService(const Json& site, const std::string& name);

@@ -65,6 +65,7 @@ int Verbs::Run() {
     return kStoreFailure;
   } catch (const Failure& failure) {
     PrintError(failure.what());
+    for (const std::string& detail : failure.Details()) PrintError(detail);
     return failure.Code();
   } catch (const std::exception& error) {
     PrintError(error.what());

@@ -69,6 +69,7 @@ void AddServiceVerbs(Verbs& verbs);
 void AddUserVerbs(Verbs& verbs);
 void AddEntryVerbs(Verbs& verbs);
 void AddManagerVerbs(Verbs& verbs);
+void AddProviderVerbs(Verbs& verbs);
 void AddResponseVerbs(Verbs& verbs);
 void AddConfigVerbs(Verbs& verbs);
 void AddBackupVerbs(Verbs& verbs);

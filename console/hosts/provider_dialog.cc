@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "console/hosts/provider_dialog.h"
 
-#include <charconv>
 #include <functional>
+#include <optional>
 
 #include "console/hosts/host_dialog.h"
 #include "console/site/advice.h"
+#include "console/site/provider_fields.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/lists.h"
 
@@ -26,13 +27,6 @@ enum ControlId {
   kIdTextLength
 };
 
-/// 0, which no number of a provider is, for what is none.
-std::uint32_t Number(const std::string& text) {
-  std::uint32_t number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  return error == std::errc() && end == text.data() + text.size() ? number : 0;
-}
-
 class ProviderDialog : public HostDialog {
  public:
   using Store = std::function<alertstore::Status(Provider&)>;
@@ -41,8 +35,8 @@ class ProviderDialog : public HostDialog {
  private:
   void OnInitDialog() override;
   void OnOk() override;
-  std::string TooLong() const;
-  Provider Entered() const;
+  /// Answers what is wrong with what was entered, as a sentence, or "".
+  std::string Enter(Provider& provider) const;
 
   Provider& provider_;
   const Store store_;
@@ -93,61 +87,36 @@ void ProviderDialog::OnInitDialog() {
   text_length_.SetText(std::to_string(provider_.maxTextLength));
 }
 
-// The fields have no limits: what is too long is told, not cut, so that nothing pasted is lost.
-std::string ProviderDialog::TooLong() const {
-  const std::tuple<const ui::Edit&, const char*, std::size_t> fields[] = {
-      {company_, "a provider's company", decltype(provider_.company)::kMaxLength},
-      {region_a_, "the first part of the location", decltype(provider_.regionA)::kMaxLength},
-      {region_b_, "the second part of the location", decltype(provider_.regionB)::kMaxLength},
-      {phone_, "the phone number", decltype(provider_.phone)::kMaxLength}};
-  for (const auto& [field, what, limit] : fields)
-    if (const std::size_t size = Trimmed(field.Text()).size(); size > limit)
-      return what + (" has at most " + std::to_string(limit)) + " bytes: this one has " +
-             std::to_string(size);
-  return {};
-}
-
-// A code that no item stands for stays as it is.
-Provider ProviderDialog::Entered() const {
-  const auto chosen = [](const ui::ComboBox& combo, std::uint32_t before) {
-    return combo.Current() < 0 ? before : static_cast<std::uint32_t>(combo.Data(combo.Current()));
+// The fields have no limits: what is too long is told, not cut, so that nothing pasted is lost. A code that no item stands
+// for stays as it is.
+std::string ProviderDialog::Enter(Provider& provider) const {
+  const auto chosen = [](const ui::ComboBox& list) {
+    return list.Current() < 0 ? std::optional<std::string>() : list.Text();
   };
-  Provider entered = provider_;
-  entered.company.Assign(Trimmed(company_.Text()));
-  entered.regionA.Assign(Trimmed(region_a_.Text()));
-  entered.regionB.Assign(Trimmed(region_b_.Text()));
-  entered.phone.Assign(Trimmed(phone_.Text()));
-  entered.baudRate = Number(baud_rate_.Text());
-  entered.parity = chosen(parity_, provider_.parity);
-  entered.dataBits = chosen(data_bits_, provider_.dataBits);
-  entered.stopBits = chosen(stop_bits_, provider_.stopBits);
-  entered.maxTextLength = Number(text_length_.Text());
-  return entered;
+  const std::optional<std::string> written[] = {company_.Text(),    region_a_.Text(),   region_b_.Text(),
+                                                phone_.Text(),      baud_rate_.Text(),  chosen(parity_),
+                                                chosen(data_bits_), chosen(stop_bits_), text_length_.Text()};
+  for (std::size_t i = 0; i < std::size(written); ++i) {
+    if (!written[i]) continue;
+    const std::string problem = site::ProviderFields()[i].Take(provider, *written[i]);
+    if (!problem.empty()) return problem;
+  }
+  return site::ProviderProblem(provider);
 }
 
 void ProviderDialog::OnOk() {
-  if (const std::string problem = TooLong(); !problem.empty()) return Tell(problem);
-  Provider entered = Entered();
-  if (const std::string problem = site::ProviderProblem(entered); !problem.empty()) return Tell(problem);
+  Provider entered = provider_;
+  if (const std::string problem = Enter(entered); !problem.empty()) return Tell(problem);
   if (const alertstore::Status status = store_(entered))
     return Tell(site::FailureText("store the paging provider", status));
   provider_ = entered;
   EndDialog(ui::kOk);
 }
 
-Provider UsualProvider() {
-  Provider provider{};
-  provider.baudRate = 2400;
-  provider.parity = 2;
-  provider.dataBits = 7;
-  provider.maxTextLength = 240;
-  return provider;
-}
-
 }  // namespace
 
 bool AddProvider(ui::Window* parent, platform::GUID& added) {
-  Provider provider = UsualProvider();
+  Provider provider = site::UsualProvider();
   if (ProviderDialog(parent, "New Paging Provider", provider, site::AddProvider).RunModal() != ui::kOk)
     return false;
   added = provider.guid;

@@ -5,6 +5,7 @@
 
 #include "console/hosts/list_dialog.h"
 #include "console/hosts/provider_dialog.h"
+#include "console/hosts/provider_import.h"
 #include "console/site/advice.h"
 
 namespace hosts {
@@ -23,6 +24,7 @@ class ProvidersDialog : public ListDialog {
   void Add();
   void Change();
   void Remove();
+  void Import();
   site::Provider Chosen();
 
   std::vector<site::Provider> providers_;
@@ -39,6 +41,7 @@ ProvidersDialog::ProvidersDialog(ui::Window* parent)
   AddButton("&Add...", [this] { Add(); });
   AddRowButton("&Change...", [this] { Change(); });
   AddRowButton("&Remove", [this] { Remove(); });
+  AddButton("&Import...", [this] { Import(); });
   List().SetOnDoubleClick([this] {
     if (List().Chosen() != nullptr) Change();
   });
@@ -82,6 +85,10 @@ void ProvidersDialog::Remove() {
   const alertstore::Status status = site::RemoveProvider(provider.guid);
   if (status != alertstore::kOk) return Tell(site::FailureText("remove the paging provider", status));
   NoteChange();
+}
+
+void ProvidersDialog::Import() {
+  if (ImportProviders(this)) NoteChange();
 }
 
 }  // namespace

@@ -20,6 +20,9 @@ alertstore::Status AddProvider(Provider& provider);
 alertstore::Status UpdateProvider(const Provider& provider);
 alertstore::Status RemoveProvider(const platform::GUID& id);
 
+/// One without names, with the line settings that most have.
+Provider UsualProvider();
+
 /// What keeps a pager from being reached through the provider, as a sentence; "" when nothing does.
 std::string ProviderProblem(const Provider& provider);
 

@@ -25,11 +25,14 @@ std::vector<std::string> ExamplesIn(const std::string& help) {
 TEST_F(AlertctlTest, EveryExampleWorksAsItIsPrinted) {
   const std::string program = ALERTCTL;
   const std::string path = "PATH=" + Quoted(program.substr(0, program.rfind('/'))) + ":$PATH; ";
+  std::filesystem::copy_file(PROVIDERS_EXAMPLE, root_ + "/providers.csv");
   for (const std::string verb :
-       {"init",          "user add",       "user list",       "service list",   "service show",
-        "service copy",  "service enable", "service disable", "service delete", "entry set",
-        "entry list",    "entry remove",   "user remove",     "manager list",   "response list",
-        "response show", "config write",   "config show",     "backup",         "restore"}) {
+       {"init",          "provider import", "provider list",  "provider show",   "provider add",
+        "provider set",  "provider remove", "user add",       "user list",       "service list",
+        "service show",  "service copy",    "service enable", "service disable", "service delete",
+        "entry set",     "entry list",      "entry remove",   "user remove",     "manager list",
+        "response list", "response show",   "config write",   "config show",     "backup",
+        "restore"}) {
     const Ran help = RunLine(path + "alertctl " + verb + " --help");
     EXPECT_EQ(help.code, 0);
     EXPECT_THAT(help.out, AllOf(HasSubstr("--json"), HasSubstr("--data")));

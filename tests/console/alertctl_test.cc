@@ -228,4 +228,47 @@ TEST_F(AlertctlUserTest, AnEntryWhoseRecordIsGoneIsRepaired) {
   EXPECT_EQ(RunJson({"entry", "list"}).size(), 1u);
 }
 
+TEST_F(AlertctlSiteTest, ProvidersAreAddedChangedAndRemovedOneByOne) {
+  const json hills = RunJson({"provider", "add", "--company", " Hills ", "--phone", "555-0151"});
+  EXPECT_EQ(RunJson({"provider", "show", "hills"}), hills);
+  const json changed =
+      RunJson({"provider", "set", hills["id"], "--region-a", "North", "--parity", "ODD", "--stop-bits", "1.5",
+               "--baud-rate", "300", "--data-bits", "8", "--text-length", "255"});
+  EXPECT_EQ(changed,
+            json::parse(R"({"company": "Hills", "regionA": "North", "regionB": "", "phone": "555-0151",
+    "baudRate": 300, "parityCode": 1, "dataBits": 8, "stopBitsCode": 1, "maxTextLength": 255, "id": )" +
+                        hills["id"].dump() + "}"));
+  EXPECT_EQ(json::parse(ConfigFile())["pagingProviders"][4], changed);
+  for (const auto& [arguments, code] : {std::pair(Arguments{"--text-length", "256"}, 4),
+                                        {{"--baud-rate", "-1"}, 4},
+                                        {{"--phone", "call"}, 4},
+                                        {{"--region-b", std::string(77, 'x')}, 4},
+                                        {{"--company", ""}, 2},
+                                        {{}, 2}}) {
+    Arguments all = {"provider", "set", "Hills"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    EXPECT_THAT(Run(all), Fails(code, "")) << testing::PrintToString(arguments);
+  }
+  EXPECT_EQ(RunJson({"provider", "set", "Hills", "--region-a", ""})["regionA"], "");
+  RunJson({"provider", "add", "--company", "HILLS", "--phone", "555-0151"});
+  EXPECT_THAT(Run({"provider", "remove", "Hills"}), Fails(4, "name it by its identity"));
+  EXPECT_EQ(RunJson({"provider", "remove", hills["id"]})["phone"], "555-0151");
+  EXPECT_EQ(RunJson({"provider", "list"}).size(), 5u);
+  EXPECT_THAT(Run({"provider", "show", hills["id"]}), Fails(3, "alertctl provider list"));
+}
+
+TEST_F(AlertctlSiteTest, ImportTellsEveryFaultOnALineOfItsOwnAndChangesNothingTheSecondTime) {
+  const std::string file = root_ + "/p.csv";
+  platform::WriteFileAtomically(file, "company\nA\n", 0600);
+  const Ran ran = Run({"provider", "import", file});
+  EXPECT_THAT(ran, Fails(4, "\nalertctl: line 1: there is no column \"phone\": add it\nalertctl: "));
+  EXPECT_EQ(RunJson({"provider", "import", PROVIDERS_EXAMPLE})["added"], 3);
+  const std::string before = ConfigFile();
+  const json again = RunJson({"provider", "import", PROVIDERS_EXAMPLE});
+  EXPECT_EQ(again["added"], 0);
+  EXPECT_EQ(again["known"], 3);
+  EXPECT_EQ(ConfigFile(), before);
+  EXPECT_THAT(Run({"provider", "import", root_ + "/none.csv"}), Fails(3, "there is no file"));
+}
+
 }  // namespace

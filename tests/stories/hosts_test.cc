@@ -13,6 +13,7 @@
 #include "console/site/advice.h"
 #include "console/site/managers.h"
 #include "console/site/responses.h"
+#include "platform/base/atomic_write.h"
 #include "tests/stories/service_sheet_fixture.h"
 #include "tests/support/static_calls.h"
 
@@ -313,6 +314,47 @@ TEST_F(HostsTest, ProvidersAreAddedChangedAndRemoved) {
                            answer);
   EXPECT_TRUE(hosts::EditProviders(nullptr));
   EXPECT_TRUE(Providers().empty());
+}
+
+TEST_F(HostsTest, ProvidersAreImportedFromAFileAndItsFaultsAreTold) {
+  const TemporaryDirectory folder;
+  const std::string good = folder.Path() + "/good.csv", bad = folder.Path() + "/bad.csv",
+                    header = "company,phone,baud rate,parity,data bits,stop bits,text length\n";
+  const auto line = [](const std::string& company) { return company + ",555-0161,2400,even,7,1,240\n"; };
+  platform::WriteFileAtomically(good, header + line("A") + line("B") + line("A") + line("C"), 0600);
+  std::string faults, wrong = header + line("A");
+  for (int i = 3; i <= 14; ++i) wrong += "x\n";
+  for (int i = 3; i <= 12; ++i)
+    faults +=
+        "\nLine " + std::to_string(i) + ": the number of fields is 1, that of columns 7: give it as many.";
+  platform::WriteFileAtomically(bad, wrong, 0600);
+  Script().ExpectWindow("Paging Providers", [&](Person& p) {
+    Press(p, {"&Import...", "&Import..."});
+    EXPECT_TRUE(Providers().empty());
+    library_.engine->FailNth(kAnyStore, StoreOp::kAdd, 2);
+    p.Press("&Import...");
+    EXPECT_EQ(p.Rows("Paging &providers:").size(), 1u) << "what was added shows";
+    p.Press("&Import...");
+    EXPECT_THAT(p.Rows("Paging &providers:"), ElementsAre(Row{"A", " ", "555-0161", "2400", "240"},
+                                                          Row{"B", " ", "555-0161", "2400", "240"},
+                                                          Row{"C", " ", "555-0161", "2400", "240"}));
+    EXPECT_NE(p.HelpOn("&Import..."), "");
+    p.Press("Close");
+  });
+  const auto choose = [&](const std::string& path) {
+    Script().ExpectFileDialog("Import Paging Providers", path);
+  };
+  choose("");
+  choose(bad);
+  Script().ExpectMessage("Nothing was imported. Correct the file and import it again.\n" + faults +
+                         "\nand 2 more.");
+  choose(good);
+  Script().ExpectMessage(
+      hosts::Sentence(site::FailureText("add the paging provider \"B\"", alertstore::kIoError) +
+                      "; 1 of 4 were added: import the file again to add the rest"));
+  choose(good);
+  Script().ExpectMessage("2 paging providers were added; the site had 2 already.");
+  EXPECT_TRUE(hosts::EditProviders(nullptr));
 }
 
 TEST_F(HostsTest, ComputersAreAddedAndRemoved) {
