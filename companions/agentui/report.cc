@@ -110,10 +110,10 @@ Report UnansweredReport(const std::vector<std::string>& managers) {
   Report report;
   report.verdict = Verdict::kUnanswered;
   report.explanation = "No alert server answered. ";
-  report.explanation +=
-      managers.empty()
-          ? "There is none that could: no alert manager delivers through this service."
-          : "The service is enabled on " + Joined(managers) + ": see that an alert server is running there.";
+  report.explanation += managers.empty()
+                            ? "There is none that could: no alert manager delivers through this service."
+                            : "The service is delivered by " + Joined(managers) +
+                                  ": see that an alert server is running there.";
   return report;
 }
 

@@ -3,6 +3,7 @@
 
 #include "companions/alertstore/engine.h"
 #include "companions/alertstore/records.h"
+#include "console/site/backup_manager.h"
 
 namespace alertctl {
 
@@ -25,6 +26,7 @@ Library::Library() : stores_(std::make_shared<StoreWatch>()) {
                                 "ALERTING_LIBRARY");
   if (calls_.OpenDBs() > site::kStoresWereOpen)
     throw StoreFailure("open the stores", stores_->FirstFailure(), stores_->Cause());
+  calls_.DomainServiceSetBackupServer(site::ReadBackupManager());
 }
 
 Library::~Library() {

@@ -65,7 +65,7 @@ bool ManagerServicesDialog::ReadRows(std::vector<RecordList::Row>& rows) {
   }
   for (const site::Service& service : overview_.services)
     rows.push_back({service.id,
-                    {service.name, dbconfig::ServiceTypeName(service.record_type), service.on ? "Yes" : "No",
+                    {service.name, dbconfig::ServiceTypeName(service.record_type), service.on ? "On" : "Off",
                      Listed(service.managers)}});
   return true;
 }

@@ -10,6 +10,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "companions/ctxhelp/resource_directory.h"
 #include "console/hosts/host_dialog.h"
@@ -137,8 +138,19 @@ void MainWindow::ReadSite() {
     return ShowProblem("The site cannot be read: " + site::FailureText("read the records", status) + ".");
   library_.DomainServiceSetBackupServer(site::ReadBackupManager());
   if (site_.services.empty() && site_.users.empty()) return ShowNothingYet();
-  LearnIcons();
+  LoadServices();
   ShowSite();
+}
+
+// The library adds backup records to services of the dial-out types that have none yet. Nobody has to be asked whether the
+// alert managers are to be told of that, where they were up to date before.
+void MainWindow::LoadServices() {
+  if (!std::exchange(loaded_, true)) managers_file_.Look();
+  const bool told = managers_file_.Told();
+  LearnIcons();
+  if (!told || !changes_.Changed()) return;
+  managers_file_.Look();
+  if (!managers_file_.Told()) managers_file_.Write();
 }
 
 void MainWindow::ShowSite() {
@@ -184,6 +196,7 @@ void MainWindow::SetUp() {
     hosts::Tell(failure.what());
   }
   managers_file_.Write();
+  loaded_ = true;
   ReadSite();
 }
 
@@ -221,9 +234,14 @@ void MainWindow::TellManagers() {
 }
 
 void MainWindow::LookForChanges() {
-  if (busy_ || !changes_.Changed()) return;
+  if (!busy_ && changes_.Changed()) Refresh();
+}
+
+void MainWindow::Refresh() {
+  if (busy_) return;
   const QScopedValueRollback<bool> reading(busy_, true);
   ReadSite();
+  if (FrontPage() == nullptr) return;
   managers_file_.Look();
   ShowNotices();
 }
@@ -237,7 +255,7 @@ void MainWindow::Do(const std::function<Outcome()>& work, const QString& done) {
   if (outcome == Outcome::kMayHaveStored) managers_file_.Look();
   ReadSite();
   changes_.Changed();  // this console's own
-  if (outcome != Outcome::kNothing && !done.isEmpty()) said_->setText(done);
+  if (outcome == Outcome::kStored && !done.isEmpty()) said_->setText(done);
 }
 
 void MainWindow::OpenSheet(const platform::GUID& service) { services_->OpenSheet(service); }

@@ -44,7 +44,7 @@ class MainWindow : public QMainWindow,
   /// those of the Tools menu.
   void VisitCommands(const std::function<void(const QString& page, QAction& command)>& visit);
 
-  const site::LibraryCalls& Library() const override { return library_; }
+  const site::LibraryCalls& Calls() const override { return library_; }
   platform::ui::Window* Owner() override { return &as_owner_; }
   const site::Overview& Site() const override { return site_; }
   QIcon IconOf(std::uint32_t record_type) const override;
@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow,
   void LearnIcons();
   Page* FrontPage() const;
   void ShowPageCommands();
+  void LoadServices();
   void ShowSite();
   void ShowNothingYet();
   void ShowProblem(const std::string& problem);
@@ -74,6 +75,7 @@ class MainWindow : public QMainWindow,
   void ShowStatus();
   void SetUp();
   void TellManagers();
+  void Refresh();
   void EditRules();
   void ShowGuide();
 
@@ -93,7 +95,8 @@ class MainWindow : public QMainWindow,
   QToolBar* bar_ = nullptr;
   QLabel *summary_, *said_;
   GuideWindow* guide_ = nullptr;
-  bool busy_ = false;  ///< while a person works in a window that is modal to this one
+  bool loaded_ = false;  ///< the services, once
+  bool busy_ = false;    ///< while a person works in a window that is modal to this one
 };
 
 }  // namespace alertconsole

@@ -46,7 +46,7 @@ void MainWindow::MakeMenus() {
   console->addAction(tr("&Find"), QKeySequence::Find, this, [this] {
     if (Page* page = FrontPage()) page->MainView().FocusFilter();
   });
-  console->addAction(tr("&Refresh"), QKeySequence::Refresh, this, [this] { ReadSite(); });
+  console->addAction(tr("&Refresh"), QKeySequence::Refresh, this, [this] { Refresh(); });
   console->addAction(tr("&Tell the Alert Managers"), this, [this] { TellManagers(); });
   console->addSeparator();
   console->addAction(tr("E&xit"), QKeySequence::Quit, this, &QWidget::close);

@@ -127,7 +127,11 @@ void ManagersPage::Remove() {
                         "\n\nThis cannot be undone."))
           return Outcome::kNothing;
         const alertstore::Status status = site::RemoveManager(manager.id);
-        if (status != alertstore::kOk) hosts::Tell(site::FailureText("remove the alert manager", status));
+        if (status != alertstore::kOk) {
+          hosts::Tell(site::FailureText("remove the alert manager", status));
+          return Outcome::kMayHaveStored;
+        }
+        if (site::ReadBackupManager() == manager.id) site::WriteBackupManager(platform::kNullGuid);
         return Outcome::kStored;
       },
       tr("Removed \"%1\".").arg(ToQt(manager.name)));
@@ -136,7 +140,7 @@ void ManagersPage::Remove() {
 void ManagersPage::Services() {
   const GUID manager = Chosen(view_);
   console_.Do([&] {
-    return hosts::EditManagerServices(console_.Owner(), console_.Library(), console_.Site(), manager)
+    return hosts::EditManagerServices(console_.Owner(), console_.Calls(), console_.Site(), manager)
                ? Outcome::kStored
                : Outcome::kNothing;
   });
@@ -153,7 +157,7 @@ void ManagersPage::SetBackup() {
         return problem.empty() ? Outcome::kStored : Outcome::kNothing;
       },
       backup.IsNull() ? tr("There is no backup now.")
-                      : tr("Takes over for services with a backup modem that are delivered from now on."));
+                      : tr("Takes over for services that dial out and are delivered from now on."));
 }
 
 }  // namespace alertconsole

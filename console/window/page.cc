@@ -10,8 +10,9 @@ QAction* Page::Add(RecordView& view, const QString& text, const QKeySequence& ke
                    std::function<void()> act) {
   auto* command = new QAction(text, this);
   command->setShortcut(key);
-  // What needs no row works wherever the keyboard is in the window; two tables may use one key for theirs.
-  command->setShortcutContext(needs == Needs::kNothing ? Qt::WindowShortcut : Qt::WidgetWithChildrenShortcut);
+  // Keys work wherever the keyboard is in the window, but for Delete, which a field and two tables may want.
+  command->setShortcutContext(key == QKeySequence::Delete ? Qt::WidgetWithChildrenShortcut
+                                                          : Qt::WindowShortcut);
   command->setEnabled(needs == Needs::kNothing);  // until something is chosen
   connect(command, &QAction::triggered, this, std::move(act));
   view.Table().addAction(command);

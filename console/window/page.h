@@ -16,9 +16,10 @@ namespace alertconsole {
 
 /// What became of the stores in something that a person did.
 enum class Outcome {
-  kNothing,       ///< nothing was stored
-  kStored,        ///< something was, and the alert managers are to learn of it
-  kMayHaveStored  ///< a window of the library was open, which stores and tells the alert managers by itself
+  kNothing,  ///< nothing was stored
+  kStored,   ///< something was, and the alert managers are to learn of it
+  kMayHaveStored  ///< a window of the library was open, which stores and tells the alert managers by itself; or not all
+                  ///< that was asked for was done, which was told
 };
 
 /// What the pages of the main window work with.
@@ -26,7 +27,7 @@ class Console {
  public:
   virtual ~Console() = default;
 
-  virtual const site::LibraryCalls& Library() const = 0;
+  virtual const site::LibraryCalls& Calls() const = 0;
   /// The owner of the windows that are opened.
   virtual platform::ui::Window* Owner() = 0;
   /// The site as it was last read.

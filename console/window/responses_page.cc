@@ -65,7 +65,7 @@ void ResponsesPage::New() {
   platform::GUID added{};
   console_.Do(
       [&] {
-        return hosts::AddResponse(console_.Owner(), console_.Library(), console_.Site(), added)
+        return hosts::AddResponse(console_.Owner(), console_.Calls(), console_.Site(), added)
                    ? Outcome::kStored
                    : Outcome::kNothing;
       },
@@ -77,8 +77,8 @@ void ResponsesPage::Edit() {
   const platform::GUID id = Chosen(view_);
   console_.Do(
       [&] {
-        return hosts::EditResponse(console_.Owner(), console_.Library(), id) ? Outcome::kStored
-                                                                             : Outcome::kNothing;
+        return hosts::EditResponse(console_.Owner(), console_.Calls(), id) ? Outcome::kStored
+                                                                           : Outcome::kNothing;
       },
       tr("Stored the response."));
 }
@@ -87,7 +87,7 @@ void ResponsesPage::Retarget() {
   const platform::GUID id = Chosen(view_);
   console_.Do(
       [&] {
-        return hosts::RetargetResponse(console_.Owner(), console_.Library(), console_.Site(), id)
+        return hosts::RetargetResponse(console_.Owner(), console_.Calls(), console_.Site(), id)
                    ? Outcome::kStored
                    : Outcome::kNothing;
       },
@@ -103,8 +103,9 @@ void ResponsesPage::Remove() {
         if (!hosts::Ask("Remove " + which + "?\n\nThis cannot be undone.")) return Outcome::kNothing;
         for (const RowKey& key : chosen) {
           const alertstore::Status status = site::RemoveResponse(key.id);
-          if (status != alertstore::kOk && status != alertstore::kNotFound)
-            hosts::Tell(site::FailureText("remove the response", status));
+          if (status == alertstore::kOk || status == alertstore::kNotFound) continue;
+          hosts::Tell(site::FailureText("remove the response", status));
+          return Outcome::kMayHaveStored;
         }
         return Outcome::kStored;
       },

@@ -58,7 +58,8 @@ bool VisitSheets(const site::Overview& site, MainWindow& window, Tour& tour) {
 void VisitCommands(MainWindow& window, Tour& tour) {
   QString last;
   window.VisitCommands([&](const QString& page, QAction& command) {
-    if (page != std::exchange(last, page)) tour.Look(window, "console-" + page.toLower().replace(' ', '-'));
+    if (page != std::exchange(last, page) && page != "Tools")
+      tour.Look(window, "console-" + page.toLower().replace(' ', '-'));
     const QString text = QString(command.text()).remove('&');
     if (!text.endsWith("...") || text == "Properties...") return;
     tour.Visit(text.chopped(3).toLower().replace(' ', '-'), [&] { command.trigger(); });

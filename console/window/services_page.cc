@@ -98,7 +98,7 @@ void ServicesPage::AddCommands() {
   Add(view_, tr("&Properties..."), {}, Needs::kOneRow, [this] { OpenSheet(Chosen(view_)); });
   QAction* backup = Add(view_, tr("&Backup Modem..."), {}, Needs::kOneRow, [this] { OpenBackup(); });
   OnlyIf(backup, [this] {
-    return console_.Library().DomainServiceIsModemService(console_.Library().IndexOf(Chosen(view_))) != 0;
+    return console_.Calls().DomainServiceIsModemService(console_.Calls().IndexOf(Chosen(view_))) != 0;
   });
   Add(view_, tr("&Test..."), {}, Needs::kOneRow, [this] { Test(); });
   AddSeparator();
@@ -134,23 +134,21 @@ bool ServicesPage::IsFirstOfType() const {
 }
 
 void ServicesPage::OpenSheet(const GUID& service) {
+  OpenMarked(service, console_.Calls().DomainServicePropertySheet);
+}
+
+void ServicesPage::OpenMarked(const GUID& service, decltype(::DomainServicePropertySheet)* open) {
   console_.Do([&] {
     const site::OpenMark mark(service);
-    const int index = Locate(console_.Library(), service);
+    const int index = Locate(console_.Calls(), service);
     if (index < 0 || !MayOpen(mark.Other())) return Outcome::kNothing;
-    console_.Library().DomainServicePropertySheet(console_.Owner(), index);
+    open(console_.Owner(), index);
     return Outcome::kMayHaveStored;
   });
 }
 
 void ServicesPage::OpenBackup() {
-  const GUID service = Chosen(view_);
-  console_.Do([&] {
-    const int index = Locate(console_.Library(), service);
-    if (index < 0) return Outcome::kNothing;
-    console_.Library().DomainServiceBackupPropertySheet(console_.Owner(), index);
-    return Outcome::kMayHaveStored;
-  });
+  OpenMarked(Chosen(view_), console_.Calls().DomainServiceBackupPropertySheet);
 }
 
 // Services that reach users are tested with one of them; the others have their test in the properties.
@@ -167,9 +165,9 @@ void ServicesPage::Test() {
   if (users.empty()) return OpenSheet(service.id);
   console_.Do([&] {
     const auto chosen = choices::Choose(console_.Owner(), offer);
-    const int index = chosen ? Locate(console_.Library(), service.id) : -1;
+    const int index = chosen ? Locate(console_.Calls(), service.id) : -1;
     if (index < 0) return Outcome::kNothing;
-    console_.Library().UserServiceTestDialog(console_.Owner(), index, users[*chosen]);
+    console_.Calls().UserServiceTestDialog(console_.Owner(), index, users[*chosen]);
     return Outcome::kMayHaveStored;
   });
 }
@@ -181,11 +179,11 @@ void ServicesPage::Copy() {
     for (const site::Service& other : console_.Site().services)
       if (ToQt(other.name).compare(ToQt(name), Qt::CaseInsensitive) == 0)
         return "There is a service named \"" + other.name + "\" already: choose another name.";
-    const int index = console_.Library().IndexOf(service.id);
+    const int index = console_.Calls().IndexOf(service.id);
     if (index < 0) return "Another console has deleted the service that is to be copied.";
-    if (console_.Library().DomainServiceCopyService(index, name.c_str()) == 0)
+    if (console_.Calls().DomainServiceCopyService(index, name.c_str()) == 0)
       return "The service was not copied.";
-    copy = console_.Library().DomainServiceGetInfo(console_.Library().DomainServiceGetCount() - 1)->serviceId;
+    copy = console_.Calls().DomainServiceGetInfo(console_.Calls().DomainServiceGetCount() - 1)->serviceId;
     return {};
   };
   console_.Do(
@@ -227,9 +225,9 @@ void ServicesPage::Delete() {
   console_.Do(
       [&] {
         if (!hosts::Ask(desktops::qt::FromQt(question))) return Outcome::kNothing;
-        const int index = Locate(console_.Library(), service.id);
+        const int index = Locate(console_.Calls(), service.id);
         if (index < 0) return Outcome::kNothing;
-        console_.Library().DomainServiceDeleteService(index, platform::kNullGuid);
+        console_.Calls().DomainServiceDeleteService(index, platform::kNullGuid);
         return Outcome::kStored;
       },
       tr("Deleted \"%1\".").arg(ToQt(service.name)));
@@ -240,7 +238,9 @@ void ServicesPage::Switch(bool on) {
       [&] {
         for (const RowKey& key : view_.Selected()) {
           const alertstore::Status status = site::SwitchService(key.id, on);
-          if (status != alertstore::kOk) hosts::Tell(site::FailureText("switch the service", status));
+          if (status == alertstore::kOk) continue;
+          hosts::Tell(site::FailureText("switch the service", status));
+          return Outcome::kMayHaveStored;
         }
         return Outcome::kStored;
       },
@@ -248,14 +248,16 @@ void ServicesPage::Switch(bool on) {
 }
 
 Outcome ServicesPage::DeliverThrough(const GUID& manager) {
+  bool all = true;
   for (const RowKey& key : view_.Selected()) {
-    const int index = Locate(console_.Library(), key.id);
+    const int index = Locate(console_.Calls(), key.id);
     if (index < 0) continue;
-    const bool taken = manager.IsNull() ? site::StopDelivering(console_.Library(), index, key.id)
-                                        : site::DeliverThrough(console_.Library(), index, key.id, manager);
+    const bool taken = manager.IsNull() ? site::StopDelivering(console_.Calls(), index, key.id)
+                                        : site::DeliverThrough(console_.Calls(), index, key.id, manager);
+    all = all && taken;
     if (!taken) hosts::Tell("The stores did not take the change. The list shows what holds now.");
   }
-  return Outcome::kStored;
+  return all ? Outcome::kStored : Outcome::kMayHaveStored;
 }
 
 void ServicesPage::Deliver() {

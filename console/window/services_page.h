@@ -20,6 +20,7 @@ class ServicesPage : public Page {
   void AddCommands();
   const site::Service& ChosenService() const;
   bool IsFirstOfType() const;
+  void OpenMarked(const platform::GUID& service, decltype(::DomainServicePropertySheet)* open);
   void OpenBackup();
   void Test();
   void Copy();

@@ -52,7 +52,7 @@ UsersPage::UsersPage(Console& console, QWidget* parent)
 }
 
 void UsersPage::AddCommands() {
-  const auto& library = console_.Library();
+  const auto& library = console_.Calls();
   Add(users_, tr("&New User..."), QKeySequence::New, Needs::kNothing, [this] { NewUser(); });
   Add(users_, tr("&Remove User"), QKeySequence::Delete, Needs::kOneRow, [this] { RemoveUser(); });
   AddSeparator();
@@ -130,8 +130,8 @@ void UsersPage::NewUser() {
 bool UsersPage::RemoveEntriesOf(const GUID& user) {
   for (const site::Entry& entry : console_.Site().entries) {
     if (entry.user != user) continue;
-    const int index = console_.Library().IndexOf(entry.service);
-    if (index < 0 || console_.Library().UserServiceUserDelete(index, user) == 0) return false;
+    const int index = console_.Calls().IndexOf(entry.service);
+    if (index < 0 || console_.Calls().UserServiceUserDelete(index, user) == 0) return false;
   }
   return true;
 }
@@ -146,11 +146,12 @@ void UsersPage::RemoveUser() {
         if (!hosts::Ask(FromQt(question))) return Outcome::kNothing;
         if (!RemoveEntriesOf(user.id)) {
           hosts::Tell("Not all entries of the user could be removed, so the user stays.");
-          return Outcome::kStored;
+          return Outcome::kMayHaveStored;
         }
         const alertstore::Status status = alertstore::RemoveConsoleUser(user.id);
-        if (status != alertstore::kOk) hosts::Tell(site::FailureText("remove the user", status));
-        return Outcome::kStored;
+        if (status == alertstore::kOk) return Outcome::kStored;
+        hosts::Tell(site::FailureText("remove the user", status));
+        return Outcome::kMayHaveStored;
       },
       tr("Removed \"%1\".").arg(ToQt(user.name)));
 }
@@ -159,8 +160,8 @@ void UsersPage::NewEntry() {
   const site::User user = *site::Find(console_.Site().users, Chosen(users_));
   console_.Do(
       [&] {
-        return hosts::AddEntry(console_.Owner(), console_.Library(), user.id, user.name) ? Outcome::kStored
-                                                                                         : Outcome::kNothing;
+        return hosts::AddEntry(console_.Owner(), console_.Calls(), user.id, user.name) ? Outcome::kStored
+                                                                                       : Outcome::kNothing;
       },
       tr("Added the entry."));
 }
@@ -169,7 +170,7 @@ void UsersPage::WithEntry(const std::function<Outcome(int, const GUID&)>& act, c
   const RowKey entry = entries_.Selected().front();
   console_.Do(
       [&] {
-        const int index = console_.Library().IndexOf(entry.other);
+        const int index = console_.Calls().IndexOf(entry.other);
         if (index >= 0) return act(index, entry.id);
         hosts::Tell("Another console has deleted the service of this entry.");
         return Outcome::kNothing;

@@ -56,6 +56,9 @@ void ReportWidget::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ReportWidget::keyPressEvent(QKeyEvent* event) {
   if (const auto key = KeyOf(*event)) Guarded([&] { model_.OnKeyDown(*key); });
+  const QString typed = event->text();
+  if (!typed.isEmpty() && typed[0].isLetterOrNumber() && (event->modifiers() & ~Qt::ShiftModifier) == 0)
+    Guarded([&] { model_.OnTyped(FromQt(typed)); });
   // What does not move in the list may be for the window: Enter, Escape, F1.
   event->setAccepted(MovesRow(event->key()));
 }

@@ -208,6 +208,15 @@ void ListView::MoveTo(int row) {
   SelectByPerson(row);
 }
 
+void ListView::OnTyped(std::string_view letter) {
+  if (!WithinReach() || rows_.empty()) return;
+  const int count = RowCount();
+  for (int step = 1; step <= count; ++step) {
+    const int row = (std::max(focused_, -1) + step) % count;
+    if (StartsWithIgnoringCase(Cell(row, 0), letter)) return SelectByPerson(row);
+  }
+}
+
 void ListView::OnScrolled(int first_visible, int rows_per_page) {
   first_visible_ = std::max(first_visible, 0);
   rows_per_page_ = std::max(rows_per_page, 1);

@@ -146,6 +146,8 @@ class ListView : public Control {
   void OnDoubleClickAt(int row);
   /// Arrows, Home, End and the page keys move to another row.
   void OnKeyDown(Key key) override;
+  /// A person typed a letter: the next row that begins with it, round the end.
+  void OnTyped(std::string_view letter);
   /// The desktop's view of the rows changed.
   void OnScrolled(int first_visible, int rows_per_page);
 

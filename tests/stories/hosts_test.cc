@@ -253,7 +253,7 @@ TEST_F(HostsTest, AManagerDeliversTakesOverAndStops) {
   Script().ExpectWindow("Services of ONE", [&](Person& p) {
     p.ClickRow(kDelivered, 2);
     p.Press("&Deliver");
-    EXPECT_EQ(p.Rows(kDelivered)[2], (Row{"Post", "Internet Mail", "Yes", "ONE"}));
+    EXPECT_EQ(p.Rows(kDelivered)[2], (Row{"Post", "Internet Mail", "On", "ONE"}));
     PressAndFail(p, "&Stop Delivering", StoreOp::kDelete);
     p.Press("Close");
   });

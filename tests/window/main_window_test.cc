@@ -111,7 +111,7 @@ TEST_F(MainWindowTest, ANameThatIsTooLongOrTakenStaysForCorrection) {
 TEST_F(MainWindowTest, DeletingSaysWhoLosesItAndIsNoUnlessOneSaysYes) {
   OpenSetUp();
   const GUID copy = [&] {
-    const int index = Window().Library().IndexOf(ServiceNamed(Window().Site(), "Wave File")->id);
+    const int index = Window().Calls().IndexOf(ServiceNamed(Window().Site(), "Wave File")->id);
     DomainServiceCopyServiceX(index, "Siren", Window().Site().managers[0].id);
     return DomainServiceGetInfo(DomainServiceGetCount() - 1)->serviceId;
   }();
