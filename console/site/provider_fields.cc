@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "console/site/provider_fields.h"
 
+#include <algorithm>
 #include <charconv>
+#include <type_traits>
 
 #include "console/site/names.h"
+#include "platform/base/utf8.h"
 
 namespace site {
 namespace {

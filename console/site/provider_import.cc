@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 #include "console/site/advice.h"
 #include "console/site/csv.h"

@@ -47,7 +47,7 @@ std::string ReadUpTo(const platform::Descriptor& file, const std::string& path, 
 }  // namespace
 
 std::string ReadTextFile(const std::string& path, std::size_t limit) {
-  constexpr std::size_t kMegabyte = 1024 * 1024;
+  constexpr std::size_t kMegabyte = std::size_t{1024} * 1024;
   std::string text = ReadUpTo(Open(path), path, limit * kMegabyte);
   if (text.size() > limit * kMegabyte)
     throw Failure(kInvalid, path + " is larger than " + std::to_string(limit) + " MB: split it");
