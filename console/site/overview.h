@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -66,6 +67,14 @@ struct Overview {
 
 /// Reads all stores that lists are made of. On failure `overview` stays as it was.
 alertstore::Status ReadOverview(Overview& overview);
+
+/// The items of a list by their identity, for who looks up more than one of them.
+template <class Item>
+std::map<platform::GUID, const Item*> ById(const std::vector<Item>& list) {
+  std::map<platform::GUID, const Item*> items;
+  for (const Item& item : list) items.emplace(item.id, &item);
+  return items;
+}
 
 /// The one of `list` with that identity, or null.
 template <class Item>

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QSettings>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -71,6 +72,7 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   AddPage(new ManagersPage(*this, tabs_));
   front_->addWidget(tabs_);
   front_->addWidget(start_);
+  front_->setCurrentWidget(start_);  // until the site was read
   auto* middle = new QWidget(this);
   auto* column = new QVBoxLayout(middle);
   column->addWidget(notices_);
@@ -80,7 +82,9 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   statusBar()->addWidget(said_, 1);
   MakeMenus();
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowPageCommands(); });
-  resize(fontMetrics().averageCharWidth() * kWidthInLetters, fontMetrics().lineSpacing() * kHeightInLines);
+  const QSize wanted(fontMetrics().averageCharWidth() * kWidthInLetters,
+                     fontMetrics().lineSpacing() * kHeightInLines);
+  resize(wanted.boundedTo(screen()->availableSize()));
   QSettings settings;
   restoreGeometry(settings.value("window").toByteArray());
   for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->Recall(settings);
@@ -155,7 +159,10 @@ void MainWindow::LoadServices() {
 
 void MainWindow::ShowSite() {
   for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->ShowSite();
-  front_->setCurrentWidget(tabs_);
+  if (front_->currentWidget() != tabs_) {
+    front_->setCurrentWidget(tabs_);
+    FrontPage()->MainView().Table().setFocus();
+  }
   ShowNotices();
   ShowPageCommands();
 }

@@ -51,20 +51,27 @@ void ManagersPage::AddCommands() {
   Add(view_, tr("Re&move"), QKeySequence::Delete, Needs::kOneRow, [this] { Remove(); });
 }
 
-QString ManagersPage::NamesOf(const std::vector<GUID>& services) const {
+// A cell shows the first of them; who needs all sees them in Services Delivered.
+QString ManagersPage::NamesOf(const std::vector<GUID>& services, const ServicesById& by_id) {
+  constexpr int kNamesAtMost = 50;
   QStringList names;
-  for (const GUID& id : services)
-    if (const site::Service* service = site::Find(console_.Site().services, id)) names << ToQt(service->name);
+  for (const GUID& id : services) {
+    const auto service = by_id.find(id);
+    if (service != by_id.end()) names << ToQt(service->second->name);
+    if (names.size() == kNamesAtMost) return names.join(", ") + "...";
+  }
   return names.join(", ");
 }
 
 void ManagersPage::ShowSite() {
   const GUID backup = site::ReadBackupManager();
+  const ServicesById by_id = site::ById(console_.Site().services);
   std::vector<Row> rows;
   for (const site::Manager& manager : console_.Site().managers)
-    rows.push_back({{manager.id, {}},
-                    {ToQt(manager.name), QString::number(manager.services.size()), NamesOf(manager.services),
-                     NamesOf(manager.backup_services), manager.id == backup ? tr("Yes") : ""}});
+    rows.push_back(
+        {{manager.id, {}},
+         {ToQt(manager.name), QString::number(manager.services.size()), NamesOf(manager.services, by_id),
+          NamesOf(manager.backup_services, by_id), manager.id == backup ? tr("Yes") : ""}});
   view_.SetRows(std::move(rows));
 }
 
@@ -112,7 +119,7 @@ void ManagersPage::Rename() {
 
 void ManagersPage::Remove() {
   const site::Manager manager = ChosenManager();
-  const std::string services = FromQt(NamesOf(manager.services));
+  const std::string services = FromQt(NamesOf(manager.services, site::ById(console_.Site().services)));
   const std::string loss =
       services.empty() ? "" : "\n\nNobody will deliver these services then: " + services + ".";
   console_.Do(

@@ -17,7 +17,8 @@ class ManagersPage : public Page {
  private:
   void AddCommands();
   const site::Manager& ChosenManager() const;
-  QString NamesOf(const std::vector<platform::GUID>& services) const;
+  using ServicesById = std::map<platform::GUID, const site::Service*>;
+  static QString NamesOf(const std::vector<platform::GUID>& services, const ServicesById& by_id);
   void New();
   void Rename();
   void Remove();

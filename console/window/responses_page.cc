@@ -46,9 +46,10 @@ ResponsesPage::ResponsesPage(Console& console, QWidget* parent)
 }
 
 void ResponsesPage::ShowSite() {
+  const auto services = site::ById(console_.Site().services);
   std::vector<Row> rows;
   for (const site::Response& response : console_.Site().responses) {
-    const bool gone = site::Find(console_.Site().services, response.service) == nullptr;
+    const bool gone = services.count(response.service) == 0;
     const QString service = ToQt(response.service_name);
     rows.push_back({{response.id, {}},
                     {gone ? tr("%1 (deleted)").arg(service) : service,

@@ -3,7 +3,7 @@
 
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <set>
+#include <map>
 
 #include "companions/alertstore/console_users.h"
 #include "companions/dbconfig/strings.h"
@@ -89,14 +89,16 @@ void UsersPage::ShowSite() {
 }
 
 void UsersPage::ShowEntries() {
-  std::set<GUID> chosen;
-  for (const RowKey& key : users_.Selected()) chosen.insert(key.id);
+  const auto users = site::ById(console_.Site().users);
+  std::map<GUID, QString> chosen;
+  for (const RowKey& key : users_.Selected())
+    if (const auto user = users.find(key.id); user != users.end()) chosen[key.id] = ToQt(user->second->name);
   std::vector<Row> rows;
   for (const site::Entry& entry : console_.Site().entries) {
-    if (chosen.count(entry.user) == 0) continue;
-    const site::User* user = site::Find(console_.Site().users, entry.user);
+    const auto user = chosen.find(entry.user);
+    if (user == chosen.end()) continue;
     rows.push_back({{entry.user, entry.service},
-                    {ToQt(entry.service_name), user == nullptr ? "" : ToQt(user->name),
+                    {ToQt(entry.service_name), user->second,
                      QString::fromUtf8(dbconfig::ServiceTypeName(entry.record_type)), ToQt(entry.address),
                      entry.enabled ? tr("Yes") : tr("No")},
                     console_.IconOf(entry.record_type)});

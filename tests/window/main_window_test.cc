@@ -39,6 +39,8 @@ TEST_F(MainWindowTest, AnEmptySiteOffersToBeSetUpAndNothingWarnsBefore) {
   Press("&Set Up This Site");
   EXPECT_EQ(Table("Services").model()->rowCount(), 13);
   EXPECT_THAT(Managers(), HasSubstr("Internet Mail"));
+  Window().LookForChanges();
+  EXPECT_FALSE(Says("not yet told")) << "the records that the library adds when it loads are told, too";
   EXPECT_THAT(Window().windowTitle().toStdString(), HasSubstr(Library().Directory()));
 }
 
@@ -190,6 +192,8 @@ TEST_F(MainWindowTest, WhatTheManagersDoNotKnowYetIsSaidUntilTheyDo) {
   EXPECT_EQ(site::SwitchService(ServiceNamed(Window().Site(), "SNMP Trap")->id, false), alertstore::kOk);
   Window().LookForChanges();
   EXPECT_TRUE(Says("not yet told")) << "another console changed the site and did not tell them";
+  Open();
+  EXPECT_TRUE(Says("not yet told")) << "a console that starts later finds out";
 }
 
 TEST_F(MainWindowTest, RenamingReachesAllThatBearTheName) {
