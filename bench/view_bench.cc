@@ -17,7 +17,11 @@
 #include "alerting/frame/app.h"
 #include "alerting/services/service_list.h"
 #include "bench/measure.h"
+#include "companions/alertstore/console_users.h"
+#include "companions/alertstore/stores.h"
+#include "console/site/managers_file.h"
 #include "console/site/starter.h"
+#include "console/window/main_window.h"
 #include "console/window/record_view.h"
 
 using namespace bench;  // NOLINT
@@ -128,21 +132,79 @@ double MedianCopy() {
   return Summarise(times).median;
 }
 
+/// A set-up site in a directory of its own, with the library loaded on it.
+class Site {
+ public:
+  Site() : directory_((std::filesystem::temp_directory_path() / "view-bench-XXXXXX").string()) {
+    Require(mkdtemp(directory_.data()) != nullptr, "cannot make a directory");
+    setenv("ALERTING_DATA", directory_.c_str(), 1);
+    site::AddStarterData();
+    Require(alerting::Load() && OpenDBs() <= site::kStoresWereOpen, "cannot open the stores");
+  }
+  ~Site() {
+    CloseDBs();
+    alerting::Unload();
+    std::filesystem::remove_all(directory_);
+  }
+
+ private:
+  std::string directory_;
+};
+
 void CompareCopies() {
-  std::string directory = (std::filesystem::temp_directory_path() / "view-bench-XXXXXX").string();
-  Require(mkdtemp(directory.data()) != nullptr, "cannot make a directory");
-  setenv("ALERTING_DATA", directory.c_str(), 1);
-  site::AddStarterData();
-  Require(alerting::Load() && OpenDBs() <= 1, "cannot open the stores");
+  const Site site;
   const double few = MedianCopy();
   const int first = DomainServiceGetCount();
   while (DomainServiceGetCount() < 2'400)
     Require(DomainServiceCopyService(0, ("S" + std::to_string(DomainServiceGetCount())).c_str()) == 1,
             "cannot copy");
   std::printf("copy      %d services: %.2f ms, 2400 services: %.2f x that\n", first, few, MedianCopy() / few);
-  CloseDBs();
-  alerting::Unload();
-  std::filesystem::remove_all(directory);
+}
+
+/// Adds services and users until there are that many of each.
+void Fill(int count) {
+  alertstore::CAlertNtfyServDB services;
+  Require(services.DBOpen() == alertstore::kOk, "cannot open the services");
+  site::Overview now;
+  site::ReadOverview(now);
+  for (auto i = static_cast<int>(now.services.size()); i < count; ++i) {
+    alertstore::ALRTNTFYSERV service{};
+    alertstore::ALRTSMTPSERVICEREC record{};
+    platform::GUID id{}, record_id{};
+    service.recordType = 5;
+    service.name.Assign("Mail " + std::to_string(i));
+    Require(services.DBAlertRecAdd(service, id, record, record_id) == alertstore::kOk,
+            "cannot add a service");
+  }
+  for (auto i = static_cast<int>(now.users.size()); i < count; ++i)
+    Require(alertstore::AddConsoleUser(platform::GUID::Generate(), "User " + std::to_string(i)) ==
+                alertstore::kOk,
+            "cannot add a user");
+}
+
+/// What the window does when somebody changed the site: the library reads its services again, the stores are read for the
+/// views, and the views show them; then the alert managers' file is compared.
+void MeasureRefresh() {
+  const Site site;
+  site::LibraryCalls calls;
+#define ALERTING_EXPORT(result, name, arguments, bytes) calls.name = &::name;
+#define ALERTING_PLAIN_EXPORT(result, name, arguments) calls.name = &::name;
+#include "alerting/exports.def"
+#undef ALERTING_EXPORT
+#undef ALERTING_PLAIN_EXPORT
+  alertconsole::MainWindow window(calls);
+  window.show();
+  for (const int count : {1'000, 10'000}) {
+    Fill(count);
+    std::vector<double> refreshed, compared;
+    site::ManagersFile file;
+    for (int i = 0; i < repetitions; ++i) {
+      refreshed.push_back(Milliseconds([&] { window.ReadSite(), window.grab(); }));
+      compared.push_back(Milliseconds([&] { file.Look(); }));
+    }
+    std::printf("refresh   %7d services and users  %9.2f ms, comparing the managers' file %9.2f ms\n", count,
+                Summarise(refreshed).median, Summarise(compared).median);
+  }
 }
 
 }  // namespace
@@ -154,4 +216,5 @@ int main(int argc, char** argv) {
   QLoggingCategory::setFilterRules("qt.qpa.*=false");
   CompareViews();
   CompareCopies();
+  MeasureRefresh();
 }
