@@ -80,6 +80,8 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   setCentralWidget(middle);
   statusBar()->addWidget(summary_);
   statusBar()->addWidget(said_, 1);
+  said_->setSizePolicy(QSizePolicy::Ignored,
+                       QSizePolicy::Preferred);  // a long text must not widen the window
   MakeMenus();
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowPageCommands(); });
   const QSize wanted(fontMetrics().averageCharWidth() * kWidthInLetters,

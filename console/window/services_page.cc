@@ -65,7 +65,7 @@ QString Consequences(const site::Overview& site, const site::Service& service) {
                  .arg(responses);
   if (!service.managers.empty())
     lines << QObject::tr("%1 no longer delivers it.").arg(Joined(service.managers));
-  return lines.join("\n");
+  return lines.isEmpty() ? QString() : "\n\n" + lines.join("\n");
 }
 
 }  // namespace
@@ -218,10 +218,8 @@ void ServicesPage::Rename() {
 
 void ServicesPage::Delete() {
   const site::Service service = ChosenService();
-  const QString consequences = Consequences(console_.Site(), service);
-  const QString question =
-      tr("Delete the service \"%1\"?\n\n%2\n\nThis happens at once and cannot be undone.")
-          .arg(ToQt(service.name), consequences);
+  const QString question = tr("Delete the service \"%1\"?%2\n\nThis happens at once and cannot be undone.")
+                               .arg(ToQt(service.name), Consequences(console_.Site(), service));
   console_.Do(
       [&] {
         if (!hosts::Ask(desktops::qt::FromQt(question))) return Outcome::kNothing;

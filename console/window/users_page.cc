@@ -140,9 +140,10 @@ bool UsersPage::RemoveEntriesOf(const GUID& user) {
 
 void UsersPage::RemoveUser() {
   const site::User user = *site::Find(console_.Site().users, Chosen(users_));
-  const QString question = tr("Remove the user \"%1\" with %2 entries on services?\n\nThis cannot be undone.")
-                               .arg(ToQt(user.name))
-                               .arg(user.entries);
+  const QString entries =
+      user.entries == 0 ? QString() : tr(" and the entries on services (%1)").arg(user.entries);
+  const QString question =
+      tr("Remove the user \"%1\"%2?\n\nThis cannot be undone.").arg(ToQt(user.name), entries);
   console_.Do(
       [&] {
         if (!hosts::Ask(FromQt(question))) return Outcome::kNothing;

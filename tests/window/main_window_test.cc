@@ -223,7 +223,7 @@ TEST_F(MainWindowTest, RenamingReachesAllThatBearTheName) {
   alertstore::ALRTUSRINSTSERV link{};
   ASSERT_EQ(links.DBAlertRecFindFirst(alertstore::kLinkByUser, sizeof user, &user, link), alertstore::kOk);
   EXPECT_EQ(link.serviceName.View(), "Post");
-  Script().ExpectMessage("Remove the user \"Ann\" with 1 entries on services?\n\nThis cannot be undone.",
+  Script().ExpectMessage("Remove the user \"Ann\" and the entries on services (1)?\n\nThis cannot be undone.",
                          Answer::kYes);
   ShowPage("&Users");
   Give("Remove User");
