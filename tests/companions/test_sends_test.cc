@@ -237,7 +237,7 @@ TEST_F(TestSendsTest, ATestWithoutAnAnswerSaysWhoShouldHaveAnswered) {
   ASSERT_THAT(told, SizeIs(2));
   EXPECT_THAT(ShownFor(told[0]), AllOf(HasSubstr("The test was not answered."),
                                        HasSubstr("no alert manager delivers through this service")));
-  EXPECT_THAT(ShownFor(told[1]), AllOf(HasSubstr("No alert server answered"), HasSubstr("enabled on FIRST"),
+  EXPECT_THAT(ShownFor(told[1]), AllOf(HasSubstr("No alert server answered"), HasSubstr("delivered by FIRST"),
                                        Not(HasSubstr("Steps"))));
   EXPECT_FALSE(fs::exists(agentui::JobPath(spool_, told[1]))) << "a server would send it later";
 }
