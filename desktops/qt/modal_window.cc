@@ -18,13 +18,13 @@ ModalWindow::ModalWindow(platform::ui::Modal& modal, QWidget* parent) : QDialog(
   setWindowTitle(ToQt(ShownWindow().Label()));
   setEnabled(ShownWindow().Enabled());
   ShownWindow().SetObserver(this);
-  connect(qApp, &QApplication::focusChanged, this,
-          [this](QWidget*, QWidget* now) { ShowWhatEnterPresses(now); });
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { OnFocus(now); });
 }
 
 // A button with the focus is the one that Enter presses, so no other may look like it meanwhile.
-void ModalWindow::ShowWhatEnterPresses(QWidget* focus) {
+void ModalWindow::OnFocus(QWidget* focus) {
   if (focus == nullptr || focus->window() != this) return;
+  if (scrolled_ != nullptr) scrolled_->ensureWidgetVisible(focus);
   auto* button = qobject_cast<QPushButton*>(focus);
   if (button == nullptr) button = UsualDefault();
   if (button != nullptr) button->setDefault(true);
@@ -46,12 +46,35 @@ QSize ModalWindow::WantedSize() {
   const int caption = fontMetrics().horizontalAdvance(windowTitle()) + kTitleBarButtons;
   QSize size = sizeHint().expandedTo({caption, 0});
   if (layout()->hasHeightForWidth()) size.setHeight(layout()->totalHeightForWidth(size.width()));
-  return size.boundedTo(screen()->availableSize());
+  return size;
+}
+
+QSize ModalWindow::Room() const {
+  return screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
 }
 
 void ModalWindow::setVisible(bool visible) {
-  if (visible && !testAttribute(Qt::WA_Resized)) resize(WantedSize());
+  if (visible && !testAttribute(Qt::WA_Resized)) {
+    const QSize wanted = WantedSize();
+    if (wanted != wanted.boundedTo(Room())) ScrollContents(wanted);
+    resize(wanted.boundedTo(Room()));
+  }
   QDialog::setVisible(visible);
+}
+
+// On a small screen the whole contents scroll, so that no button is out of reach.
+void ModalWindow::ScrollContents(const QSize& wanted) {
+  auto* contents = new QWidget;
+  contents->setLayout(layout());
+  contents->setMinimumSize(wanted);
+  scrolled_ = new QScrollArea(this);
+  scrolled_->setFrameShape(QFrame::NoFrame);
+  scrolled_->setWidgetResizable(true);
+  scrolled_->setFocusPolicy(Qt::NoFocus);
+  scrolled_->setWidget(contents);
+  auto* whole = new QVBoxLayout(this);
+  whole->setContentsMargins({});
+  whole->addWidget(scrolled_);
 }
 
 void ModalWindow::reject() {

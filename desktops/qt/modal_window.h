@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QPushButton>
+#include <QScrollArea>
 
 #include "desktops/qt/form_view.h"
 #include "platform/ui/dialog.h"
@@ -29,6 +30,8 @@ class ModalWindow : public QDialog, public platform::ui::WindowObserver, public 
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// What the screen has for a window with its title.
+  QSize Room() const;
   /// The size at which nothing is cut; wrapped texts are as high as they are at that width.
   QSize WantedSize();
   /// The button that Enter presses from a field, or null.
@@ -37,9 +40,11 @@ class ModalWindow : public QDialog, public platform::ui::WindowObserver, public 
   virtual void PressDefault() {}
 
  private:
-  void ShowWhatEnterPresses(QWidget* focus);
+  void OnFocus(QWidget* focus);
+  void ScrollContents(const QSize& wanted);
 
   platform::ui::Modal& modal_;
+  QScrollArea* scrolled_ = nullptr;  ///< the contents, where the screen is too small for them
 };
 
 class DialogWindow : public ModalWindow {

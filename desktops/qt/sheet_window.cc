@@ -127,7 +127,7 @@ FormView& SheetWindow::ViewOf(PropertyPage& page, int index) {
     place->layout()->addWidget(view.get());
     EndTabOrderWithButtons(*view);
     view->show();
-    if (isVisible()) resize(size().expandedTo(WantedSize()));
+    if (isVisible()) resize(size().expandedTo(WantedSize()).boundedTo(Room()));
   }
   return *view;
 }

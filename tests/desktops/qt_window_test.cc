@@ -16,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTreeWidget>
+#include <deque>
 #include <new>
 
 #include "desktops/qt/canvas_adapter.h"
@@ -331,6 +332,30 @@ TEST_F(QtWindowTest, ALetterFindsAnItemWhoseNameStandsInBrackets) {
     QTest::keyClick(&Widget<QTreeWidget>(), Qt::Key_U);
     EXPECT_EQ(list.Current(), 2);
   });
+}
+
+class TallDialog : public ReportingDialog {
+ public:
+  TallDialog() {
+    LayoutNode column = Column({});
+    for (int i = 0; i < 60; ++i)
+      column.children.push_back(Field(fields.emplace_back(*this, i + 1, "Field " + std::to_string(i))));
+    SetLayout(column);
+  }
+  std::deque<platform::ui::Edit> fields;
+};
+
+TEST_F(QtWindowTest, AWindowLargerThanTheScreenScrollsToWhereTheKeyboardIs) {
+  TallDialog dialog;
+  Show(dialog, [&](Person& person) {
+    const QWidget& window = *QApplication::activeModalWidget();
+    EXPECT_LE(window.height(), window.screen()->availableSize().height());
+    person.Focus("Field 59");
+    const QWidget& field = *QApplication::focusWidget();
+    EXPECT_TRUE(window.rect().contains(field.mapTo(&window, field.rect().center())));
+    person.Type("Field 59", "reached");
+  });
+  EXPECT_EQ(dialog.fields.back().Text(), "reached");
 }
 
 TEST_F(QtWindowTest, HelpStandsWholeOnTheScreenUntilAKeyIsPressed) {
