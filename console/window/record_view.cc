@@ -16,6 +16,7 @@ namespace alertconsole {
 namespace {
 
 constexpr int kIconSize = 18;
+constexpr int kLinesAtLeast = 4;
 
 QStringList TitlesOf(const std::vector<Column>& columns) {
   QStringList titles;
@@ -45,6 +46,7 @@ RecordView::RecordView(const QString& name, const std::vector<Column>& columns, 
   note_->setWordWrap(true);
   note_->setAlignment(Qt::AlignCenter);
   note_->setMargin(24);
+  note_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);  // as small as the table may be
   stack_->addWidget(table_);
   stack_->addWidget(note_);
   filter_label_->setBuddy(filter_);
@@ -76,6 +78,7 @@ void RecordView::MakeTable(const QString& name, const std::vector<Column>& colum
   table_->setModel(&shown_);
   table_->setRootIsDecorated(false);
   table_->setUniformRowHeights(true);
+  table_->setMinimumHeight(table_->fontMetrics().lineSpacing() * kLinesAtLeast);
   table_->setAllColumnsShowFocus(true);
   table_->setAlternatingRowColors(true);
   table_->setSelectionMode(QAbstractItemView::ExtendedSelection);

@@ -55,8 +55,11 @@ QSize ModalWindow::Room() const {
 
 void ModalWindow::setVisible(bool visible) {
   if (visible && !testAttribute(Qt::WA_Resized)) {
-    const QSize wanted = WantedSize();
-    if (wanted != wanted.boundedTo(Room())) ScrollContents(wanted);
+    QSize wanted = WantedSize();
+    if (wanted != wanted.boundedTo(Room())) {
+      ScrollContents(wanted);
+      wanted += QSize(1, 1) * style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    }
     resize(wanted.boundedTo(Room()));
   }
   QDialog::setVisible(visible);
