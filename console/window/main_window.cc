@@ -180,8 +180,8 @@ void MainWindow::ShowNothingYet() {
     start_->Say(tr("This site is not set up yet"),
                 tr("There are no records in %1.\n\nSetting the site up makes this machine its alert manager "
                    "and adds one "
-                   "service of each type with a default message, modem types, an example of a paging "
-                   "provider and a dialing "
+                   "service of each type with a default message, modem types, examples of paging "
+                   "providers and a dialing "
                    "location. You then fill in what your services need.")
                     .arg(ToQt(platform::DataDirectory())),
                 tr("&Set Up This Site"), [this] { SetUp(); });
@@ -249,6 +249,7 @@ void MainWindow::LookForChanges() {
 void MainWindow::Refresh() {
   if (busy_) return;
   const QScopedValueRollback<bool> reading(busy_, true);
+  changes_.Changed();  // what is read now
   ReadSite();
   if (FrontPage() == nullptr) return;
   managers_file_.Look();
@@ -262,8 +263,8 @@ void MainWindow::Do(const std::function<Outcome()>& work, const QString& done) {
   const Outcome outcome = work();
   if (outcome == Outcome::kStored) managers_file_.Write();
   if (outcome == Outcome::kMayHaveStored) managers_file_.Look();
-  ReadSite();
   changes_.Changed();  // this console's own
+  ReadSite();
   if (outcome == Outcome::kStored && !done.isEmpty()) said_->setText(done);
 }
 

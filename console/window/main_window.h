@@ -67,6 +67,7 @@ class MainWindow : public QMainWindow,
   void LearnIcons();
   Page* FrontPage() const;
   void ShowPageCommands();
+  void FillPageCommands();
   void LoadServices();
   void ShowSite();
   void ShowNothingYet();
@@ -91,6 +92,7 @@ class MainWindow : public QMainWindow,
   StartPage* start_;
   Notices* notices_;
   ServicesPage* services_ = nullptr;
+  Page* page_with_commands_ = nullptr;  ///< whose commands are in menu and bar
   QMenu *page_menu_ = nullptr, *tools_menu_ = nullptr;
   QToolBar* bar_ = nullptr;
   QLabel *summary_, *said_;

@@ -3,6 +3,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QToolBar>
+#include <utility>
 
 #include "console/hosts/computers_dialog.h"
 #include "console/hosts/host_dialog.h"
@@ -19,11 +20,14 @@ namespace {
 
 using desktops::qt::ToQt;
 
-/// Room for what a person may enter as a rule, with its end.
-constexpr std::size_t kRuleBuffer = 256;
+/// Room for what a person may enter as a rule: the fields have no limit of their own, so it is more than anybody pastes.
+constexpr std::size_t kRuleBuffer = 1 << 20;
 constexpr int kCommandsInBar = 6;
 
-void CopyTo(char (&buffer)[kRuleBuffer], const std::string& text) { text.copy(buffer, kRuleBuffer - 1); }
+std::string BufferOf(std::string text) {
+  text.resize(kRuleBuffer);
+  return text;
+}
 
 QString KeyTable(const std::vector<QAction*>& commands) {
   QString rows;
@@ -52,16 +56,25 @@ void MainWindow::MakeMenus() {
   console->addAction(tr("E&xit"), QKeySequence::Quit, this, &QWidget::close);
   bar_ = addToolBar(tr("Commands"));
   bar_->setMovable(false);
+  page_menu_->setEnabled(false);  // until there is a page
+  bar_->setVisible(false);
 }
 
-// A page's commands take the place of those of the page before.
+// A page's commands take the place of those of the page before. They stay where they are while the page does: a menu may be
+// open.
 void MainWindow::ShowPageCommands() {
+  Page* page = FrontPage();
+  if (page != std::exchange(page_with_commands_, page)) FillPageCommands();
+  SelectionChanged();
+}
+
+void MainWindow::FillPageCommands() {
   page_menu_->clear();
   bar_->clear();
   Page* page = FrontPage();
   page_menu_->setEnabled(page != nullptr);
   bar_->setVisible(page != nullptr);
-  if (page == nullptr) return ShowStatus();
+  if (page == nullptr) return;
   for (QAction* command : page->Commands()) {
     if (command == nullptr) {
       page_menu_->addSeparator();
@@ -70,7 +83,6 @@ void MainWindow::ShowPageCommands() {
     page_menu_->addAction(command);
     if (bar_->actions().size() < kCommandsInBar) bar_->addAction(command);
   }
-  SelectionChanged();
 }
 
 void MainWindow::VisitCommands(const std::function<void(const QString& page, QAction& command)>& visit) {
@@ -88,7 +100,6 @@ void MainWindow::VisitCommands(const std::function<void(const QString& page, QAc
 
 void MainWindow::MakeTools(QMenu& menu) {
   tools_menu_ = &menu;
-
   menu.addAction(tr("&Dialing Properties..."), this, [this] {
     Do(
         [this] {
@@ -108,15 +119,15 @@ void MainWindow::MakeTools(QMenu& menu) {
 
 void MainWindow::EditRules() {
   const site::DialingRules rules = site::ReadDialingRules();
-  char same_area[kRuleBuffer] = "", long_distance[kRuleBuffer] = "", international[kRuleBuffer] = "";
-  CopyTo(same_area, rules.same_area);
-  CopyTo(long_distance, rules.long_distance);
-  CopyTo(international, rules.international);
+  std::string same_area = BufferOf(rules.same_area), long_distance = BufferOf(rules.long_distance),
+              international = BufferOf(rules.international);
   Do(
       [&] {
-        if (library_.RulesDialog(&as_owner_, same_area, long_distance, international) != platform::ui::kOk)
+        if (library_.RulesDialog(&as_owner_, same_area.data(), long_distance.data(), international.data()) !=
+            platform::ui::kOk)
           return Outcome::kNothing;
-        const std::string problem = site::WriteDialingRules({same_area, long_distance, international});
+        const std::string problem =
+            site::WriteDialingRules({same_area.c_str(), long_distance.c_str(), international.c_str()});
         if (!problem.empty()) hosts::Tell("cannot keep the dialing rules: " + problem);
         return Outcome::kNothing;
       },

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "companions/alertstore/console_users.h"
+#include "console/site/dialing_rules.h"
 #include "console/site/managers.h"
 #include "console/site/open_mark.h"
 #include "console/site/services.h"
@@ -229,6 +230,19 @@ TEST_F(MainWindowTest, RenamingReachesAllThatBearTheName) {
   Give("Remove User");
   EXPECT_TRUE(Window().Site().users.empty());
   EXPECT_TRUE(Window().Site().entries.empty()) << "nobody unseen is alerted";
+}
+
+TEST_F(MainWindowTest, DialingRulesAreKeptHoweverLong) {
+  OpenSetUp();
+  const std::string digits(5000, '1');
+  for (const std::string& rule : {digits, std::string("9,1")}) {
+    Script().ExpectWindow("Dialing Rules", [&](Person& p) {
+      p.Paste("&Long distance calls:", rule);
+      p.Press("OK");
+    });
+    Give("Dialing Rules");
+    EXPECT_EQ(site::ReadDialingRules().long_distance, rule);
+  }
 }
 
 TEST_F(MainWindowTest, EverythingCanBeDoneFromTheKeyboard) {
