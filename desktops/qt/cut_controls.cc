@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStyleOptionComboBox>
 #include <QTabBar>
 #include <QToolButton>
@@ -78,9 +79,15 @@ bool IsTooSmall(const QWidget& widget) {
   return widget.height() < least.height() || (!any_width && widget.width() < least.width());
 }
 
+bool Scrolls(const QWidget& contents) {
+  const QWidget* view = contents.parentWidget();
+  return view != nullptr && qobject_cast<const QScrollArea*>(view->parentWidget()) != nullptr;
+}
+
+// What scrolls need not be in view.
 bool StandsOutside(const QWidget& widget, const QWidget& window) {
   QRect place = widget.rect();
-  for (const QWidget* at = &widget; at != &window; at = at->parentWidget()) {
+  for (const QWidget* at = &widget; at != &window && !Scrolls(*at); at = at->parentWidget()) {
     place.translate(at->pos());
     if (!at->parentWidget()->rect().contains(place)) return true;
   }
