@@ -71,7 +71,11 @@ class NewSiteTest : public MainWindowTest {
       p.Type("&Enter name for new modem:", "Rack modem");
       p.Press("OK");
     });
-    Script().ExpectWindow("Modem Properties", [](Person& p) { p.Press("OK"); });
+    Script().ExpectWindow("Modem Properties", [](Person& p) {
+      p.Choose("&Machine:", platform::HostName());
+      p.Choose("I am dialing &from", "Main office");
+      p.Press("OK");
+    });
     Give("Properties");
   }
   void AddSecondManager() {
@@ -122,6 +126,7 @@ TEST_F(NewSiteTest, MailPagerUsersResponsesAndManagersReachTheManagersFile) {
   EXPECT_EQ(mail["users"].at(0)["address"], "ann@example.org");
   const json& pager = Named(site["services"], "Alphanumeric Pager");
   EXPECT_EQ(pager["modem"]["modemName"], "Rack modem");
+  EXPECT_EQ(Named(site["modems"], "Rack modem")["managerName"], platform::HostName());
   EXPECT_EQ(pager["users"].at(0)["address"], "5550177");
   EXPECT_EQ(site["alertManagers"][1]["name"], "STANDBY");
   EXPECT_EQ(site["alertManagers"][1]["services"].at(0)["serviceId"],
