@@ -145,6 +145,20 @@ TEST_F(EditsTest, ALineBreakIsNeverCutInTwo) {
   });
 }
 
+TEST_F(EditsTest, WhatAFieldHasNoRoomForIsLostWithASound) {
+  const platform::ui::FieldButton fields(dialog_, 199, "<< &Fields...", "Fields for", dialog_.code);
+  EXPECT_EQ(fields.SpokenName(), "Fields for Code") << "there may be several such buttons";
+  Run([this](Person& p) {
+    p.Type("&Code:", "abcd");
+    EXPECT_EQ(Script().beeps, 0);
+    p.Type("&Code:", "abcde");
+    EXPECT_EQ(Script().beeps, 1);
+    p.Paste("&Code:", "vwxyz");
+    EXPECT_EQ(Script().beeps, 2);
+    EXPECT_EQ(p.Text("&Code:").size(), 4u);
+  });
+}
+
 TEST_F(EditsTest, TypingReplacesTheTextAndReportsEachChange) {
   dialog_.name.SetText("before");
   Run([](Person& p) { p.Type("&Name:", "Zo\u00eb"); });
