@@ -18,6 +18,7 @@ ServiceAndUser::ServiceAndUser(ui::Form& form, const site::LibraryCalls& calls,
                                const site::Overview& overview)
     : calls_(calls),
       overview_(overview),
+      users_by_id_(site::ById(overview.users)),
       services_(form, kIdServices, "&Services:"),
       user_(form, kIdUser, "&User to alert:", true),
       no_users_(form, kIdNoUsers, "No user has an entry on this service. Give one an entry first.") {
@@ -53,12 +54,13 @@ void ServiceAndUser::FillUsers(const platform::GUID& chosen) {
   reaches_users_ = calls_.DomainServiceType(Service()) == kReachesUsers;
   users_.clear();
   user_.RemoveAll();
-  for (const site::Entry& entry : overview_.entries)
-    if (const site::User* user = site::Find(overview_.users, entry.user);
-        reaches_users_ && user != nullptr && entry.service == Service()) {
-      user_.Add(user->name, users_.size());
-      users_.push_back(user);
-    }
+  for (const site::Entry& entry : overview_.entries) {
+    if (!reaches_users_ || entry.service != Service()) continue;
+    const auto user = users_by_id_.find(entry.user);
+    if (user == users_by_id_.end()) continue;
+    user_.Add(user->second->name, users_.size());
+    users_.push_back(user->second);
+  }
   user_.Select(users_.size() == 1 ? 0 : -1);
   for (std::size_t i = 0; i < users_.size(); ++i)
     if (users_[i]->id == chosen) user_.Select(user_.FindData(i));

@@ -38,6 +38,7 @@ class ServiceAndUser {
 
   const site::LibraryCalls& calls_;
   const site::Overview& overview_;
+  const std::map<platform::GUID, const site::User*> users_by_id_;
   std::function<void()> on_change_;
   bool reaches_users_ = false;
   std::vector<const site::User*> users_;

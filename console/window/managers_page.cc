@@ -17,6 +17,24 @@ using desktops::qt::FromQt;
 using desktops::qt::ToQt;
 using platform::GUID;
 
+/// A modem would stay behind without the machine that it is attached to.
+bool MayBeRemoved(const GUID& manager) {
+  std::string modem;
+  const alertstore::Status status = site::FindModemOf(manager, modem);
+  if (status != alertstore::kOk)
+    hosts::Tell(site::FailureText("read the modems", status));
+  else if (!modem.empty())
+    hosts::Tell("The modem \"" + modem +
+                "\" is attached to this alert manager. Attach it to another one or delete it first.");
+  return status == alertstore::kOk && modem.empty();
+}
+
+bool KeepBackup(const GUID& manager) {
+  const std::string problem = site::WriteBackupManager(manager);
+  if (!problem.empty()) hosts::Tell("cannot keep the choice of the backup: " + problem);
+  return problem.empty();
+}
+
 }  // namespace
 
 ManagersPage::ManagersPage(Console& console, QWidget* parent)
@@ -124,12 +142,7 @@ void ManagersPage::Remove() {
       services.empty() ? "" : "\n\nNobody will deliver these services then: " + services + ".";
   console_.Do(
       [&] {
-        std::string modem;
-        if (site::FindModemOf(manager.id, modem) == alertstore::kOk && !modem.empty()) {
-          hosts::Tell("The modem \"" + modem +
-                      "\" is attached to this alert manager. Attach it to another one or delete it first.");
-          return Outcome::kNothing;
-        }
+        if (!MayBeRemoved(manager.id)) return Outcome::kNothing;
         if (!hosts::Ask("Remove the alert manager \"" + manager.name + "\"?" + loss +
                         "\n\nThis cannot be undone."))
           return Outcome::kNothing;
@@ -138,8 +151,8 @@ void ManagersPage::Remove() {
           hosts::Tell(site::FailureText("remove the alert manager", status));
           return Outcome::kMayHaveStored;
         }
-        if (site::ReadBackupManager() == manager.id) site::WriteBackupManager(platform::kNullGuid);
-        return Outcome::kStored;
+        const bool was_backup = site::ReadBackupManager() == manager.id;
+        return was_backup && !KeepBackup(platform::kNullGuid) ? Outcome::kMayHaveStored : Outcome::kStored;
       },
       tr("Removed \"%1\".").arg(ToQt(manager.name)));
 }
@@ -157,14 +170,9 @@ void ManagersPage::Services() {
 void ManagersPage::SetBackup() {
   const GUID chosen = Chosen(view_);
   const GUID backup = site::ReadBackupManager() == chosen ? platform::kNullGuid : chosen;
-  console_.Do(
-      [&] {
-        const std::string problem = site::WriteBackupManager(backup);
-        if (!problem.empty()) hosts::Tell("cannot keep the choice of the backup: " + problem);
-        return problem.empty() ? Outcome::kStored : Outcome::kNothing;
-      },
-      backup.IsNull() ? tr("There is no backup now.")
-                      : tr("Takes over for services that dial out and are delivered from now on."));
+  console_.Do([&] { return KeepBackup(backup) ? Outcome::kStored : Outcome::kNothing; },
+              backup.IsNull() ? tr("There is no backup now.")
+                              : tr("Takes over for services that dial out and are delivered from now on."));
 }
 
 }  // namespace alertconsole

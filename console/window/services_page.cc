@@ -156,11 +156,12 @@ void ServicesPage::Test() {
   const site::Service service = ChosenService();
   choices::Offer offer{"Test " + service.name, "&User:", {}, "", ctxhelp::kHelpChooseUser, false};
   std::vector<GUID> users;
+  const auto known = site::ById(console_.Site().users);
   for (const site::Entry& entry : console_.Site().entries) {
-    const site::User* user = site::Find(console_.Site().users, entry.user);
-    if (entry.service != service.id || user == nullptr) continue;
+    const auto user = known.find(entry.user);
+    if (entry.service != service.id || user == known.end()) continue;
     users.push_back(entry.user);
-    offer.texts.push_back(user->name);
+    offer.texts.push_back(user->second->name);
   }
   if (users.empty()) return OpenSheet(service.id);
   console_.Do([&] {
@@ -225,7 +226,9 @@ void ServicesPage::Delete() {
         if (!hosts::Ask(desktops::qt::FromQt(question))) return Outcome::kNothing;
         const int index = Locate(console_.Calls(), service.id);
         if (index < 0) return Outcome::kNothing;
-        console_.Calls().DomainServiceDeleteService(index, platform::kNullGuid);
+        // On failure the library has said why.
+        if (console_.Calls().DomainServiceDeleteService(index, platform::kNullGuid) == 0)
+          return Outcome::kMayHaveStored;
         return Outcome::kStored;
       },
       tr("Deleted \"%1\".").arg(ToQt(service.name)));

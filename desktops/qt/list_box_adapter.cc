@@ -14,32 +14,23 @@ namespace {
 
 constexpr int kColumnGap = 16;
 
-/// Whether a person who types `typed` means the text. Brackets before a name are not typed.
-bool BeginsWith(const QString& text, const QString& typed) {
-  qsizetype start = 0;
-  while (start < text.size() && !text[start].isLetterOrNumber()) ++start;
-  return text.startsWith(typed, Qt::CaseInsensitive) ||
-         text.mid(start).startsWith(typed, Qt::CaseInsensitive);
-}
-
-/// Goes to the next item that begins with what is typed, and round the end.
+/// Leaves to the model which item a letter means.
 class ItemList : public QTreeWidget {
  public:
-  using QTreeWidget::QTreeWidget;
+  ItemList(platform::ui::ListBox& model, QWidget* parent) : QTreeWidget(parent), model_(model) {}
 
   void keyboardSearch(const QString& typed) override {
-    const int count = topLevelItemCount(), current = indexOfTopLevelItem(currentItem());
-    for (int step = 1; step <= count; ++step) {
-      QTreeWidgetItem* item = topLevelItem((current + step) % count);
-      if (BeginsWith(item->text(0), typed)) return setCurrentItem(item);
-    }
+    Guarded([&] { model_.OnTyped(FromQt(typed)); });
   }
+
+ private:
+  platform::ui::ListBox& model_;
 };
 
 }  // namespace
 
 ListBoxAdapter::ListBoxAdapter(platform::ui::ListBox& model, QWidget* parent)
-    : ListAdapter(model, new ItemList(parent)),
+    : ListAdapter(model, new ItemList(model, parent)),
       model_(model),
       list_(static_cast<QTreeWidget*>(OwnedWidget())) {
   WatchKeys(list_);

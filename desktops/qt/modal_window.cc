@@ -30,7 +30,11 @@ void ModalWindow::OnFocus(QWidget* focus) {
   if (button != nullptr) button->setDefault(true);
 }
 
-ModalWindow::~ModalWindow() { ShownWindow().SetObserver(nullptr); }
+ModalWindow::~ModalWindow() {
+  disconnect(qApp, nullptr, this,
+             nullptr);  // what the focus shows is a derived window's affair, which is gone
+  ShownWindow().SetObserver(nullptr);
+}
 
 void ModalWindow::OnWindowChanged(platform::ui::Window& window, Change change) {
   if (change == Change::kLabel) setWindowTitle(ToQt(window.Label()));

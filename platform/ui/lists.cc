@@ -2,6 +2,7 @@
 #include "platform/ui/lists.h"
 
 #include <algorithm>
+#include <cctype>
 #include <utility>
 
 #include "platform/base/utf8.h"
@@ -10,6 +11,22 @@ namespace platform::ui {
 namespace {
 
 const std::string kEmpty;
+
+/// Whether someone who types `letter` means the text. Brackets before a name are not typed.
+bool IsMeantBy(std::string_view letter, std::string_view text) {
+  if (StartsWithIgnoringCase(text, letter)) return true;
+  const auto is_mark = [](unsigned char c) { return c < 0x80 && std::isalnum(c) == 0; };
+  while (!text.empty() && is_mark(static_cast<unsigned char>(text.front()))) text.remove_prefix(1);
+  return StartsWithIgnoringCase(text, letter);
+}
+
+/// The next after `current` whose text is meant, round the end; -1 for none.
+template <class TextOf>
+int NextMeantBy(std::string_view letter, int current, int count, TextOf text_of) {
+  for (int step = 1; step <= count; ++step)
+    if (const int next = (current + step) % count; IsMeantBy(letter, text_of(next))) return next;
+  return -1;
+}
 
 bool InRange(int index, std::size_t count) { return index >= 0 && static_cast<std::size_t>(index) < count; }
 
@@ -116,6 +133,11 @@ void ListBox::OnDoubleClick(int index) {
   Run(on_double_click_);
 }
 
+void ListBox::OnTyped(std::string_view letter) {
+  OnChoose(NextMeantBy(letter, Current(), Count(),
+                       [this](int item) -> const std::string& { return ItemText(item); }));
+}
+
 void ListView::AddColumn(std::string title, int margin) {
   columns_.push_back({std::move(title), margin});
   Notify(Change::kItems);
@@ -209,12 +231,10 @@ void ListView::MoveTo(int row) {
 }
 
 void ListView::OnTyped(std::string_view letter) {
-  if (!WithinReach() || rows_.empty()) return;
-  const int count = RowCount();
-  for (int step = 1; step <= count; ++step) {
-    const int row = (std::max(focused_, -1) + step) % count;
-    if (StartsWithIgnoringCase(Cell(row, 0), letter)) return SelectByPerson(row);
-  }
+  if (!WithinReach()) return;
+  const int row =
+      NextMeantBy(letter, focused_, RowCount(), [this](int at) -> const std::string& { return Cell(at, 0); });
+  if (row >= 0) SelectByPerson(row);
 }
 
 void ListView::OnScrolled(int first_visible, int rows_per_page) {

@@ -98,6 +98,8 @@ class ListBox : public ItemList {
   void SetOnDoubleClick(std::function<void()> handler) { on_double_click_ = std::move(handler); }
   /// A person double-clicked the item, which is chosen first.
   void OnDoubleClick(int index);
+  /// A person typed a letter: chooses the next item that begins with it, round the end. A bracket before it does not count.
+  void OnTyped(std::string_view letter);
 
  private:
   bool tab_stops_;
@@ -146,7 +148,7 @@ class ListView : public Control {
   void OnDoubleClickAt(int row);
   /// Arrows, Home, End and the page keys move to another row.
   void OnKeyDown(Key key) override;
-  /// A person typed a letter: the next row that begins with it, round the end.
+  /// A person typed a letter: as in a list box.
   void OnTyped(std::string_view letter);
   /// The desktop's view of the rows changed.
   void OnScrolled(int first_visible, int rows_per_page);

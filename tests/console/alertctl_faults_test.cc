@@ -4,6 +4,8 @@
 #include <unistd.h>
 
 #include "companions/alertstore/console_users.h"
+#include "console/site/backup_manager.h"
+#include "console/site/managers.h"
 #include "tests/console/alertctl_fixture.h"
 #include "tests/support/raw_database.h"
 
@@ -235,6 +237,19 @@ TEST_F(AlertctlSiteTest, WhatIsNoBackupIsNeitherReplacedNorPutBack) {
   EXPECT_THAT(Run({"restore", "site.db"}), Fails(4, "damaged"));
   EXPECT_EQ(ConfigFile(), before);
   EXPECT_EQ(std::filesystem::file_size(letter), 8u);
+}
+
+TEST_F(AlertctlSiteTest, TheBackupManagerChosenInTheConsoleTakesOverForServicesThatDialOut) {
+  platform::GUID standby{};
+  ASSERT_EQ(site::AddManager("STANDBY", standby), alertstore::kOk);
+  ASSERT_EQ(site::WriteBackupManager(standby), "");
+  const json here = RunJson({"manager", "list"})[0]["name"];
+  for (const char* service : {"Numeric Pager", "Wave File"}) {
+    EXPECT_EQ(Run({"service", "disable", service}).code, 0);
+    EXPECT_EQ(Run({"service", "enable", service, "--manager", here}).code, 0);
+  }
+  EXPECT_EQ(RunJson({"service", "show", "Numeric Pager"})["alertManagers"], json({here, "STANDBY (backup)"}));
+  EXPECT_EQ(RunJson({"service", "show", "Wave File"})["alertManagers"], json({here}));
 }
 
 }  // namespace

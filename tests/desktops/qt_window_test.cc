@@ -331,7 +331,23 @@ TEST_F(QtWindowTest, ALetterFindsAnItemWhoseNameStandsInBrackets) {
   Show(dialog, [&](Person&) {
     QTest::keyClick(&Widget<QTreeWidget>(), Qt::Key_U);
     EXPECT_EQ(list.Current(), 2);
+    QTest::keyClick(&Widget<QTreeWidget>(), Qt::Key_X);
+    EXPECT_EQ(list.Current(), 2) << "nothing begins so";
   });
+}
+
+TEST_F(QtWindowTest, ALetterFindsTheNextRowThatBeginsWithIt) {
+  ReportingDialog dialog;
+  platform::ui::ListView rows(dialog, 1, "&Rows:");
+  rows.AddColumn("Name", 40);
+  for (const char* name : {"Alpha", "beta", "Bravo"}) rows.AddRow({name});
+  Show(dialog, [&](Person&) {
+    for (const int expected : {1, 2, 1}) {
+      QTest::keyClick(&Widget<QTreeWidget>(), Qt::Key_B);
+      EXPECT_EQ(rows.SelectedRow(), expected);
+    }
+  });
+  EXPECT_EQ(dialog.changes, 3);
 }
 
 class TallDialog : public ReportingDialog {

@@ -4,8 +4,10 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <filesystem>
+#include <fstream>
 
 #include "companions/alertstore/console_users.h"
+#include "console/site/backup_manager.h"
 #include "console/site/dialing_rules.h"
 #include "console/site/managers.h"
 #include "console/site/open_mark.h"
@@ -51,13 +53,16 @@ TEST_F(MainWindowTest, DamagedDataAreToldAndNeverShownAsEmpty) {
   test_support::RawDatabase(Library().Directory()).Ask("PRAGMA wal_checkpoint(TRUNCATE)");
   std::string bytes;
   ASSERT_TRUE(platform::ReadWholeFile(file, bytes));
-  std::string broken = bytes;
-  broken.replace(0, 100'000, 100'000, 'x');
-  ASSERT_TRUE(platform::WriteFileAtomically(file, broken, 0600));
+  const auto overwrite = [&](const std::string& start) {
+    std::fstream(file, std::ios::in | std::ios::out | std::ios::binary) << start << std::flush;
+  };
+  overwrite(std::string(100'000, 'x'));
   Window().ReadSite();
   EXPECT_TRUE(Says("The records cannot be read"));
+  Open();
+  EXPECT_TRUE(Says("The records cannot be read")) << "nor by a console that starts on them";
   EXPECT_FALSE(Says("not set up"));
-  ASSERT_TRUE(platform::WriteFileAtomically(file, bytes, 0600));
+  overwrite(bytes.substr(0, 100'000));
   Press("&Try Again");
   EXPECT_EQ(Table("Services").model()->rowCount(), 13);
 }
@@ -175,6 +180,30 @@ TEST_F(MainWindowTest, SwitchAndDeliveryAreTwoThings) {
       << "taken over, not added";
   ShowPage("Alert &Managers");
   EXPECT_EQ(Cells("Alert managers", "OTHER").mid(1, 2), QStringList({"1", "Wave File"}));
+}
+
+TEST_F(MainWindowTest, AManagerWithAModemStaysAndOneThatGoesIsNoBackupAnyMore) {
+  OpenSetUp();
+  GUID other{}, id{};
+  ASSERT_EQ(site::AddManager("OTHER", other), alertstore::kOk);
+  Window().LookForChanges();
+  ShowPage("Alert &Managers");
+  Choose("Alert managers", "OTHER");
+  Give("Backup or Not");
+  EXPECT_EQ(site::ReadBackupManager(), other);
+  test_support::Opened<alertstore::CAlertSERV_MODEMDB> modems;
+  alertstore::ALRTSERV_MODEM modem{};
+  modem.managerGuid = other;
+  modem.name.Assign("Rack");
+  ASSERT_EQ(modems.DBAlertRecAdd(modem, id), alertstore::kOk);
+  Script().ExpectMessage(
+      "The modem \"Rack\" is attached to this alert manager. Attach it to another one or delete it first.");
+  Give("Remove");
+  ASSERT_EQ(modems.DBAlertRecDelete(id), alertstore::kOk);
+  Script().ExpectMessage("Remove the alert manager \"OTHER\"?\n\nThis cannot be undone.", Answer::kYes);
+  Give("Remove");
+  EXPECT_EQ(Window().Site().managers.size(), 1u);
+  EXPECT_TRUE(site::ReadBackupManager().IsNull());
 }
 
 TEST_F(MainWindowTest, WhatTheManagersDoNotKnowYetIsSaidUntilTheyDo) {
