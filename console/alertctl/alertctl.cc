@@ -8,10 +8,6 @@
 
 namespace {
 
-constexpr char kFooter[] =
-    "Services, users and managers are named by name, in either case, or by identity.\n"
-    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure.";
-
 /// Usage errors have one exit code; asking for help is none. A word that means nothing is named, also where
 /// what is missing in its place was noticed first.
 int OnParseError(const CLI::App& app, const CLI::ParseError& error) {
@@ -32,19 +28,9 @@ int OnParseError(const CLI::App& app, const CLI::ParseError& error) {
 
 int main(int argc, char** argv) {
   alertctl::ReserveStandardStreams();
-  CLI::App app("Sets up and shows how alerts reach people.", "alertctl");
-  app.require_subcommand(1);
-  app.footer(kFooter);
+  CLI::App app;
   alertctl::Verbs verbs(app);
-  alertctl::AddInitVerb(verbs);
-  alertctl::AddServiceVerbs(verbs);
-  alertctl::AddUserVerbs(verbs);
-  alertctl::AddEntryVerbs(verbs);
-  alertctl::AddManagerVerbs(verbs);
-  alertctl::AddProviderVerbs(verbs);
-  alertctl::AddResponseVerbs(verbs);
-  alertctl::AddConfigVerbs(verbs);
-  alertctl::AddBackupVerbs(verbs);
+  alertctl::AddAllVerbs(verbs);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

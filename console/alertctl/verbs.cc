@@ -73,4 +73,20 @@ int Verbs::Run() {
   }
 }
 
+namespace {
+
+constexpr char kFooter[] =
+    "Services, users and managers are named by name, in either case, or by identity.\n"
+    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure.";
+
+}  // namespace
+
+void AddAllVerbs(Verbs& verbs) {
+  verbs.Root().name("alertctl")->description("Sets up and shows how alerts reach people.");
+  verbs.Root().require_subcommand(1)->footer(kFooter);
+  for (const auto add : {AddInitVerb, AddServiceVerbs, AddUserVerbs, AddEntryVerbs, AddManagerVerbs,
+                         AddProviderVerbs, AddResponseVerbs, AddConfigVerbs, AddBackupVerbs})
+    add(verbs);
+}
+
 }  // namespace alertctl

@@ -64,6 +64,9 @@ class Verbs {
 inline const CLI::Validator kNotEmpty([](std::string& value) { return value.empty() ? "is empty" : ""; }, "",
                                       "not empty");
 
+/// The whole command line, with what stands above and below its list of verbs. Nothing is read or made.
+void AddAllVerbs(Verbs& verbs);
+
 void AddInitVerb(Verbs& verbs);
 void AddServiceVerbs(Verbs& verbs);
 void AddUserVerbs(Verbs& verbs);
