@@ -68,6 +68,15 @@ Status AddNamedObject(const StoreSchema& schema, const platform::GUID& id, std::
   });
 }
 
+Status RenameNamedObject(const StoreSchema& schema, const platform::GUID& id, std::string_view name) {
+  if (!IsName(name)) return kInvalidArgument;
+  return WithStore(schema, [&](NamedObjectStore& store) {
+    NamedObjectRecord record{id, {}};
+    record.name.Assign(name);
+    return store.DBAlertRecUpdate(record);
+  });
+}
+
 Status RemoveNamedObject(const StoreSchema& schema, const platform::GUID& id) {
   return WithStore(schema, [&](NamedObjectStore& store) { return store.DBAlertRecDelete(id); });
 }

@@ -30,6 +30,8 @@ Status NameOfObject(const StoreSchema& schema, const platform::GUID& id, std::ui
 /// kInvalidArgument for a null identity and for a name that is empty, longer than 64 bytes or holds a zero byte;
 /// kNotUnique for an identity that is there.
 Status AddNamedObject(const StoreSchema& schema, const platform::GUID& id, std::string_view name);
+/// kInvalidArgument for a name as above; kNotFound when there is no such object.
+Status RenameNamedObject(const StoreSchema& schema, const platform::GUID& id, std::string_view name);
 /// kNotFound when there is no such object.
 Status RemoveNamedObject(const StoreSchema& schema, const platform::GUID& id);
 /// Replaces `objects` by all objects in the order of adding; on failure `objects` stays as it was.

@@ -22,6 +22,9 @@ namespace {
 /// Conversions under way in this process, on any thread and through any object.
 std::atomic<int> g_conversions{0};
 
+/// How many ask that nothing be written for now.
+std::atomic<int> g_held_back{0};
+
 class Conversion {
  public:
   Conversion() { ++g_conversions; }
@@ -59,6 +62,15 @@ std::uint32_t WriteConfigFile() {
   return outcome == platform::WriteOutcome::kNotFlushed ? Fail(kNotFlushed, error.text) : 0;
 }
 
+std::uint32_t Write() {
+  const Conversion under_way;
+  try {
+    return WriteConfigFile();
+  } catch (const std::exception&) {
+    return Fail(kStoresUnreadable, "there is not enough memory");  // with a document of that size
+  }
+}
+
 class RealDbConfig : public DbConfig {
  public:
   void GetQEVDataDirectory(char* buffer, std::size_t size) override {
@@ -69,14 +81,7 @@ class RealDbConfig : public DbConfig {
     buffer[length] = '\0';
   }
 
-  std::uint32_t CreateAlertServerConfigFile(std::uint32_t) override {
-    const Conversion under_way;
-    try {
-      return WriteConfigFile();
-    } catch (const std::exception&) {
-      return Fail(kStoresUnreadable, "there is not enough memory");  // with a document of that size
-    }
-  }
+  std::uint32_t CreateAlertServerConfigFile(std::uint32_t) override { return g_held_back == 0 ? Write() : 0; }
 
   std::uint32_t IsConversionComplete() override { return g_conversions == 0 ? 1 : 0; }
 };
@@ -84,6 +89,12 @@ class RealDbConfig : public DbConfig {
 }  // namespace
 
 std::string LastFailureText() { return FailureText(); }
+
+HeldBack::HeldBack() { ++g_held_back; }
+
+HeldBack::~HeldBack() { --g_held_back; }
+
+std::string HeldBack::Write() { return dbconfig::Write() == 0 ? "" : LastFailureText(); }
 
 std::unique_ptr<DbConfig> MakeDbConfig() { return std::make_unique<RealDbConfig>(); }
 

@@ -46,4 +46,17 @@ inline constexpr std::uint32_t kNotFlushed = 4;
 /// Why the last CreateAlertServerConfigFile of this thread failed, in words that can follow "because".
 std::string LastFailureText();
 
+/// While one lives, CreateAlertServerConfigFile of this process answers success and writes nothing: for a program whose
+/// changes set off many writes and which tells the alert managers once, when it is done, or not at all.
+class HeldBack {
+ public:
+  HeldBack();
+  ~HeldBack();
+  HeldBack(const HeldBack&) = delete;
+  HeldBack& operator=(const HeldBack&) = delete;
+
+  /// Writes the file now. "" or why that failed, as LastFailureText.
+  std::string Write();
+};
+
 }  // namespace dbconfig

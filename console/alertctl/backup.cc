@@ -35,7 +35,7 @@ Result Restore(const std::string& file) {
   const std::string aside =
       copied.set_aside.empty() ? "" : "The damaged database is now " + copied.set_aside + ".\n";
   return {{{"path", file}, {"records", copied.records}, {"setAside", copied.set_aside}},
-          "Restored " + Count(copied.records, "record") + " from " + file + ".\n" + aside + kTellManagers};
+          "Restored " + Count(copied.records, "record") + " from " + file + ".\n" + aside};
 }
 
 void AddFileVerb(Verbs& verbs, const char* name, Access access, const char* description, const char* examples,

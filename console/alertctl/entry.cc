@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
-#include "console/alertctl/entry_store.h"
+#include "console/alertctl/fields.h"
 #include "console/alertctl/library.h"
+#include "console/alertctl/listing.h"
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
@@ -17,14 +18,30 @@ constexpr char kListExamples[] =
     "  alertctl entry list --user Ann";
 constexpr char kSetExamples[] =
     "  alertctl entry set Ann \"Internet Mail\" ann@example.org\n"
-    "  alertctl entry set Ann \"Numeric Pager\" 555-0100 --disabled";
+    "  alertctl entry set Ann \"Numeric Pager\" 555-0100 --disabled\n"
+    "  alertctl entry set Ann \"MCI Mail\" 123-4567 --ems yes --ems-address HUB";
 constexpr char kRemoveExamples[] = "  alertctl entry remove Ann \"Internet Mail\"";
+
+/// More than any type's field takes; the field itself knows how much.
+constexpr std::size_t kLongestAddress = 1024;
+
+const FieldOption kAddress = {"the address",
+                              FieldKind::kText,
+                              "",
+                              {"Email A&ddress:", "Email &Address:", "&PIN number:", "&Phone number:"}};
+const FieldOption kEnabled = {
+    "--disabled", FieldKind::kFlag, "", {"&Enable service", "&Enable service for user"}};
+const FieldOption kFields[] = {
+    {"--ems", FieldKind::kFlag, "MCI Mail: whether the user sits on another mail system", {"Enable EM&S"}},
+    {"--ems-address", FieldKind::kText, "MCI Mail: name of that system", {"E&MS Address:"}},
+};
 
 struct Arguments {
   std::string user;
   std::string service;
   std::string address;
   bool disabled = false;
+  GivenFields fields;
 };
 
 Json EntryJson(const Json& service, const Json& user) {
@@ -46,7 +63,7 @@ void Collect(const Json& service, const std::string& user_id, Json& list) {
     if (user_id.empty() || user["userId"] == user_id) list.push_back(EntryJson(service, user));
 }
 
-Result List(const Arguments& arguments) {
+Json Entries(const Arguments& arguments) {
   const Json site = LoadSite();
   const std::string user_id = arguments.user.empty() ? "" : UserId(arguments.user);
   Json list = Json::array();
@@ -54,25 +71,34 @@ Result List(const Arguments& arguments) {
     for (const Json& service : site["services"]) Collect(service, user_id, list);
   else
     Collect(FindService(site, arguments.service), user_id, list);
-  if (list.empty()) return {list, "There are no entries. \"alertctl entry set\" adds one.\n"};
-  TextTable table({"USER", "SERVICE", "ADDRESS", "ALERTED"});
-  for (const Json& entry : list)
-    table.Add({entry["user"], entry["service"], entry["address"], YesNo(entry["enabled"])});
-  return {list, table.Text()};
+  return list;
 }
 
-void CheckAddress(const Json& service, std::uint32_t record_type, const std::string& address) {
-  if (!HasUsers(record_type))
-    throw Failure(kInvalid, "users have no entries on " + TypeName(service) + " services such as \"" +
-                                service["name"].get<std::string>() + "\": choose a mail or pager service");
-  CheckTyped("an address on " + TypeName(service), address, AddressLimit(record_type));
+/// An entry has no identity of its own: user and service tell it apart.
+Listing List(const Arguments& arguments) {
+  Listing listing{{"USER", "SERVICE", "ADDRESS", "ALERTED"},
+                  "There are no entries. \"alertctl entry set\" adds one.\n",
+                  {}};
+  for (const Json& entry : Entries(arguments))
+    listing.rows.push_back(
+        {{entry["user"], entry["service"], entry["address"], YesNo(entry["enabled"])},
+         entry,
+         entry["userId"].get<std::string>() + " " + entry["serviceId"].get<std::string>()});
+  return listing;
+}
+
+/// Which fields of the sheet the arguments stand for.
+FieldValues Values(const Arguments& arguments) {
+  FieldValues values = {{&kAddress, arguments.address}, {&kEnabled, arguments.disabled ? "no" : "yes"}};
+  for (const auto& value : arguments.fields.Values()) values.push_back(value);
+  return values;
 }
 
 /// The entry as it is stored: other parts of the console may have given it more than what is set here.
-Json StoredEntry(const GUID& service, const GUID& user) {
+Json StoredEntry(const Json& service, const FoundUser& user) {
   const Json site = LoadSite();
   Json entries = Json::array();
-  Collect(FindService(site, service.ToString()), user.ToString(), entries);
+  Collect(FindService(site, service["id"]), user.id.ToString(), entries);
   if (entries.empty())
     throw Failure(kStoreFailure, "the entry is gone again: another console has removed it");
   return entries[0];
@@ -82,15 +108,22 @@ Result Set(const Arguments& arguments) {
   const Json site = LoadSite();
   const Json& service = FindService(site, arguments.service);
   const FoundUser user = FindUser(arguments.user);
-  const std::uint32_t record_type = RecordTypeOf(service);
-  CheckAddress(service, record_type, arguments.address);
-  const Entry entry = {IdOf(service), service["name"],   record_type,        user.id,
-                       user.name,     arguments.address, !arguments.disabled};
-  const std::string what = "the entry of \"" + user.name + "\" on \"" + entry.service_name + "\"";
-  const alertstore::Status status = SaveEntry(entry);
-  if (status != alertstore::kOk) throw StoreFailure("write " + what, status);
+  const std::string name = service["name"], what = "the entry of \"" + user.name + "\" on \"" + name + "\"";
+  Library library;
+  const int index = library.IndexOf(service);
+  if (library.Calls().DomainServiceIsUser(index) == 0)
+    throw Failure(kInvalid, "users have no entries on " + TypeName(service) + " services such as \"" + name +
+                                "\": choose a mail or pager service");
+  CheckTyped("an address on " + TypeName(service), arguments.address, kLongestAddress);
+  library.Work("write " + what, [&] { library.Calls().UserServicePropertySheet(nullptr, index, user.id); },
+               {[&](console_operator::OperatedWindow& sheet) {
+                 sheet.FillAll(Values(arguments), "an entry on " + TypeName(service));
+                 sheet.Finish();
+                 library.Windows().RequireQuiet();
+               }});
+  library.RequireWhole("wrote " + what);
   try {
-    return {StoredEntry(entry.service, entry.user), "Wrote " + what + ".\n"};
+    return {StoredEntry(service, user), "Wrote " + what + ".\n"};
   } catch (const Failure& unread) {
     throw Failure(unread.Code(), "wrote " + what + ", but cannot show it: " + unread.what());
   }
@@ -123,9 +156,8 @@ void AddUserAndService(CLI::App& verb, const std::shared_ptr<Arguments>& argumen
 void AddEntryVerbs(Verbs& verbs) {
   CLI::App& entry = verbs.AddNoun("entry", "Shows and changes how users are reached through services.");
   const auto arguments = std::make_shared<Arguments>();
-  CLI::App& list = verbs.AddVerb(entry, "list", Access::kRead,
-                                 "Lists the entries, of one user or service where one is named.",
-                                 kListExamples, [arguments] { return List(*arguments); });
+  CLI::App& list = AddListVerb(verbs, entry, "Lists the entries, of one user or service where one is named.",
+                               kListExamples, [arguments] { return List(*arguments); });
   list.add_option("--user", arguments->user, "Name or identity of a user")->check(kNotEmpty);
   list.add_option("--service", arguments->service, "Name or identity of a service")->check(kNotEmpty);
 
@@ -138,6 +170,7 @@ void AddEntryVerbs(Verbs& verbs) {
       ->required();
   set.add_flag("--disabled", arguments->disabled,
                "The user is not to be alerted through the service for now");
+  arguments->fields.AddTo(set, kFields);
 
   AddUserAndService(verbs.AddVerb(entry, "remove", Access::kChange, "Removes a user's entry from a service.",
                                   kRemoveExamples, [arguments] { return Remove(*arguments); }),

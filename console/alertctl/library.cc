@@ -9,11 +9,6 @@ namespace alertctl {
 
 using platform::GUID;
 
-platform::ui::Answer Messages::ShowMessage(const platform::ui::Message& message) {
-  text_ += (text_.empty() ? "" : " ") + message.text;
-  return platform::ui::Answer::kOk;
-}
-
 Library::Library() : stores_(std::make_shared<StoreWatch>()) {
   alertstore::SetEngine(WatchEngine(alertstore::CurrentEngine(), stores_));
   const std::string path = site::LibraryPath();
@@ -43,8 +38,30 @@ int Library::IndexOf(const Json& service) {
                 "the service " + service["name"].dump() + " cannot be loaded by the alerting library");
 }
 
+int Library::FirstOf(const std::string& what, const std::function<bool(int)>& is_wanted) {
+  const int count = calls_.DomainServiceGetCount();
+  for (int index = 0; index < count; ++index)
+    if (is_wanted(index)) return ForgetLoading(index);
+  if (stores_->FirstFailure() != alertstore::kOk) throw Refusal("load the services");
+  throw Failure(kInvalid,
+                "the site has no " + what + ", whose window leads there: \"alertctl init\" adds one");
+}
+
+void Library::Work(const std::string& what, const std::function<void()>& action, std::vector<Story> stories) {
+  try {
+    windows_.Work(action, std::move(stories));
+  } catch (const Failure& failure) {
+    if (stores_->FirstFailure() != alertstore::kOk) throw Refusal(what);
+    throw Failure(failure.Code(), "cannot " + what + ": " + failure.what());
+  }
+}
+
+std::string Library::Notes() const {
+  return windows_.Said().empty() ? "" : "Note: " + windows_.Said() + "\n";
+}
+
 Failure Library::Refusal(const std::string& what) const {
-  const std::string said = messages_.Text().empty() ? "" : " The alerting library says: " + messages_.Text();
+  const std::string said = windows_.Said().empty() ? "" : " The alerting library says: " + windows_.Said();
   if (stores_->FirstFailure() == alertstore::kOk)
     return Failure(kStoreFailure,
                    "cannot " + what + ": no store failed, but the alerting library did." + said);
@@ -58,7 +75,7 @@ void Library::RequireWhole(const std::string& done) const {
 }
 
 int Library::ForgetLoading(int index) {
-  messages_.Forget();
+  windows_.Forget();
   stores_->Forget();
   return index;
 }

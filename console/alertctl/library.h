@@ -1,36 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "console/alertctl/site.h"
 #include "console/alertctl/store_watch.h"
+#include "console/operator/operated_window.h"
 #include "console/site/library_calls.h"
 #include "platform/base/guid.h"
 #include "platform/base/module.h"
-#include "platform/ui/desktop.h"
-#include "platform/ui/message.h"
 
 namespace alertctl {
-
-/// The desktop while it lives: keeps what the library would show in message boxes.
-class Messages : public platform::ui::Desktop {
- public:
-  Messages() : before_(SetCurrent(this)) {}
-  ~Messages() override { SetCurrent(before_); }
-  Messages(const Messages&) = delete;
-  Messages& operator=(const Messages&) = delete;
-
-  platform::ui::Answer ShowMessage(const platform::ui::Message& message) override;
-
-  const std::string& Text() const { return text_; }
-  void Forget() { text_.clear(); }
-
- private:
-  platform::ui::Desktop* const before_;
-  std::string text_;
-};
 
 /// The alerting library, loaded for what only it can do to services.
 class Library {
@@ -46,6 +29,20 @@ class Library {
   /// such one. The library loads all services here and has something to say about each that is broken; that
   /// is forgotten, because none of them was asked for.
   int IndexOf(const Json& service);
+  /// The index of the first service for which `is_wanted` holds. Throws a Failure (kInvalid) that names what is missing
+  /// ("a service that dials out") when there is none: its windows lead to what has no window of its own.
+  int FirstOf(const std::string& what, const std::function<bool(int)>& is_wanted);
+
+  using Story = console_operator::WindowOperator::Story;
+  /// Does what opens windows, and works each of them with the next of `stories`. `what` says what that is for
+  /// ("change the modem"). Throws a Failure when it does not come about: of a store (kStoreFailure), or what a window
+  /// said against it (kInvalid).
+  void Work(const std::string& what, const std::function<void()>& action, std::vector<Story> stories);
+  console_operator::WindowOperator& Windows() { return windows_; }
+  const site::LibraryCalls& Calls() const { return calls_; }
+  /// What windows said although all went well, as a line for people; "" for nothing.
+  std::string Notes() const;
+
   bool IsFirstOfType(int index) const;
   bool Copy(int index, const std::string& name, const platform::GUID& manager) const;
   bool Delete(int index, const platform::GUID& manager) const;
@@ -64,7 +61,7 @@ class Library {
  private:
   int ForgetLoading(int index);
 
-  Messages messages_;
+  console_operator::WindowOperator windows_;
   const std::shared_ptr<StoreWatch> stores_;
   platform::DynamicLibrary library_;
   site::LibraryCalls calls_;

@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: MIT
+#include <memory>
+
+#include "console/alertctl/listing.h"
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
+#include "console/site/backup_manager.h"
 
 namespace alertctl {
+
+void AddManagerChangeVerbs(Verbs& verbs, CLI::App& manager);
+
 namespace {
 
-constexpr char kExamples[] = "  alertctl manager list --json";
+constexpr char kListExamples[] = "  alertctl manager list --json";
+constexpr char kShowExamples[] = "  alertctl manager show \"$(uname -n)\"";
 
 std::string ServiceName(const Json& site, const Json& entry) {
   for (const Json& service : site["services"])
@@ -23,26 +31,44 @@ std::vector<std::string> ServiceNames(const Json& site, const Json& manager) {
   return names;
 }
 
-Result List() {
+Json Summary(const Json& site, const Json& manager) {
+  return {{"id", manager["id"]}, {"name", manager["name"]}, {"services", ServiceNames(site, manager)}};
+}
+
+Listing List() {
   const Json site = LoadSite();
-  if (site["alertManagers"].empty())
-    return {Json::array(), "There are no alert managers. \"alertctl init\" makes this machine one.\n"};
-  Json list = Json::array();
-  TextTable table({"NAME", "SERVICES", "IDENTITY"});
+  Listing listing{{"NAME", "SERVICES", "IDENTITY"},
+                  "There are no alert managers. \"alertctl init\" makes this machine one.\n",
+                  {}};
   for (const Json& manager : site["alertManagers"]) {
-    const auto services = ServiceNames(site, manager);
-    list.push_back({{"id", manager["id"]}, {"name", manager["name"]}, {"services", services}});
-    table.Add({manager["name"], std::to_string(services.size()), manager["id"]});
+    const Json summary = Summary(site, manager);
+    listing.rows.push_back({{manager["name"], std::to_string(summary["services"].size()), manager["id"]},
+                            summary,
+                            manager["id"]});
   }
-  return {list, table.Text()};
+  return listing;
+}
+
+Result Show(const std::string& name) {
+  const Json site = LoadSite();
+  Json shown = Summary(site, FindOne(site["alertManagers"], name, "alert manager", "alertctl manager list"));
+  shown["backup"] = IdOf(shown) == site::ReadBackupManager();
+  return {shown, Described(shown, 0)};
 }
 
 }  // namespace
 
 void AddManagerVerbs(Verbs& verbs) {
-  CLI::App& manager = verbs.AddNoun("manager", "Shows the alert managers.");
-  verbs.AddVerb(manager, "list", Access::kRead,
-                "Lists the alert managers and how many services each has enabled.", kExamples, List);
+  CLI::App& manager = verbs.AddNoun("manager", "Shows and changes the alert managers, which deliver alerts.");
+  AddListVerb(verbs, manager, "Lists the alert managers and how many services each delivers.", kListExamples,
+              List);
+  const auto name = std::make_shared<std::string>();
+  verbs
+      .AddVerb(manager, "show", Access::kRead, "Shows one alert manager and what it delivers.", kShowExamples,
+               [name] { return Show(*name); })
+      .add_option("manager", *name, "Name or identity of the alert manager")
+      ->required();
+  AddManagerChangeVerbs(verbs, manager);
 }
 
 }  // namespace alertctl

@@ -2,11 +2,16 @@
 #include "console/alertctl/output.h"
 
 #include <fcntl.h>
+#include <locale.h>
 #include <unistd.h>
+#include <wchar.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
+#include <clocale>
 #include <cstring>
+#include <cwchar>
 #include <iostream>
 
 #include "console/site/names.h"
@@ -74,6 +79,45 @@ std::string Printable(std::string_view text, bool lines) {
       result += piece == Piece::kControl ? " " : "\uFFFD";
   });
   return result;
+}
+
+namespace {
+
+/// Makes the C library's table of widths that of UTF-8, whatever the user's locale.
+class Utf8Locale {
+ public:
+  Utf8Locale() : locale_(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)) {
+    if (locale_ != nullptr) before_ = uselocale(locale_);
+  }
+  ~Utf8Locale() {
+    if (locale_ == nullptr) return;
+    uselocale(before_);
+    freelocale(locale_);
+  }
+  Utf8Locale(const Utf8Locale&) = delete;
+  Utf8Locale& operator=(const Utf8Locale&) = delete;
+
+ private:
+  locale_t locale_, before_ = nullptr;
+};
+
+std::size_t WidthOf(const std::string& sequence) {
+  wchar_t letter = 0;
+  std::mbstate_t state{};
+  if (std::mbrtowc(&letter, sequence.data(), sequence.size(), &state) > sequence.size()) return 1;
+  const int width = wcwidth(letter);
+  return width < 0 ? 1 : static_cast<std::size_t>(width);
+}
+
+}  // namespace
+
+std::size_t ColumnsOf(std::string_view text) {
+  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::ranges::all_of(text, is_ascii)) return text.size();
+  const Utf8Locale utf8;
+  std::size_t columns = 0;
+  ForEachSequence(text, [&](std::string_view sequence) { columns += WidthOf(std::string(sequence)); });
+  return columns;
 }
 
 // JSON has the controls of ASCII escaped already, but for the last one.

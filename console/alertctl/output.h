@@ -23,6 +23,8 @@ void PrintError(const std::string& text);
 /// The text without what a terminal would act on, and with U+FFFD for bytes that are no UTF-8; line breaks
 /// stay when `lines` says so.
 std::string Printable(std::string_view text, bool lines);
+/// How many columns of a terminal the text takes: none for marks that join the letter before them, two for wide letters.
+std::size_t ColumnsOf(std::string_view text);
 /// JSON, indented, in which the same characters are escaped.
 std::string JsonText(const Json& json);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
+#include "console/alertctl/listing.h"
 #include "console/alertctl/provider_records.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
@@ -12,20 +13,29 @@ void AddProviderChangeVerbs(Verbs& verbs, CLI::App& provider);
 
 namespace {
 
-constexpr char kListExamples[] = "  alertctl provider list";
+constexpr char kListExamples[] =
+    "  alertctl provider list\n"
+    "  alertctl provider list --where company=north --sort phone";
 constexpr char kShowExamples[] = "  alertctl provider show \"Example Paging North\"";
 
-Result List() {
+Listing List() {
+  Listing listing{{"COMPANY", "LOCATION", "PHONE", "BAUD RATE", "TEXT LENGTH", "IDENTITY"},
+                  "There are no paging providers. \"alertctl provider add\" adds one.\n",
+                  {}};
   const std::vector<Provider> providers = StoredProviders();
-  if (providers.empty())
-    return {Json::array(), "There are no paging providers. \"alertctl provider add\" adds one.\n"};
-  TextTable table({"COMPANY", "LOCATION", "PHONE", "BAUD RATE", "TEXT LENGTH", "IDENTITY"});
-  for (const Provider& provider : providers)
-    table.Add({CompanyOf(provider),
-               std::string(provider.regionA.View()) + " " + std::string(provider.regionB.View()),
-               std::string(provider.phone.View()), std::to_string(provider.baudRate),
-               std::to_string(provider.maxTextLength), provider.guid.ToString()});
-  return {ProvidersJson(providers), table.Text()};
+  const Json items = ProvidersJson(providers);
+  for (std::size_t i = 0; i < providers.size(); ++i) {
+    const Provider& provider = providers[i];
+    const std::string id = provider.guid.ToString();
+    listing.rows.push_back(
+        {{CompanyOf(provider),
+          std::string(provider.regionA.View()) + " " + std::string(provider.regionB.View()),
+          std::string(provider.phone.View()), std::to_string(provider.baudRate),
+          std::to_string(provider.maxTextLength), id},
+         items[i],
+         id});
+  }
+  return listing;
 }
 
 Result Show(const std::string& name) {
@@ -41,7 +51,7 @@ Result Show(const std::string& name) {
 void AddProviderVerbs(Verbs& verbs) {
   CLI::App& provider =
       verbs.AddNoun("provider", "Shows and changes the paging providers that can be chosen.");
-  verbs.AddVerb(provider, "list", Access::kRead, "Lists the paging providers.", kListExamples, List);
+  AddListVerb(verbs, provider, "Lists the paging providers.", kListExamples, List);
   const auto name = std::make_shared<std::string>();
   verbs
       .AddVerb(provider, "show", Access::kRead, "Shows all about a paging provider.", kShowExamples,

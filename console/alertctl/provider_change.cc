@@ -53,8 +53,8 @@ Result Add(const Arguments& arguments) {
   Take(arguments.written, provider);
   const alertstore::Status status = site::AddProvider(provider);
   if (status != alertstore::kOk) throw StoreFailure("add the paging provider " + Quoted(provider), status);
-  return {ProvidersJson({provider})[0], "Added the paging provider " + Quoted(provider) + " " +
-                                            provider.guid.ToString() + ".\n" + kTellManagers};
+  return {ProvidersJson({provider})[0],
+          "Added the paging provider " + Quoted(provider) + " " + provider.guid.ToString() + ".\n"};
 }
 
 Result Set(const Arguments& arguments) {
@@ -65,8 +65,7 @@ Result Set(const Arguments& arguments) {
   const alertstore::Status status = site::UpdateProvider(provider);
   if (status != alertstore::kOk) throw StoreFailure("change the paging provider " + Quoted(provider), status);
   return {ProvidersJson({provider})[0], "Changed the paging provider " + Quoted(provider) +
-                                            ". Services set up with it keep its settings of before.\n" +
-                                            kTellManagers};
+                                            ". Services set up with it keep its settings of before.\n"};
 }
 
 Result Remove(const Arguments& arguments) {
@@ -74,7 +73,7 @@ Result Remove(const Arguments& arguments) {
   const alertstore::Status status = site::RemoveProvider(provider.guid);
   if (status != alertstore::kOk) throw StoreFailure("remove the paging provider " + Quoted(provider), status);
   return {ProvidersJson({provider})[0], "Removed the paging provider " + Quoted(provider) +
-                                            ". Services set up with it keep its settings.\n" + kTellManagers};
+                                            ". Services set up with it keep its settings.\n"};
 }
 
 Result Import(const Arguments& arguments) {
@@ -87,8 +86,7 @@ Result Import(const Arguments& arguments) {
   const std::string known =
       result.known == 0 ? "" : "; the site had " + std::to_string(result.known) + " already";
   return {{{"path", arguments.file}, {"added", result.added}, {"known", result.known}},
-          "Added " + Count(result.added, "paging provider") + " from " + arguments.file + known + ".\n" +
-              (result.added == 0 ? "" : kTellManagers)};
+          "Added " + Count(result.added, "paging provider") + " from " + arguments.file + known + ".\n"};
 }
 
 /// "--region-a" for "region A".

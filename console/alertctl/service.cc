@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
+#include "console/alertctl/listing.h"
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
@@ -8,11 +9,15 @@
 namespace alertctl {
 
 void AddServiceChangeVerbs(Verbs& verbs, CLI::App& service);
+void AddServiceSetVerb(Verbs& verbs, CLI::App& service);
+void AddServiceNameVerbs(Verbs& verbs, CLI::App& service);
 
 namespace {
 
 constexpr char kListExamples[] =
     "  alertctl service list\n"
+    "  alertctl service list --where delivered-by=\"$(uname -n)\" --sort type\n"
+    "  alertctl service list --where type=pager -q\n"
     "  alertctl service list --json | jq -r '.[] | select(.enabled) | .name'";
 
 constexpr char kShowExamples[] =
@@ -25,29 +30,30 @@ std::string Joined(const std::vector<std::string>& texts) {
   return joined;
 }
 
-Json Summary(const Json& site, const Json& service) {
+Json Summary(const Deliveries& deliveries, const Json& service) {
   return {{"id", service["id"]},
           {"name", service["name"]},
           {"type", service["type"]},
           {"typeName", TypeName(service)},
           {"enabled", service["enabled"]},
           {"users", service.value("users", Json::array()).size()},
-          {"alertManagers", ManagersOf(site, service)}};
+          {"alertManagers", deliveries.Of(service)}};
 }
 
-Result List() {
+Listing List() {
   const Json site = LoadSite();
-  if (site["services"].empty())
-    return {Json::array(), "There are no services. \"alertctl init\" adds one of every type.\n"};
-  Json list = Json::array();
-  TextTable table({"NAME", "TYPE", "ON", "USERS", "DELIVERED BY", "IDENTITY"});
+  Listing listing{{"NAME", "TYPE", "ON", "USERS", "DELIVERED BY", "IDENTITY"},
+                  "There are no services. \"alertctl init\" adds one of every type.\n",
+                  {}};
+  const Deliveries deliveries(site);
   for (const Json& service : site["services"]) {
-    list.push_back(Summary(site, service));
-    const Json& summary = list.back();
-    table.Add({summary["name"], summary["typeName"], YesNo(summary["enabled"]), summary["users"].dump(),
-               Joined(ManagersOf(site, service)), summary["id"]});
+    const Json summary = Summary(deliveries, service);
+    listing.rows.push_back({{summary["name"], summary["typeName"], YesNo(summary["enabled"]),
+                             summary["users"].dump(), Joined(summary["alertManagers"]), summary["id"]},
+                            summary,
+                            summary["id"]});
   }
-  return {list, table.Text()};
+  return listing;
 }
 
 Result Show(const std::string& name) {
@@ -61,13 +67,15 @@ Result Show(const std::string& name) {
 
 void AddServiceVerbs(Verbs& verbs) {
   CLI::App& service = verbs.AddNoun("service", "Shows and changes the site's notification services.");
-  verbs.AddVerb(service, "list", Access::kRead, "Lists the services.", kListExamples, List);
+  AddListVerb(verbs, service, "Lists the services.", kListExamples, List);
   const auto name = std::make_shared<std::string>();
   verbs
       .AddVerb(service, "show", Access::kRead, "Shows one service whole; passwords are masked.",
                kShowExamples, [name] { return Show(*name); })
       .add_option("service", *name, "Name or identity of the service")
       ->required();
+  AddServiceSetVerb(verbs, service);
+  AddServiceNameVerbs(verbs, service);
   AddServiceChangeVerbs(verbs, service);
 }
 

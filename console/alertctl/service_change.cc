@@ -64,7 +64,7 @@ Result Copy(const Arguments& arguments) {
   return {
       {{"id", id}, {"name", arguments.new_name}, {"copyOf", source["id"]}, {"alertManager", manager["name"]}},
       "Copied " + Quoted(source) + " to \"" + arguments.new_name + "\" " + id + ", enabled on " +
-          Quoted(manager) + ".\n" + kTellManagers};
+          Quoted(manager) + ".\n"};
 }
 
 Result Delete(const Arguments& arguments) {
@@ -82,7 +82,7 @@ Result Delete(const Arguments& arguments) {
     throw library.Refusal("delete the service " + Quoted(service));
   library.RequireWhole("deleted the service " + Quoted(service));
   return {{{"id", service["id"]}, {"name", service["name"]}, {"deleted", true}},
-          "Deleted the service " + Quoted(service) + ".\n" + kTellManagers};
+          "Deleted the service " + Quoted(service) + ".\n"};
 }
 
 Json ManagerResult(const Json& site, const Json& service, bool changed) {
@@ -109,7 +109,7 @@ Result Enable(const Arguments& arguments) {
   if (ManagersOf(after, service).empty()) throw library.Refusal("enable the service " + Quoted(service));
   library.RequireWhole("enabled the service " + Quoted(service));
   return {ManagerResult(after, service, true),
-          "Enabled " + Quoted(service) + " on " + Quoted(manager) + ".\n" + kTellManagers};
+          "Enabled " + Quoted(service) + " on " + Quoted(manager) + ".\n"};
 }
 
 /// The library takes away one entry a call, and a service with a backup manager has two.
@@ -125,7 +125,7 @@ Result Disable(const Arguments& arguments) {
   const Json after = LoadSite();
   if (!ManagersOf(after, service).empty()) throw library.Refusal("disable the service " + Quoted(service));
   library.RequireWhole("disabled the service " + Quoted(service));
-  return {ManagerResult(after, service, true), "Disabled " + Quoted(service) + ".\n" + kTellManagers};
+  return {ManagerResult(after, service, true), "Disabled " + Quoted(service) + ".\n"};
 }
 
 using Action = Result (*)(const Arguments&);

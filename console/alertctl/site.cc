@@ -5,11 +5,15 @@
 #include <cstring>
 #include <optional>
 
+#include "companions/alertstore/computers.h"
 #include "companions/alertstore/console_users.h"
+#include "companions/alertstore/stores.h"
 #include "companions/dbconfig/document.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
 #include "companions/dbconfig/strings.h"
+#include "console/site/console_settings.h"
+#include "console/site/walk.h"
 #include "platform/base/host_name.h"
 #include "platform/base/utf8.h"
 
@@ -37,6 +41,17 @@ dbconfig::Site ReadSite() {
   return site;
 }
 
+using Objects = std::vector<alertstore::NamedObject>;
+
+Json Named(const std::string& what, alertstore::Status (*list)(Objects&)) {
+  Objects objects;
+  if (const alertstore::Status status = list(objects); status != alertstore::kOk)
+    throw StoreFailure(what, status);
+  Json result = Json::array();
+  for (const auto& object : objects) result.push_back({{"id", object.id.ToString()}, {"name", object.name}});
+  return result;
+}
+
 }  // namespace
 
 const Json& FindOne(const Json& objects, const std::string& name, const std::string& kind,
@@ -57,6 +72,28 @@ const Json& FindOne(const Json& objects, const std::string& name, const std::str
 Json LoadSite() {
   Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
   MaskSecrets(document);
+  return document;
+}
+
+Json LoadModemTypes() {
+  alertstore::CAlertSERV_MODEMDB store("QModemDB.dat");
+  dbconfig::Site only;
+  const alertstore::Status status = site::WalkAll(store, [&](const alertstore::ALRTSERV_MODEM& type) {
+    only.modems.emplace_back(reinterpret_cast<const char*>(&type), sizeof type);
+    return alertstore::kOk;
+  });
+  if (status != alertstore::kOk) throw StoreFailure("read the modem types", status);
+  return Json::parse(dbconfig::WriteDocument(only))["modems"];
+}
+
+Json LoadComputers() { return Named("read the computers", alertstore::ListComputers); }
+
+Json LoadWholeSite() {
+  Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
+  document["modemTypes"] = LoadModemTypes();
+  document["users"] = Named("read the users", alertstore::ListConsoleUsers);
+  document["computers"] = LoadComputers();
+  document["consoleSettings"] = site::ReadConsoleSettings();
   return document;
 }
 
@@ -110,21 +147,33 @@ bool LacksOwnRecord(const platform::GUID& service) {
   return false;
 }
 
-std::vector<std::string> ManagersOf(const Json& site, const Json& service) {
-  std::vector<std::string> names;
+Deliveries::Deliveries(const Json& site) {
   for (const Json& manager : site["alertManagers"])
     for (const Json& entry : manager["services"])
-      if (entry["serviceId"] == service["id"])
-        names.push_back(manager["name"].get<std::string>() + (entry["backup"] == true ? " (backup)" : ""));
-  return names;
+      managers_[entry["serviceId"]].push_back(manager["name"].get<std::string>() +
+                                              (entry["backup"] == true ? " (backup)" : ""));
+}
+
+std::vector<std::string> Deliveries::Of(const Json& service) const {
+  const auto found = managers_.find(service["id"].get<std::string>());
+  return found == managers_.end() ? std::vector<std::string>() : found->second;
+}
+
+std::vector<std::string> ManagersOf(const Json& site, const Json& service) {
+  return Deliveries(site).Of(service);
+}
+
+const Json& FindResponse(const Json& site, const std::string& name) {
+  const auto id = platform::GUID::Parse(name);
+  if (!id) throw Failure(kInvalid, "\"" + name + "\" is no identity: see \"alertctl response list\"");
+  for (const Json& response : site["responses"])
+    if (IdOf(response) == *id) return response;
+  throw Failure(kNothingMatched,
+                "no response has the identity " + id->ToString() + ": see \"alertctl response list\"");
 }
 
 FoundUser FindUser(const std::string& name) {
-  std::vector<alertstore::ConsoleUser> users;
-  const alertstore::Status status = alertstore::ListConsoleUsers(users);
-  if (status != alertstore::kOk) throw StoreFailure("read the users", status);
-  Json objects = Json::array();
-  for (const auto& user : users) objects.push_back({{"id", user.id.ToString()}, {"name", user.name}});
+  const Json objects = Named("read the users", alertstore::ListConsoleUsers);
   const Json& found = FindOne(objects, name, "user", "alertctl user list");
   return {IdOf(found), found["name"]};
 }

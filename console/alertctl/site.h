@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
+#include <vector>
 
 #include "companions/alertstore/status.h"
 #include "console/alertctl/verbs.h"
@@ -14,6 +16,13 @@ namespace alertctl {
 /// All stores at one moment, in the form of the configuration file (docs/configuration-file.md) with every
 /// secret masked, so that no verb can print one. Throws a Failure with kStoreFailure.
 Json LoadSite();
+/// The same, unmasked, with all that a console can change besides: modem types, users, computers, dialing rules and the
+/// choice of the backup manager. For comparing; none of it may be printed as it is.
+Json LoadWholeSite();
+/// The computers that the site knows. Throws a Failure with kStoreFailure.
+Json LoadComputers();
+/// The modem types in the form of the document's modems. Throws a Failure with kStoreFailure.
+Json LoadModemTypes();
 /// Masks the passwords in a document, and the community names of the SNMP managers, which are passwords too.
 void MaskSecrets(Json& document);
 
@@ -31,6 +40,18 @@ const Json& FindManager(const Json& site, const std::string& name);
 bool IsEnabledOn(const Json& manager, const Json& service);
 /// True when the record with the settings of that service is missing. Throws a Failure with kStoreFailure.
 bool LacksOwnRecord(const platform::GUID& service);
+/// The response with that identity. Throws kInvalid for what is none, kNothingMatched where none has it.
+const Json& FindResponse(const Json& site, const std::string& name);
+/// Which managers deliver which service, for who asks about many services.
+class Deliveries {
+ public:
+  explicit Deliveries(const Json& site);
+  /// As ManagersOf.
+  std::vector<std::string> Of(const Json& service) const;
+
+ private:
+  std::map<std::string, std::vector<std::string>> managers_;
+};
 /// The names of the managers on which the service is enabled, in the order of the managers.
 std::vector<std::string> ManagersOf(const Json& site, const Json& service);
 

@@ -11,12 +11,6 @@
 namespace alertctl {
 namespace {
 
-std::size_t Characters(const std::string& text) {
-  std::size_t count = 0;
-  for (std::size_t at = 0; at < text.size(); at = platform::Utf8Next(text, at)) ++count;
-  return count;
-}
-
 std::string Indented(const std::string& text, int indent) {
   std::string result(static_cast<std::size_t>(indent), ' ');
   for (char c : text) {
@@ -34,12 +28,14 @@ std::string PlainValue(const Json& value) {
   return value.is_string() ? value.get<std::string>() : value.dump();
 }
 
+std::string OnItsLine(const std::string& value) { return value.empty() ? "" : " " + value; }
+
 std::string DescribedMember(const std::string& name, const Json& value, int indent) {
   const std::string title = std::string(static_cast<std::size_t>(indent), ' ') + name + ":";
   if (IsMessage(value))
     return title + "\n" + Indented(Printable(ShownMessage(value), true), indent + 2) + "\n";
   if (value.is_object()) return title + "\n" + Described(value, indent + 2);
-  if (!value.is_array()) return title + " " + Printable(PlainValue(value), false) + "\n";
+  if (!value.is_array()) return title + OnItsLine(Printable(PlainValue(value), false)) + "\n";
   std::string text = title + (value.empty() ? " none\n" : "\n");
   for (const Json& item : value) text += Described(item, indent + 2);
   return text;
@@ -55,13 +51,14 @@ void TextTable::Add(std::vector<std::string> cells) {
 std::string TextTable::Text() const {
   std::vector<std::size_t> widths(rows_.front().size());
   for (const auto& row : rows_)
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], Characters(row[i]));
+    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], ColumnsOf(row[i]));
   std::string text;
   for (const auto& row : rows_) {
     for (std::size_t i = 0; i < row.size(); ++i) {
       text += row[i];
-      if (i + 1 < row.size()) text.append(widths[i] - Characters(row[i]) + 2, ' ');
+      if (i + 1 < row.size()) text.append(widths[i] - ColumnsOf(row[i]) + 2, ' ');
     }
+    text.erase(text.find_last_not_of(' ') + 1);
     text += '\n';
   }
   return text;

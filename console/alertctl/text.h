@@ -22,9 +22,6 @@ class TextTable {
   std::vector<std::vector<std::string>> rows_;
 };
 
-/// Ends what a verb says that changed what the alert managers act on.
-inline constexpr char kTellManagers[] = "Tell the alert managers with \"alertctl config write\".\n";
-
 /// "yes" or "no".
 std::string YesNo(const Json& flag);
 /// "1 service", "2 services".

@@ -2,48 +2,21 @@
 #include "console/alertctl/verbs.h"
 
 #include <cstdlib>
-#include <iostream>
-#include <optional>
 
 #include "companions/alertstore/left_out.h"
+#include "companions/dbconfig/dbconfig.h"
+#include "console/alertctl/dry_run.h"
 #include "console/alertctl/output.h"
 #include "console/site/data_directory.h"
 
 namespace alertctl {
-
-CLI::App& Verbs::AddNoun(const std::string& name, const std::string& description) {
-  CLI::App* noun = app_.add_subcommand(name, description);
-  noun->require_subcommand(1);
-  return *noun;
-}
-
-CLI::App& Verbs::AddVerb(CLI::App& noun, const std::string& name, Access access,
-                         const std::string& description, const std::string& examples, Action action) {
-  CLI::App* verb = noun.add_subcommand(name, description);
-  verb->add_flag("--json", json_, "Print JSON instead of text");
-  verb->add_option("--data", data_, "Data directory; without it ALERTING_DATA, else the user's data home")
-      ->check(kNotEmpty)
-      ->type_name("DIR");
-  verb->footer("Examples:\n" + examples);
-  verb->final_callback([this, access, action = std::move(action)] {
-    action_ = action;
-    access_ = access;
-  });
-  return *verb;
-}
-
-Result Verbs::RunAction() const {
-  if (access_ == Access::kFile) return action_();
-  if (access_ == Access::kSetUp)
-    site::MakeDataDirectory();
-  else
-    site::RequireData();
-  std::optional<site::DirectoryTurn> turn;
-  if (access_ == Access::kChange || access_ == Access::kSetUp) turn.emplace();
-  return action_();
-}
-
 namespace {
+
+constexpr char kFooter[] =
+    "Services, users and managers are named by name, in either case, or by identity.\n"
+    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure.";
+
+constexpr char kNotTold[] = "The alert managers have not been told: \"alertctl config write\" tells them.\n";
 
 /// What is shown then is not all that there is.
 void WarnOfLeftOut() {
@@ -54,6 +27,87 @@ void WarnOfLeftOut() {
 }
 
 }  // namespace
+
+Verbs::Verbs(CLI::App& app) : app_(app) {
+  AddCommonOptions(app);
+  AddChangeOptions(app);
+}
+
+void Verbs::AddCommonOptions(CLI::App& app) {
+  app.add_flag("--json", json_, "Print JSON instead of text");
+  app.add_option("--data", data_, "Data directory; without it ALERTING_DATA, else the user's data home")
+      ->check(kNotEmpty)
+      ->type_name("DIR");
+}
+
+void Verbs::AddChangeOptions(CLI::App& app) {
+  app.add_flag("--dry-run", dry_run_, "Say what would change, and change nothing");
+  app.add_flag("--no-write", no_write_, "Leave the alert managers' configuration file as it is");
+}
+
+CLI::App& Verbs::AddNoun(const std::string& name, const std::string& description) {
+  CLI::App* noun = app_.add_subcommand(name, description);
+  noun->require_subcommand(1);
+  AddCommonOptions(*noun);
+  return *noun;
+}
+
+CLI::App& Verbs::AddVerb(CLI::App& noun, const std::string& name, Access access,
+                         const std::string& description, const std::string& examples, Action action) {
+  CLI::App* verb = noun.add_subcommand(name, description);
+  AddCommonOptions(*verb);
+  if (access == Access::kChange || access == Access::kSetUp) AddChangeOptions(*verb);
+  verb->footer("Examples:\n" + examples);
+  verb->final_callback([this, access, action = std::move(action)] {
+    action_ = action;
+    access_ = access;
+  });
+  return *verb;
+}
+
+void Verbs::Prepare() const {
+  if (access_ == Access::kSetUp)
+    site::MakeDataDirectory();
+  else if (access_ != Access::kFile)
+    site::RequireData();
+}
+
+// The library's windows write the file when they close; here it is written once, or not at all.
+Result Verbs::RunAction() const {
+  if (dry_run_ && Changes()) return RunDry();
+  Prepare();
+  if (!Changes()) return action_();
+  const site::DirectoryTurn turn;
+  dbconfig::HeldBack managers_file;
+  try {
+    Result result = action_();
+    TellManagers(managers_file, result);
+    return result;
+  } catch (const Failure& failure) {
+    if (failure.Code() == kStoreFailure && !no_write_) managers_file.Write();  // something may be stored
+    throw;
+  }
+}
+
+Result Verbs::RunDry() const {
+  if (access_ == Access::kChange) site::RequireData();
+  return DryRun([this] {
+    Prepare();
+    const dbconfig::HeldBack managers_file;
+    action_();
+  });
+}
+
+void Verbs::TellManagers(dbconfig::HeldBack& managers_file, Result& result) const {
+  if (no_write_) {
+    result.json["managersTold"] = false;
+    result.text += kNotTold;
+    return;
+  }
+  if (const std::string problem = managers_file.Write(); !problem.empty())
+    throw Failure(kStoreFailure, "what was asked for is done, but the alert managers have not been told: " +
+                                     problem + "; mend it, then tell them with \"alertctl config write\"");
+}
 
 int Verbs::Run() {
   if (!data_.empty()) setenv("ALERTING_DATA", data_.c_str(), 1);
@@ -73,19 +127,14 @@ int Verbs::Run() {
   }
 }
 
-namespace {
-
-constexpr char kFooter[] =
-    "Services, users and managers are named by name, in either case, or by identity.\n"
-    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure.";
-
-}  // namespace
-
 void AddAllVerbs(Verbs& verbs) {
   verbs.Root().name("alertctl")->description("Sets up and shows how alerts reach people.");
   verbs.Root().require_subcommand(1)->footer(kFooter);
-  for (const auto add : {AddInitVerb, AddServiceVerbs, AddUserVerbs, AddEntryVerbs, AddManagerVerbs,
-                         AddProviderVerbs, AddResponseVerbs, AddConfigVerbs, AddBackupVerbs})
+  verbs.Root().set_version_flag("--version", std::string("alertctl ") + ALERTING_VERSION);
+  for (const auto add :
+       {AddInitVerb, AddServiceVerbs, AddUserVerbs, AddEntryVerbs, AddResponseVerbs, AddManagerVerbs,
+        AddModemVerbs, AddModemTypeVerbs, AddLocationVerbs, AddRulesVerbs, AddProviderVerbs,
+        AddSnmpManagerVerbs, AddComputerVerbs, AddConfigVerbs, AddBackupVerbs})
     add(verbs);
 }
 

@@ -8,6 +8,10 @@
 
 #include "console/site/failure.h"
 
+namespace dbconfig {
+class HeldBack;
+}
+
 namespace alertctl {
 
 using Json = nlohmann::ordered_json;
@@ -37,11 +41,11 @@ class Verbs {
  public:
   using Action = std::function<Result()>;
 
-  explicit Verbs(CLI::App& app) : app_(app) {}
+  explicit Verbs(CLI::App& app);
 
   /// A group of verbs, such as "service".
   CLI::App& AddNoun(const std::string& name, const std::string& description);
-  /// A verb of `noun`, with the options that every verb has. `examples` stands at the end of its help.
+  /// A verb of `noun`, with the options that every verb of its kind has. `examples` stands at the end of its help.
   CLI::App& AddVerb(CLI::App& noun, const std::string& name, Access access, const std::string& description,
                     const std::string& examples, Action action);
   CLI::App& Root() { return app_; }
@@ -50,13 +54,22 @@ class Verbs {
   int Run();
 
  private:
-  /// Runs the verb in the data directory that it needs.
+  /// Options that may stand before the verb as well as behind it.
+  void AddCommonOptions(CLI::App& app);
+  void AddChangeOptions(CLI::App& app);
+  bool Changes() const { return access_ == Access::kChange || access_ == Access::kSetUp; }
+  /// Sees to it that the data directory is there.
+  void Prepare() const;
   Result RunAction() const;
+  /// Says what the verb would change, and changes nothing.
+  Result RunDry() const;
+  /// Has the alert managers learn of what a verb has changed.
+  void TellManagers(dbconfig::HeldBack& managers_file, Result& result) const;
 
   CLI::App& app_;
   Action action_;
   Access access_ = Access::kFile;
-  bool json_ = false;
+  bool json_ = false, no_write_ = false, dry_run_ = false;
   std::string data_;
 };
 
@@ -71,9 +84,15 @@ void AddInitVerb(Verbs& verbs);
 void AddServiceVerbs(Verbs& verbs);
 void AddUserVerbs(Verbs& verbs);
 void AddEntryVerbs(Verbs& verbs);
-void AddManagerVerbs(Verbs& verbs);
-void AddProviderVerbs(Verbs& verbs);
 void AddResponseVerbs(Verbs& verbs);
+void AddManagerVerbs(Verbs& verbs);
+void AddModemVerbs(Verbs& verbs);
+void AddModemTypeVerbs(Verbs& verbs);
+void AddLocationVerbs(Verbs& verbs);
+void AddRulesVerbs(Verbs& verbs);
+void AddProviderVerbs(Verbs& verbs);
+void AddSnmpManagerVerbs(Verbs& verbs);
+void AddComputerVerbs(Verbs& verbs);
 void AddConfigVerbs(Verbs& verbs);
 void AddBackupVerbs(Verbs& verbs);
 

@@ -27,10 +27,11 @@ class RecordList : public platform::ui::ListView {
   /// The selected record, or null.
   const Row* Chosen() const;
   bool Empty() const { return rows_.empty(); }
+  /// The row that shows the record, or -1.
+  int RowOf(const platform::GUID& id) const;
 
  private:
   void ChooseRow(int row);
-  int RowOf(const platform::GUID& id) const;
 
   std::vector<Row> rows_;
 };

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "companions/alertstore/stores.h"
+#include "console/site/advice.h"
 #include "console/site/walk.h"
 #include "platform/base/utf8.h"
 
@@ -52,6 +53,16 @@ Status FindModemOf(const GUID& id, std::string& modem) {
     if (modem.empty() && record.managerGuid == id) modem = record.name.View();
     return kOk;
   });
+}
+
+std::string RemovalProblem(const GUID& id, Status& status) {
+  std::string modem;
+  status = FindModemOf(id, modem);
+  if (status != kOk) return FailureText("read the modems", status);
+  return modem.empty()
+             ? ""
+             : "The modem \"" + modem +
+                   "\" is attached to this alert manager. Attach it to another one or delete it first.";
 }
 
 Status RemoveManager(const GUID& id) {

@@ -19,6 +19,9 @@ alertstore::Status AddManager(const std::string& name, platform::GUID& id);
 alertstore::Status RenameManager(const platform::GUID& id, const std::string& name);
 /// The name of a modem that is attached to it, which keeps it from being removed; "" for none.
 alertstore::Status FindModemOf(const platform::GUID& id, std::string& modem);
+/// Why it cannot be removed, as a sentence: a modem would stay behind without the machine that it is attached to. "" when it
+/// can; `status` is that of the stores.
+std::string RemovalProblem(const platform::GUID& id, alertstore::Status& status);
 /// Removes it, and before it the notes of what it delivers.
 alertstore::Status RemoveManager(const platform::GUID& id);
 

@@ -17,16 +17,11 @@ using desktops::qt::FromQt;
 using desktops::qt::ToQt;
 using platform::GUID;
 
-/// A modem would stay behind without the machine that it is attached to.
 bool MayBeRemoved(const GUID& manager) {
-  std::string modem;
-  const alertstore::Status status = site::FindModemOf(manager, modem);
-  if (status != alertstore::kOk)
-    hosts::Tell(site::FailureText("read the modems", status));
-  else if (!modem.empty())
-    hosts::Tell("The modem \"" + modem +
-                "\" is attached to this alert manager. Attach it to another one or delete it first.");
-  return status == alertstore::kOk && modem.empty();
+  alertstore::Status status = alertstore::kOk;
+  const std::string problem = site::RemovalProblem(manager, status);
+  if (!problem.empty()) hosts::Tell(problem);
+  return problem.empty();
 }
 
 bool KeepBackup(const GUID& manager) {

@@ -115,6 +115,9 @@ TEST_F(AlertctlSiteTest, OutputThatCannotBeWrittenIsAFailure) {
 
 TEST_F(AlertctlSiteTest, WhatShowsNoConfigurationFileSaysWhatIsThere) {
   const std::string file = data_ + "/alert-managers.json";
+  std::filesystem::remove(file);
+  std::filesystem::remove(file + ".lock");
+  EXPECT_THAT(Run({"config", "show"}), Fails(3, "config write"));
   std::filesystem::create_directories(file + ".lock");
   EXPECT_THAT(Run({"config", "write"}), Fails(5, Not(HasSubstr("before")))) << "there was no file before";
   std::filesystem::remove(file + ".lock");

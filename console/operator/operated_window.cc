@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "console/operator/operated_window.h"
+
+#include <algorithm>
+
+#include "console/site/failure.h"
+#include "console/site/names.h"
+#include "desktops/scripted/control_search.h"
+#include "desktops/scripted/screen.h"
+#include "platform/base/utf8.h"
+#include "platform/ui/edit.h"
+#include "platform/ui/lists.h"
+#include "platform/ui/property_sheet.h"
+
+namespace console_operator {
+namespace {
+
+namespace ui = platform::ui;
+using site::Failure;
+
+constexpr std::size_t kItemsToName = 20;
+
+/// As people write a choice: without access key and colon.
+std::string Written(const std::string& label) {
+  std::string text = ui::PlainLabel(label);
+  while (!text.empty() && text.back() == ':') text.pop_back();
+  return text;
+}
+
+std::string Listed(const std::vector<std::string>& items) {
+  std::string list;
+  for (std::size_t i = 0; i < std::min(items.size(), kItemsToName); ++i)
+    list += (i == 0 ? "" : ", ") + Written(items[i]);
+  return list + (items.size() > kItemsToName ? ", ..." : "");
+}
+
+/// The place of what was written among the items. Of names that differ in case alone the exact one is meant.
+std::size_t PlaceOf(const std::vector<std::string>& items, const std::string& label,
+                    const std::string& written) {
+  const auto exact = std::ranges::find(items, written);
+  const auto found = exact != items.end() ? exact : std::ranges::find_if(items, [&](const std::string& item) {
+    return platform::EqualIgnoringCase(Written(item), Written(written));
+  });
+  if (found != items.end()) return static_cast<std::size_t>(found - items.begin());
+  const std::string offers = items.empty() ? "there is none to choose" : "choose one of: " + Listed(items);
+  throw Failure(site::kInvalid, "\"" + Written(label) + "\" has no \"" + written + "\": " + offers);
+}
+
+/// Of an option such as "Tone dialing" the first word says it all: the option that is meant, else `text`.
+std::string FirstWordMeant(const std::vector<std::string>& options, const std::string& text) {
+  const auto meant = std::ranges::find_if(options, [&](const std::string& option) {
+    return platform::StartsWithIgnoringCase(Written(option), text + " ");
+  });
+  return meant != options.end() ? *meant : text;
+}
+
+/// Line breaks as fields have them.
+std::string WithFieldBreaks(const std::string& text) {
+  std::string result;
+  for (const char c : text) {
+    if (c == '\n') result += '\r';
+    if (c != '\r') result += c;
+  }
+  return result;
+}
+
+void CheckText(const FieldOption& option, const std::string& text) {
+  std::string looked_at = text;
+  if (option.kind == FieldKind::kLines)
+    std::erase_if(looked_at, [](char c) { return c == '\n' || c == '\r'; });
+  if (site::HasUnprintable(looked_at))
+    throw Failure(site::kInvalid,
+                  std::string(option.option) + " takes no control characters, and UTF-8 only");
+}
+
+/// The field did not take all that was typed.
+[[noreturn]] void RefuseText(const FieldOption& option, const ui::Edit& edit, const std::string& text) {
+  const std::string quoted = option.kind == FieldKind::kSecret ? "what was given" : "\"" + text + "\"";
+  std::string why = quoted + " has characters that cannot be entered there";
+  if (edit.Limit() != ui::Edit::kNoLimit && text.size() > edit.Limit())
+    why = quoted + " has " + std::to_string(text.size()) + ", and the field takes " +
+          std::to_string(edit.Limit()) + " bytes at most";
+  throw Failure(site::kInvalid, std::string(option.option) + ": " + why);
+}
+
+bool IsYes(const FieldOption& option, const std::string& value) {
+  if (value == "yes" || value == "no") return value == "yes";
+  throw Failure(site::kInvalid, std::string(option.option) + " is yes or no, not \"" + value + "\"");
+}
+
+}  // namespace
+
+ui::Form& OperatedWindow::Front() {
+  auto* sheet = dynamic_cast<ui::PropertySheet*>(&modal_);
+  ui::Form* form = sheet != nullptr ? sheet->ActivePage() : dynamic_cast<ui::Form*>(&modal_);
+  if (modal_.Ended() || form == nullptr) desktop_.Refuse("the window is closed already");
+  return *form;
+}
+
+ui::Control& OperatedWindow::Control(const std::string& label) {
+  ui::Control* control = desktops::FindControl(Front(), label);
+  if (control == nullptr) throw Failure(site::kInvalid, "there is no \"" + Written(label) + "\" here");
+  return *control;
+}
+
+ui::Control& OperatedWindow::Reachable(const std::string& label) {
+  ui::Control& control = Control(label);
+  if (!control.Visible() || !control.Enabled())
+    desktop_.Refuse("\"" + Written(label) + "\" cannot be changed with the other settings as they are");
+  return control;
+}
+
+bool OperatedWindow::Shows(const std::string& label) {
+  const ui::Control* control = desktops::FindControl(Front(), label);
+  return control != nullptr && control->Visible();
+}
+
+bool OperatedWindow::IsSheet() const { return dynamic_cast<const ui::PropertySheet*>(&modal_) != nullptr; }
+
+bool OperatedWindow::HasTab(const std::string& caption) const {
+  const auto* sheet = dynamic_cast<const ui::PropertySheet*>(&modal_);
+  return sheet != nullptr && std::ranges::count(desktops::TabsOf(*sheet), caption) > 0;
+}
+
+void OperatedWindow::SelectTab(const std::string& caption) {
+  auto* sheet = dynamic_cast<ui::PropertySheet*>(&modal_);
+  if (sheet != nullptr && sheet->ActivePage() != nullptr && sheet->ActivePage()->Label() == caption) return;
+  person_.SelectTab(caption);
+}
+
+void OperatedWindow::Press(const std::string& button) {
+  if (desktops::FindControl(Front(), button) != nullptr) Reachable(button);
+  if (IsSheet() && desktops::FindSheetButton(button) && !person_.IsEnabled(button))
+    desktop_.Refuse("something that is needed is missing: give it with an option");
+  person_.Press(button);
+}
+
+void OperatedWindow::Finish(const std::string& button) {
+  Press(button);
+  if (!modal_.Ended()) desktop_.Refuse("something that is needed is missing");
+}
+
+void OperatedWindow::Open(const std::string& button, std::vector<WindowOperator::Story> stories) {
+  desktop_.Work([&] { Press(button); }, std::move(stories));
+}
+
+void OperatedWindow::Close() { person_.CloseWindow(); }
+
+void OperatedWindow::Choose(const std::string& label, const std::string& item) {
+  Reachable(label);
+  ChooseAt(label, PlaceOf(person_.Items(label), label, item));
+}
+
+void OperatedWindow::ChooseAt(const std::string& label, std::size_t place) {
+  person_.Choose(label, person_.Items(label).at(place));
+}
+
+void OperatedWindow::ClickRow(const std::string& label, int row) { person_.ClickRow(label, row); }
+
+void OperatedWindow::ChooseOption(const std::string& label, const std::string& text) {
+  const auto* group = dynamic_cast<ui::RadioGroup*>(&Reachable(label));
+  if (group == nullptr) return Choose(label, text);
+  const std::vector<std::string>& options = group->Options();
+  person_.ChooseOption(label, options[PlaceOf(options, label, FirstWordMeant(options, text))]);
+}
+
+void OperatedWindow::Type(const FieldOption& option, const std::string& label, const std::string& text) {
+  const auto& edit = dynamic_cast<const ui::Edit&>(Reachable(label));
+  const std::string wanted = WithFieldBreaks(text);
+  if (!edit.MultiLine() && wanted.find('\n') != std::string::npos) RefuseText(option, edit, text);
+  std::string typed = wanted;
+  std::erase(typed, '\r');
+  person_.Type(label, typed);
+  if (edit.Text() != wanted) RefuseText(option, edit, wanted);
+}
+
+bool OperatedWindow::Fill(const FieldOption& option, const std::string& value) {
+  const auto label = std::ranges::find_if(option.labels, [this](const auto& each) { return Shows(each); });
+  if (label == option.labels.end()) return false;
+  switch (option.kind) {
+    case FieldKind::kFlag:
+      Reachable(*label);
+      person_.Check(*label, IsYes(option, value));
+      return true;
+    case FieldKind::kChoice:
+      ChooseOption(*label, value);
+      return true;
+    case FieldKind::kSecret:
+      CheckText(option, value);
+      for (const std::string& each : option.labels) Type(option, each, value);
+      return true;
+    default:
+      CheckText(option, value);
+      Type(option, *label, value);
+      return true;
+  }
+}
+
+void OperatedWindow::FillAll(const FieldValues& values, const std::string& what) {
+  for (const auto& [option, value] : values) {
+    const bool has_page = *option->page == '\0' || !IsSheet() || HasTab(option->page);
+    if (has_page && HasTab(option->page)) SelectTab(option->page);
+    if (!has_page || !Fill(*option, value))
+      throw Failure(site::kInvalid, what + " has nothing that " + option->option + " could set");
+  }
+}
+
+}  // namespace console_operator
