@@ -30,8 +30,7 @@ bool IsDirectory(const fs::path& path) {
 std::string ResourceDirectory() {
   const char* chosen = std::getenv("ALERTING_RESOURCES");
   const fs::path candidates[] = {chosen != nullptr ? chosen : "",
-                                 LibraryDirectory() / "../share/alerting/resources",
-                                 ALERTING_SOURCE_RESOURCES};
+                                 LibraryDirectory() / ALERTING_RESOURCES_BESIDE};
   for (const fs::path& candidate : candidates)
     if (IsDirectory(candidate)) return candidate.lexically_normal().string();
   return {};
