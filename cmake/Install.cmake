@@ -12,6 +12,17 @@ install(DIRECTORY resources/help resources/icons resources/starter DESTINATION $
   COMPONENT alerting)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
 
+# Manual pages and completions.
+set(manual ${CMAKE_BINARY_DIR}/manual)
+configure_file(docs/man/alert-managers.json.5.in ${manual}/alert-managers.json.5 @ONLY)
+install(FILES ${manual}/alertctl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT alerting)
+install(FILES ${manual}/alert-managers.json.5 DESTINATION ${CMAKE_INSTALL_MANDIR}/man5 COMPONENT alerting)
+install(FILES ${manual}/alertctl.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
+  RENAME alertctl COMPONENT alerting)
+set(ALERTING_ZSH_COMPLETIONS ${CMAKE_INSTALL_DATADIR}/zsh/site-functions CACHE STRING
+  "Where zsh finds completions, under the prefix")
+install(FILES ${manual}/_alertctl DESTINATION ${ALERTING_ZSH_COMPLETIONS} COMPONENT alerting)
+
 # Public headers, by the paths that they name each other by.
 install(DIRECTORY include/alerting/ DESTINATION ${header_directory} COMPONENT development)
 install(DIRECTORY platform/base platform/ui DESTINATION ${header_directory}/platform COMPONENT development
@@ -30,6 +41,8 @@ install(FILES ${CMAKE_BINARY_DIR}/alerting.pc DESTINATION ${CMAKE_INSTALL_LIBDIR
 
 if(TARGET alertconsole)
   install(TARGETS alertconsole COMPONENT alertconsole)
+  configure_file(docs/man/alertconsole.1.in ${manual}/alertconsole.1 @ONLY)
+  install(FILES ${manual}/alertconsole.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT alertconsole)
   install(DIRECTORY docs/guide DESTINATION ${resource_directory} COMPONENT alertconsole)
   install(FILES packaging/alertconsole.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
     COMPONENT alertconsole)
