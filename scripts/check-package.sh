@@ -47,10 +47,10 @@ debootstrap --variant=minbase --include=man-db "$suite" "$root" "$mirror" >"$wor
 mount --bind /dev "$root/dev" && mount -t proc proc "$root/proc" || skip "nothing can be mounted here"
 cp /etc/resolv.conf "$root/etc/resolv.conf"
 inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 "$@"; }
-as_user() { inside runuser -u operator -- env HOME=/home/operator "$@"; }
+as_user() { inside runuser -u admin-of-site -- env HOME=/home/admin-of-site "$@"; }
 files() { (cd "$root" && find . -xdev -path ./proc -prune -o -path ./dev -prune -o -print | sort); }
 
-inside useradd --create-home operator
+inside useradd --create-home admin-of-site
 inside apt-get update -qq
 
 # What the packages need is there before the first look, so that what it leaves behind is not taken for theirs.
@@ -75,8 +75,8 @@ for page in alertctl alertconsole alert-managers.json; do
   as_user man "$page" | grep -q NAME || fail "there is no manual page $page"
 done
 if [ -e "$root/usr/bin/alertconsole" ]; then
-  as_user env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/operator alertconsole --screenshot-dir /home/operator/pictures
-  [ -s "$root/home/operator/pictures/console.png" ] || fail "the window made no picture"
+  as_user env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/admin-of-site alertconsole --screenshot-dir /home/admin-of-site/pictures
+  [ -s "$root/home/admin-of-site/pictures/console.png" ] || fail "the window made no picture"
 fi
 
 step "remove"
@@ -85,9 +85,9 @@ names=$(for package in "$work"/packages/*.deb; do dpkg-deb -f "$package" Package
 inside apt-get remove -y -qq $names >"$work/apt.log" 2>&1 ||
   { tail -5 "$work/apt.log"; fail "the packages cannot be removed"; }
 files >"$work/after"
-left=$(comm -13 "$work/before" "$work/after" | grep -v '^\./home/operator/' || true)
+left=$(comm -13 "$work/before" "$work/after" | grep -v '^\./home/admin-of-site/' || true)
 [ -z "$left" ] || fail "removal left: $left"
-[ -s "$root/home/operator/.local/share/alerting/alerting.db" ] || fail "removal took the data"
+[ -s "$root/home/admin-of-site/.local/share/alerting/alerting.db" ] || fail "removal took the data"
 gone=$(comm -23 "$work/before" "$work/after")
 [ -z "$gone" ] || fail "removal took what it did not bring: $gone"
 echo "passed: the packages install, run and go, and leave nothing but data"

@@ -46,6 +46,12 @@ programs_alone() {
   equal "services" "$(starter_names | wc -l)" "$(($("$alertctl" service list | wc -l) - 2))"
 }
 
+# As where /lib is a link to /usr/lib.
+library_behind_a_link() {
+  ln -sfn "$PREFIX/$LIBDIR" "$WORK/link"
+  LD_LIBRARY_PATH=$WORK/link "$alertctl" init --data "$WORK/link-data"
+}
+
 small_console() {
   rm -rf "$WORK/console"
   mkdir "$WORK/console"
