@@ -9,7 +9,7 @@ suite=bookworm
 
 skip() { echo "skipped: $*"; exit 77; }
 fail() { echo "failed: $*" >&2; exit 1; }
-step() { echo "== $*"; }
+step() { echo "== $* (after $SECONDS s)"; }
 
 [ "$(id -u)" = 0 ] || skip "a root can only be made by root"
 scripts/setup.sh packages
@@ -75,14 +75,17 @@ for page in alertctl alertconsole alert-managers.json; do
   as_user man "$page" | grep -q NAME || fail "there is no manual page $page"
 done
 if [ -e "$root/usr/bin/alertconsole" ]; then
-  as_user env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/admin-of-site alertconsole --screenshot-dir /home/admin-of-site/pictures
-  [ -s "$root/home/admin-of-site/pictures/console.png" ] || fail "the window made no picture"
+  as_user mkdir -m 700 /home/admin-of-site/runtime
+  as_user env QT_QPA_PLATFORM=offscreen XDG_RUNTIME_DIR=/home/admin-of-site/runtime \
+    alertconsole --screenshot-dir /home/admin-of-site/pictures >"$work/pictures.log" 2>&1 ||
+    { tail -5 "$work/pictures.log"; fail "the window"; }
+  [ -s "$root/home/admin-of-site/pictures/console-services.png" ] || fail "the window made no picture"
 fi
 
 step "remove"
 names=$(for package in "$work"/packages/*.deb; do dpkg-deb -f "$package" Package; done)
 # shellcheck disable=SC2086
-inside apt-get remove -y -qq $names >"$work/apt.log" 2>&1 ||
+inside apt-get purge -y -qq $names >"$work/apt.log" 2>&1 ||
   { tail -5 "$work/apt.log"; fail "the packages cannot be removed"; }
 files >"$work/after"
 left=$(comm -13 "$work/before" "$work/after" | grep -v '^\./home/admin-of-site/' || true)
