@@ -35,8 +35,8 @@ std::string LibraryPath(const std::string& given) {
   if (const char* named = std::getenv("ALERTING_LIBRARY"); named != nullptr && *named != '\0') return named;
   std::error_code ignored;
   const fs::path program = fs::read_symlink("/proc/self/exe", ignored);
-  const fs::path beside = program.parent_path() / "../lib/libalerting.so";
-  return fs::exists(beside, ignored) ? beside.lexically_normal().string() : "libalerting.so";
+  const fs::path beside = program.parent_path() / ALERTING_LIBRARY_BESIDE;
+  return fs::exists(beside, ignored) ? beside.lexically_normal().string() : beside.filename().string();
 }
 
 std::string FindCalls(const platform::DynamicLibrary& library, LibraryCalls& calls) {

@@ -78,8 +78,11 @@ int main(int argc, char** argv) {
   qInstallMessageHandler(EndOnFatal);
   QCoreApplication::setOrganizationName("alerting");
   QCoreApplication::setApplicationName("console");
+  // Both find the icon that is installed for the desktop file: window managers by the name, others by the picture.
+  QGuiApplication::setDesktopFileName("alertconsole");
   std::optional<desktops::qt::OffscreenScreen> screen(std::in_place);
   QApplication application(argc, argv);
+  QApplication::setWindowIcon(QIcon::fromTheme("alertconsole"));
   screen.reset();
   desktops::QtDesktop desktop;
   const platform::Module console("Alerting Console");
