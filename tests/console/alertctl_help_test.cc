@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <sstream>
 
+#include "console/alertctl/verbs.h"
 #include "tests/console/alertctl_fixture.h"
 
 using testing::AllOf;
@@ -21,18 +23,44 @@ std::vector<std::string> ExamplesIn(const std::string& help) {
   return examples;
 }
 
+/// All verbs of the program, as its completions offer them.
+std::vector<std::string> Verbs() {
+  CLI::App app;
+  alertctl::Verbs verbs(app);
+  alertctl::AddAllVerbs(verbs);
+  std::vector<std::string> names;
+  const auto all = [](const CLI::App*) { return true; };
+  for (const CLI::App* noun : app.get_subcommands(all)) {
+    if (noun->get_subcommands(all).empty()) names.push_back(noun->get_name());
+    for (const CLI::App* verb : noun->get_subcommands(all))
+      names.push_back(noun->get_name() + " " + verb->get_name());
+  }
+  return names;
+}
+
+/// Verbs that make what others speak of come first, those that take it away last.
+std::vector<std::string> InOrder(std::vector<std::string> verbs) {
+  const std::vector<std::string> first = {
+      "init",           "provider import", "provider add", "user add",         "entry set",   "modem add",
+      "modem-type add", "location add",    "computer add", "snmp-manager add", "manager add", "response add",
+      "provider show",  "service copy",    "response set", "response retarget"};
+  const auto rank = [&](const std::string& verb) {
+    const auto place = std::ranges::find(first, verb);
+    const bool is_last = verb.ends_with(" remove") || verb == "service rename";
+    return is_last                ? (verb == "user remove" ? 102 : 101)
+           : place == first.end() ? 100
+                                  : static_cast<int>(place - first.begin());
+  };
+  std::ranges::stable_sort(verbs, {}, rank);
+  return verbs;
+}
+
 // In an order in which each verb finds what its examples speak of.
 TEST_F(AlertctlTest, EveryExampleWorksAsItIsPrinted) {
   const std::string program = ALERTCTL;
   const std::string path = "PATH=" + Quoted(program.substr(0, program.rfind('/'))) + ":$PATH; ";
   std::filesystem::copy_file(PROVIDERS_EXAMPLE, root_ + "/providers.csv");
-  for (const std::string verb :
-       {"init",          "provider import", "provider list",  "provider show",   "provider add",
-        "provider set",  "provider remove", "user add",       "user list",       "service list",
-        "service show",  "service copy",    "service enable", "service disable", "service delete",
-        "entry set",     "entry list",      "entry remove",   "user remove",     "manager list",
-        "response list", "response show",   "config write",   "config show",     "backup",
-        "restore"}) {
+  for (const std::string& verb : InOrder(Verbs())) {
     const Ran help = RunLine(path + "alertctl " + verb + " --help");
     EXPECT_EQ(help.code, 0);
     EXPECT_THAT(help.out, AllOf(HasSubstr("--json"), HasSubstr("--data")));
