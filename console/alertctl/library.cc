@@ -51,7 +51,9 @@ void Library::Work(const std::string& what, const std::function<void()>& action,
   try {
     windows_.Work(action, std::move(stories));
   } catch (const Failure& failure) {
-    if (stores_->FirstFailure() != alertstore::kOk) throw Refusal(what);
+    const bool is_failure = stores_->FirstFailure() != alertstore::kOk;
+    // That a name is taken the window says in its own words.
+    if (is_failure && stores_->FirstFailure() != alertstore::kNotUnique) throw Refusal(what);
     throw Failure(failure.Code(), "cannot " + what + ": " + failure.what());
   }
 }
