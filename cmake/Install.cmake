@@ -43,7 +43,8 @@ if(TARGET alertconsole)
   install(TARGETS alertconsole COMPONENT alertconsole)
   configure_file(docs/man/alertconsole.1.in ${manual}/alertconsole.1 @ONLY)
   install(FILES ${manual}/alertconsole.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT alertconsole)
-  install(DIRECTORY docs/guide DESTINATION ${resource_directory} COMPONENT alertconsole)
+  install(DIRECTORY docs/guide DESTINATION ${resource_directory} COMPONENT alertconsole
+    PATTERN "*.sh" PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
   install(FILES packaging/alertconsole.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications
     COMPONENT alertconsole)
   install(FILES packaging/org.example.alertconsole.metainfo.xml

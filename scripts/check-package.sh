@@ -23,7 +23,7 @@ if [ $# = 0 ]; then
 fi
 
 # The mirror that this machine's own packages come from.
-mirror=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' "Codename: $suite" 'Component: main' | sort | head -1)
+mirror=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' "Codename: $suite" 'Component: main' | sort -u | sed -n 1p)
 mirror=${mirror:-http://deb.debian.org/debian}
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/alerting-package.XXXXXX")
@@ -72,7 +72,7 @@ as_user alertctl init
 as_user alertctl service list
 as_user alertctl service copy "Wave File" "Second sound"
 for page in alertctl alertconsole alert-managers.json; do
-  as_user man "$page" | grep -q NAME || fail "there is no manual page $page"
+  as_user man "$page" | grep NAME >/dev/null || fail "there is no manual page $page"
 done
 if [ -e "$root/usr/bin/alertconsole" ]; then
   as_user mkdir -m 700 /home/admin-of-site/runtime

@@ -8,7 +8,6 @@
 #include <thread>
 
 #include "companions/alertstore/stores.h"
-#include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
 #include "platform/base/paths.h"
 #include "platform/base/process_lock.h"
@@ -113,8 +112,7 @@ void DbConfigTest::AddFullSite() {
 const json& FileSchema() {
   static const json schema = [] {
     std::string bytes;
-    const std::string path = ctxhelp::ResourceDirectory() + "/../docs/configuration-file.schema.json";
-    EXPECT_TRUE(platform::ReadWholeFile(path, bytes)) << path;
+    EXPECT_TRUE(platform::ReadWholeFile(CONFIGURATION_SCHEMA, bytes)) << CONFIGURATION_SCHEMA;
     return json::parse(bytes);
   }();
   return schema;

@@ -12,6 +12,7 @@ use_prefix() {
 }
 use_prefix "$PREFIX"
 
+# No reader leaves a pipe early (grep -q): its writer would fail of it now and then.
 fail() { echo "$*" >&2; exit 1; }
 skip() { echo "skipped: $*"; exit 77; }
 needs() { command -v "$1" >/dev/null || skip "there is no $1"; }
@@ -60,7 +61,7 @@ small_console() {
   cmake -S "$WORK/console" -B "$WORK/console/build" -DCMAKE_PREFIX_PATH="$PREFIX" -DCMAKE_CXX_COMPILER="$CXX" \
     -DCMAKE_CXX_FLAGS="$CXXFLAGS" >/dev/null
   cmake --build "$WORK/console/build" >/dev/null
-  ldd "$WORK/console/build/small_console" | grep -q "libalerting.so.$SOVERSION => $PREFIX/" ||
+  ldd "$WORK/console/build/small_console" | grep "libalerting.so.$SOVERSION => $PREFIX/" >/dev/null ||
     fail "the console does not use the installed library"
   equal "services" "$(starter_names)" "$("$WORK/console/build/small_console")"
 }
@@ -135,7 +136,7 @@ libraries() {
   for name in alertplatform alertcompanions alerting; do
     file=$PREFIX/$LIBDIR/lib$name.so
     equal "link" "lib$name.so.$SOVERSION" "$(readlink "$file")"
-    readelf -d "$file" | grep -q "SONAME.*\[lib$name.so.$SOVERSION\]" || fail "$name has another SONAME"
+    readelf -d "$file" | grep "SONAME.*\[lib$name.so.$SOVERSION\]" >/dev/null || fail "$name has another SONAME"
   done
   for file in "$PREFIX"/bin/* "$PREFIX/$LIBDIR"/*.so; do
     equal "paths of $file" "" "$(readelf -d "$file" | sed -n 's/.*\(RUNPATH\|RPATH\).*\[\(.*\)\]/\2/p' |
