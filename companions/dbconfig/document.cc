@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "companions/dbconfig/document_json.h"
 #include "companions/dbconfig/keywords.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site_fields.h"
@@ -219,17 +220,20 @@ Json Responses(const Site& site) {
 
 }  // namespace
 
+Json MakeDocument(const Site& site) {
+  return {{"format", "alerting-configuration"},
+          {"version", 1},
+          {"alertManagers", Managers(site)},
+          {"services", ServiceWriter(site).Write()},
+          {"responses", Responses(site)},
+          {"snmpManagers", Objects(site.snmp_managers, kSnmpManagerFields)},
+          {"modems", Objects(site.modems, kModemFields)},
+          {"locations", Objects(site.locations, kLocationFields)},
+          {"pagingProviders", Objects(site.providers, kProviderFields)}};
+}
+
 std::string WriteDocument(const Site& site) {
-  const Json document = {{"format", "alerting-configuration"},
-                         {"version", 1},
-                         {"alertManagers", Managers(site)},
-                         {"services", ServiceWriter(site).Write()},
-                         {"responses", Responses(site)},
-                         {"snmpManagers", Objects(site.snmp_managers, kSnmpManagerFields)},
-                         {"modems", Objects(site.modems, kModemFields)},
-                         {"locations", Objects(site.locations, kLocationFields)},
-                         {"pagingProviders", Objects(site.providers, kProviderFields)}};
-  return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return MakeDocument(site).dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace dbconfig

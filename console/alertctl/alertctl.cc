@@ -61,6 +61,8 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     return OnParseError(app, error);
+  } catch (const alertctl::Failure& failure) {
+    return alertctl::Verbs::Report(failure);
   }
   return verbs.Run();
 }

@@ -32,9 +32,10 @@ void RequireTaken(const std::string& what, const std::string& name, alertstore::
 
 Result Add(const RecordArguments& arguments) {
   CheckTyped("a computer's name", arguments.name, alertstore::kMaxObjectName);
+  const platform::GUID id = platform::GUID::Generate();
   RequireTaken("add the computer \"" + arguments.name + "\"", arguments.name,
-               alertstore::AddComputer(platform::GUID::Generate(), arguments.name));
-  return Told(kComputers, "Added", arguments.name);
+               alertstore::AddComputer(id, arguments.name));
+  return Told(kComputers, "Added", id.ToString());
 }
 
 Result Set(const RecordArguments& arguments) {

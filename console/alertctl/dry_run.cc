@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "console/alertctl/dry_run.h"
 
+#include <signal.h>
 #include <stdlib.h>
 
 #include <filesystem>
@@ -20,6 +21,23 @@ namespace fs = std::filesystem;
 /// What stands in no record: the backup manager, dialing rules.
 constexpr const char* kFilesBesideRecords[] = {"console.json"};
 
+/// Keeps who interrupts the program waiting for as long as it lives: the copy holds passwords and is to be removed.
+class HeldSignals {
+ public:
+  HeldSignals() {
+    sigset_t ends;
+    sigemptyset(&ends);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGPIPE}) sigaddset(&ends, signal);
+    pthread_sigmask(SIG_BLOCK, &ends, &before_);
+  }
+  ~HeldSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+  HeldSignals(const HeldSignals&) = delete;
+  HeldSignals& operator=(const HeldSignals&) = delete;
+
+ private:
+  sigset_t before_{};
+};
+
 /// A data directory with the records of the one in use, which it stands in for as long as it lives.
 class ScratchDirectory {
  public:
@@ -28,17 +46,30 @@ class ScratchDirectory {
   ScratchDirectory(const ScratchDirectory&) = delete;
   ScratchDirectory& operator=(const ScratchDirectory&) = delete;
 
+  /// The text with the name of the directory that it stands in for.
+  std::string WithRealName(std::string text) const {
+    for (std::size_t at; (at = text.find(path_)) != std::string::npos;) text.replace(at, path_.size(), real_);
+    return text;
+  }
+
  private:
   void CopyFrom(const std::string& directory) const;
 
+  const HeldSignals held_;
   const std::string real_ = platform::DataDirectory();
-  std::string path_ = (fs::temp_directory_path() / "alertctl-XXXXXX").string();
+  std::string path_;
 };
 
-ScratchDirectory::ScratchDirectory() {
+std::string TemporaryFiles() {
+  std::error_code none;
+  const fs::path path = fs::temp_directory_path(none);
+  return none ? "/tmp" : path.string();
+}
+
+ScratchDirectory::ScratchDirectory() : path_(TemporaryFiles() + "/alertctl-XXXXXX") {
   if (mkdtemp(path_.data()) == nullptr)
-    throw Failure(kStoreFailure, "cannot make a directory for a copy of the data in " +
-                                     fs::temp_directory_path().string() + ": make room there, or set TMPDIR");
+    throw Failure(kStoreFailure, "cannot make a directory for a copy of the data in " + TemporaryFiles() +
+                                     ": make room there, or set TMPDIR");
   try {
     CopyFrom(real_);
   } catch (...) {
@@ -71,36 +102,59 @@ struct Flat {
   std::map<std::string, Json> leaves, members;
 };
 
-std::string NameIn(const Json& list, std::size_t at) {
+/// What people call records, by their identity: as they were called before, so that a new name shows as a change.
+using Labels = std::map<std::string, std::string>;
+
+std::string LabelIn(const Json& item) {
+  for (const char* member : {"name", "company", "address"})
+    if (item.contains(member) && item[member].is_string() && item[member] != "") return item[member];
+  return {};
+}
+
+/// Those that share a label in their list are told apart by their identity.
+Labels LabelsOf(const Json& before, const Json& after) {
+  Labels labels;
+  for (const Json* document : {&before, &after})
+    for (const auto& [list, items] : document->items()) {
+      std::map<std::string, int> uses;
+      for (const Json& item : items)
+        if (item.is_object()) ++uses[LabelIn(item)];
+      for (const Json& item : items) {
+        if (!item.is_object() || !item.contains("id")) continue;
+        const std::string id = item["id"], label = LabelIn(item);
+        labels.emplace(id, label.empty() ? id : uses[label] > 1 ? label + " " + id : label);
+      }
+    }
+  return labels;
+}
+
+std::string NameIn(const Json& list, std::size_t at, const Labels& labels) {
   const Json& item = list[at];
-  if (!item.is_object()) return std::to_string(at + 1);
-  const auto same_name = [&](const Json& other) {
-    return other.value("name", Json()) == item.value("name", Json());
-  };
-  if (item.contains("name") && std::ranges::count_if(list, same_name) == 1)
-    return item["name"].get<std::string>();
   for (const char* member : {"id", "serviceId", "userId"})
-    if (item.contains(member) && item[member].is_string()) return item[member].get<std::string>();
+    if (item.is_object() && item.contains(member) && item[member].is_string()) {
+      const auto label = labels.find(item[member].get<std::string>());
+      return label != labels.end() ? label->second : item[member].get<std::string>();
+    }
   return std::to_string(at + 1);
 }
 
-void Collect(const std::string& way, const Json& value, Flat& flat) {
+void Collect(const std::string& way, const Json& value, const Labels& labels, Flat& flat) {
   const auto on = [&](const std::string& name) { return way.empty() ? name : way + " / " + name; };
   if (value.is_object() && !value.contains("keywords"))
-    for (const auto& [name, member] : value.items()) Collect(on(name), member, flat);
+    for (const auto& [name, member] : value.items()) Collect(on(name), member, labels, flat);
   else if (value.is_array())
     for (std::size_t i = 0; i < value.size(); ++i) {
-      const std::string member = on(NameIn(value, i));
+      const std::string member = on(NameIn(value, i, labels));
       flat.members[member] = value[i];
-      Collect(member, value[i], flat);
+      Collect(member, value[i], labels, flat);
     }
   else
     flat.leaves[way] = value.is_object() ? Json(ShownMessage(value)) : value;
 }
 
-Flat FlatSite() {
+Flat Flattened(const Json& document, const Labels& labels) {
   Flat flat;
-  Collect("", LoadWholeSite(), flat);
+  Collect("", document, labels, flat);
   return flat;
 }
 
@@ -164,9 +218,15 @@ Result Difference(const Flat& before, const Flat& after) {
 
 Result DryRun(const std::function<void()>& change) {
   const ScratchDirectory scratch;
-  const Flat before = FlatSite();
-  change();
-  return Difference(before, FlatSite());
+  const Json before = LoadWholeSite();
+  try {
+    change();
+  } catch (const Failure& failure) {
+    throw Failure(failure.Code(), scratch.WithRealName(failure.what()), failure.Details());
+  }
+  const Json after = LoadWholeSite();
+  const Labels labels = LabelsOf(before, after);
+  return Difference(Flattened(before, labels), Flattened(after, labels));
 }
 
 }  // namespace alertctl

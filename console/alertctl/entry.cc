@@ -82,7 +82,7 @@ Listing List(const Arguments& arguments) {
   for (const Json& entry : Entries(arguments))
     listing.rows.push_back(
         {{entry["user"], entry["service"], entry["address"], YesNo(entry["enabled"])},
-         entry,
+         Made(entry),
          entry["userId"].get<std::string>() + " " + entry["serviceId"].get<std::string>()});
   return listing;
 }

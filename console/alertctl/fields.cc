@@ -2,6 +2,7 @@
 #include "console/alertctl/fields.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 
@@ -19,11 +20,14 @@ std::string ReadSome(std::istream& in) {
 
 std::string ReadFrom(const std::string& file) {
   if (file == "-") return ReadSome(std::cin);
+  std::error_code ignored;
+  if (!std::filesystem::exists(file, ignored))
+    throw Failure(kNothingMatched, "cannot read " + file + ": there is no such file");
   std::ifstream in(file, std::ios::binary);
-  std::string text = in ? ReadSome(in) : "";
-  if (!in.is_open() || in.bad())
-    throw Failure(kNothingMatched, "cannot read " + file + ": name a file that is there and may be read");
-  return text;
+  if (!in.is_open() || std::filesystem::is_directory(file, ignored))
+    throw Failure(kStoreFailure,
+                  "cannot read " + file + ": it is a directory, or its permissions keep this account out");
+  return ReadSome(in);
 }
 
 const char* ValueName(const FieldOption& option) {
@@ -40,6 +44,7 @@ const char* ValueName(const FieldOption& option) {
 }  // namespace
 
 void GivenFields::AddTo(CLI::App& verb, FieldOptions options) {
+  verb.parse_complete_callback([this] { ReadSecrets(); });
   for (const FieldOption& option : options) {
     Given& given = *given_.emplace_back(std::make_unique<Given>(Given{&option, {}}));
     CLI::Option* added =
@@ -48,6 +53,11 @@ void GivenFields::AddTo(CLI::App& verb, FieldOptions options) {
     if (option.kind == FieldKind::kChoice || option.kind == FieldKind::kSecret) added->check(kNotEmpty);
     added->type_name(ValueName(option));
   }
+}
+
+void GivenFields::ReadSecrets() {
+  for (const auto& each : given_)
+    if (each->value && each->option->kind == FieldKind::kSecret) each->value = ReadSecret(*each->value);
 }
 
 bool GivenFields::Any() const {
@@ -62,9 +72,7 @@ void GivenFields::RequireAny() const {
 FieldValues GivenFields::Values() const {
   FieldValues values;
   for (const auto& each : given_)
-    if (each->value)
-      values.emplace_back(each->option,
-                          each->option->kind == FieldKind::kSecret ? ReadSecret(*each->value) : *each->value);
+    if (each->value) values.emplace_back(each->option, *each->value);
   return values;
 }
 
@@ -85,9 +93,13 @@ std::string ReadSecret(const std::string& file) {
   std::string secret = ReadFrom(file);
   if (secret.ends_with('\n')) secret.pop_back();
   if (secret.ends_with('\r')) secret.pop_back();
-  if (secret.find('\n') == std::string::npos && secret.size() <= kLongestSecret) return secret;
-  throw Failure(kInvalid, (file == "-" ? "standard input" : file) +
-                              " holds more than one line: write the secret alone into it");
+  const std::string from = file == "-" ? "standard input" : file;
+  if (secret.size() > kLongestSecret || secret.find('\n') != std::string::npos)
+    throw Failure(kInvalid,
+                  from + " holds more than one line, or a very long one: write the secret alone into it");
+  if (secret.empty() && file != "/dev/null")
+    throw Failure(kInvalid, from + " is empty: write the secret into it, or name /dev/null to clear it");
+  return secret;
 }
 
 }  // namespace alertctl

@@ -100,6 +100,10 @@ GUID Library::LastService() const {
   return calls_.DomainServiceGetInfo(calls_.DomainServiceGetCount() - 1)->serviceId;
 }
 
+bool Library::IsLastEnabledOn(const GUID& manager) const {
+  return calls_.DomainServiceIsServer(calls_.DomainServiceGetCount() - 1, manager) != 0;
+}
+
 bool Library::DeleteUserEntry(int index, const GUID& user) const {
   return calls_.UserServiceUserDelete(index, user) != 0;
 }

@@ -49,6 +49,8 @@ class Library {
   bool Enable(int index, const platform::GUID& manager, bool enable) const;
   /// The identity of the last service of the list.
   platform::GUID LastService() const;
+  /// Whether the manager delivers it, as the store says.
+  bool IsLastEnabledOn(const platform::GUID& manager) const;
   bool DeleteUserEntry(int index, const platform::GUID& user) const;
 
   /// Why the library did not do what it was asked for ("delete the service ...") after IndexOf: the failure

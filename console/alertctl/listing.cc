@@ -11,6 +11,7 @@
 namespace alertctl {
 namespace {
 
+/// What the options of a list ask for.
 struct Wanted {
   std::vector<std::string> where;
   std::string sort;
@@ -77,22 +78,26 @@ Result Identities(const Listing& listing) {
   return result;
 }
 
-Result Table(Listing& listing, bool there_is_something) {
+Json Items(const Listing& listing) {
   Json items = Json::array();
-  TextTable table(listing.headings);
-  for (Listing::Row& row : listing.rows) {
-    items.push_back(std::move(row.item));
-    table.Add(std::move(row.cells));
-  }
-  if (!listing.rows.empty()) return {std::move(items), table.Text()};
-  return {std::move(items), there_is_something ? "Nothing in the list matches.\n" : listing.nothing};
+  for (const Listing::Row& row : listing.rows) items.push_back(row.item());
+  return items;
 }
 
-Result Print(Listing listing, const Wanted& wanted) {
+std::string Table(Listing& listing, bool there_is_something) {
+  if (listing.rows.empty()) return there_is_something ? "Nothing in the list matches.\n" : listing.nothing;
+  TextTable table(listing.headings);
+  for (Listing::Row& row : listing.rows) table.Add(std::move(row.cells));
+  return table.Text();
+}
+
+/// Of text and JSON only what is printed is made.
+Result Print(Listing listing, const Wanted& wanted, bool json) {
   const bool there_is_something = !listing.rows.empty();
   for (const std::string& where : wanted.where) Narrow(where, listing);
   Sort(wanted, listing);
-  return wanted.quiet ? Identities(listing) : Table(listing, there_is_something);
+  if (wanted.quiet) return Identities(listing);
+  return json ? Result{Items(listing), ""} : Result{Json(), Table(listing, there_is_something)};
 }
 
 }  // namespace
@@ -100,8 +105,9 @@ Result Print(Listing listing, const Wanted& wanted) {
 CLI::App& AddListVerb(Verbs& verbs, CLI::App& noun, const std::string& description,
                       const std::string& examples, std::function<Listing()> list) {
   const auto wanted = std::make_shared<Wanted>();
-  CLI::App& verb = verbs.AddVerb(noun, "list", Access::kRead, description, examples,
-                                 [wanted, list = std::move(list)] { return Print(list(), *wanted); });
+  CLI::App& verb = verbs.AddVerb(
+      noun, "list", Access::kRead, description, examples,
+      [wanted, &verbs, list = std::move(list)] { return Print(list(), *wanted, verbs.PrintsJson()); });
   verb.add_option("--where", wanted->where,
                   "List only what has TEXT in the column FIELD, in either case; several narrow further")
       ->type_name("FIELD=TEXT")

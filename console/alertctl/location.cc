@@ -75,7 +75,7 @@ void FillIn(OperatedWindow& dialog, const GivenFields& fields) {
 
 Result Add(const RecordArguments& arguments) {
   CheckTyped("a location's name", arguments.name, decltype(alertstore::ALRTMODEM_LOCATION::name)::kMaxLength);
-  const std::string id = AddWhole(kLocations, [&] {
+  const std::string id = AddWhole(kLocations, arguments.name, [&] {
     Library library;
     OnLocation(library, "add the location \"" + arguments.name + "\"", "", [&](OperatedWindow& dialog) {
       dialog.Open("&New...", {FillNew(arguments, "&Name:", "New")});

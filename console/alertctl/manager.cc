@@ -43,7 +43,7 @@ Listing List() {
   for (const Json& manager : site["alertManagers"]) {
     const Json summary = Summary(site, manager);
     listing.rows.push_back({{manager["name"], std::to_string(summary["services"].size()), manager["id"]},
-                            summary,
+                            Made(summary),
                             manager["id"]});
   }
   return listing;

@@ -74,7 +74,12 @@ Result Set(const Arguments& arguments) {
     RequireTaken("rename " + Quoted(manager["name"]), *arguments.name,
                  site::RenameManager(IdOf(manager), *arguments.name));
   }
-  if (arguments.backup) SetBackup(IdOf(manager), *arguments.backup == "yes");
+  try {
+    if (arguments.backup) SetBackup(IdOf(manager), *arguments.backup == "yes");
+  } catch (const Failure& failure) {
+    if (!arguments.name) throw;
+    throw Failure(failure.Code(), "renamed it to \"" + *arguments.name + "\", but " + failure.what());
+  }
   return Told(IdOf(manager), "Changed");
 }
 

@@ -56,21 +56,21 @@ const FieldOption kOtherType[] = {{"--type",
 void ClickModem(OperatedWindow& sheet, const Json& modem) {
   const Json modems = LoadModems();
   const auto place = std::ranges::find(modems, modem["id"], [](const Json& each) { return each["id"]; });
-  sheet.ClickRow("Modems", static_cast<int>(place - modems.begin()));
+  sheet.ClickRow("Modems", static_cast<std::size_t>(place - modems.begin()));
 }
 
 /// Without a machine none could be stored; the one that is meant without a word is this one.
 Library::Story NewProperties(const RecordArguments& arguments) {
   return [&arguments](OperatedWindow& properties) {
     if (arguments.fields.Find("--machine") == nullptr)
-      properties.Choose("&Machine:", FindManager(LoadSite(), "")["name"]);
+      properties.Choose("&Machine:", FindManager(LoadSite(), "", "--machine")["name"]);
     FillModem(arguments.fields, "a modem")(properties);
   };
 }
 
 Result Add(const RecordArguments& arguments) {
   CheckTyped("a modem's name", arguments.name, decltype(alertstore::ALRTSERV_MODEM::name)::kMaxLength);
-  const std::string id = AddWhole(kModems, [&] {
+  const std::string id = AddWhole(kModems, arguments.name, [&] {
     Library library;
     OnModemPage(library, "add the modem \"" + arguments.name + "\"", [&](OperatedWindow& sheet) {
       sheet.Open("Ne&w...",

@@ -37,7 +37,7 @@ const FieldOption kBasis[] = {{"--basis",
 
 Result Add(const RecordArguments& arguments) {
   CheckTyped("a modem type's name", arguments.name, decltype(alertstore::ALRTSERV_MODEM::name)::kMaxLength);
-  const std::string id = AddWhole(kModemTypes, [&] {
+  const std::string id = AddWhole(kModemTypes, arguments.name, [&] {
     Library library;
     bool was_made = false;
     const auto made = [&](OperatedWindow& properties) {

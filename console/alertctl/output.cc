@@ -34,17 +34,21 @@ void ForEachSequence(std::string_view text, Visitor visit) {
   }
 }
 
-/// The character of a sequence of at most three bytes, which all that is escaped here have.
 unsigned CodePoint(std::string_view sequence) {
   unsigned code = static_cast<unsigned char>(sequence.front());
-  if (sequence.size() > 1) code &= sequence.size() == 2 ? 0x1FU : 0x0FU;
+  if (sequence.size() > 1) code &= 0x7FU >> sequence.size();
   for (const char byte : sequence.substr(1)) code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
   return code;
 }
 
 std::string Escaped(std::string_view control) {
-  std::array<char, 8> escape{};
-  std::snprintf(escape.data(), escape.size(), "\\u%04x", CodePoint(control) & 0xFFFFU);
+  const unsigned code = CodePoint(control);
+  std::array<char, 16> escape{};
+  if (code < 0x10000U)
+    std::snprintf(escape.data(), escape.size(), "\\u%04x", code);
+  else  // JSON writes these as surrogates
+    std::snprintf(escape.data(), escape.size(), "\\u%04x\\u%04x", 0xD800U + ((code - 0x10000U) >> 10U),
+                  0xDC00U + ((code - 0x10000U) & 0x3FFU));
   return escape.data();
 }
 
@@ -70,6 +74,8 @@ std::string LastOutputError() {
 void PrintError(const std::string& text) { std::cerr << "alertctl: " << Printable(text, false) << '\n'; }
 
 std::string Printable(std::string_view text, bool lines) {
+  const auto is_plain = [lines](char c) { return (c >= ' ' && c <= '~') || (lines && c == '\n'); };
+  if (std::ranges::all_of(text, is_plain)) return std::string(text);  // as nearly all of it is
   std::string result;
   ForEachSequence(text, [&](std::string_view sequence) {
     const Piece piece = lines && sequence == "\n" ? Piece::kText : Classify(sequence);

@@ -32,7 +32,7 @@ Listing List() {
           std::string(provider.regionA.View()) + " " + std::string(provider.regionB.View()),
           std::string(provider.phone.View()), std::to_string(provider.baudRate),
           std::to_string(provider.maxTextLength), id},
-         items[i],
+         Made(items[i]),
          id});
   }
   return listing;

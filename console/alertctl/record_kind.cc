@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <set>
 
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
@@ -21,7 +22,7 @@ Listing List(const RecordKind& kind) {
   for (const auto& column : kind.columns) listing.headings.push_back(column.heading);
   listing.headings.push_back("IDENTITY");
   for (const Json& record : kind.load()) {
-    Listing::Row row{{}, record, record["id"]};
+    Listing::Row row{{}, Made(record), record["id"]};
     for (const auto& column : kind.columns) row.cells.push_back(Cell(record, column));
     row.cells.push_back(record["id"]);
     listing.rows.push_back(std::move(row));
@@ -61,22 +62,43 @@ CLI::App& AddChangeVerb(Verbs& verbs, CLI::App& noun, const RecordKind& kind, co
   return added;
 }
 
-std::string AddWhole(const RecordKind& kind, const std::function<void()>& add) {
+namespace {
+
+/// The record of that name that was not there before, whatever others changed meanwhile; null for none.
+Json NewRecord(const RecordKind& kind, const Json& before, const std::string& name) {
+  const auto identities = [](const Json& records) {
+    std::set<std::string> ids;
+    for (const Json& record : records) ids.insert(record["id"]);
+    return ids;
+  };
+  const std::set<std::string> known = identities(before);
+  for (const Json& record : kind.load())
+    if (record[kind.name] == name && !known.contains(record["id"])) return record;
+  return {};
+}
+
+/// Takes a record away that was refused its settings. Says so where that fails.
+std::string Discard(const RecordKind& kind, const Json& record) {
+  if (record.is_null() || kind.remove(IdOf(record)) == alertstore::kOk) return {};
+  return "; " + Quoted(kind, record) + " is there all the same, without its settings: remove it, or set them";
+}
+
+}  // namespace
+
+std::string AddWhole(const RecordKind& kind, const std::string& name, const std::function<void()>& add) {
   const Json before = kind.load();
-  const auto is_new = [&](const Json& record) { return std::ranges::find(before, record) == before.end(); };
   try {
     add();
-  } catch (const Failure&) {
-    for (const Json& record : kind.load())
-      if (is_new(record)) kind.remove(IdOf(record));
-    throw;
+  } catch (const Failure& failure) {
+    const std::string left = Discard(kind, NewRecord(kind, before, name));
+    if (left.empty()) throw;
+    throw Failure(failure.Code(), failure.what() + left);
   }
-  const Json after = kind.load();
-  const auto added = std::ranges::find_if(after, is_new);
-  if (added == after.end())
+  const Json added = NewRecord(kind, before, name);
+  if (added.is_null())
     throw Failure(kStoreFailure,
                   std::string("the ") + kind.called + " is gone again: another console has removed it");
-  return (*added)["id"];
+  return added["id"];
 }
 
 Library::Story FillNew(const RecordArguments& arguments, const std::string& name_label,

@@ -54,7 +54,7 @@ CLI::App& AddChangeVerb(Verbs& verbs, CLI::App& noun, const RecordKind& kind, co
 
 /// Runs what adds a record, and throws when it does. A record that was made and then refused its settings is taken away
 /// again: half of it is not what was asked for. Answers the identity of the new one.
-std::string AddWhole(const RecordKind& kind, const std::function<void()>& add);
+std::string AddWhole(const RecordKind& kind, const std::string& name, const std::function<void()>& add);
 /// Fills in the name of a new record and what else its first window asks for, and presses OK.
 Library::Story FillNew(const RecordArguments& arguments, const std::string& name_label,
                        const std::string& page);

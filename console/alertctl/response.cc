@@ -23,7 +23,7 @@ Listing List() {
   for (const Json& response : site["responses"])
     listing.rows.push_back({{response["id"], response["serviceName"], response["userName"],
                              ShownMessage(response["subject"]), ShownMessage(response["message"])},
-                            response,
+                            Made(response),
                             response["id"]});
   return listing;
 }

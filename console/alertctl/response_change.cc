@@ -9,6 +9,7 @@
 #include "console/hosts/response_service.h"
 #include "console/hosts/response_sheet.h"
 #include "console/hosts/response_wizard.h"
+#include "console/hosts/service_and_user.h"
 #include "console/site/responses.h"
 
 namespace alertctl {
@@ -34,6 +35,8 @@ constexpr char kRetargetExamples[] =
 constexpr char kRemoveExamples[] =
     "  alertctl response remove \"$(alertctl response list --where message='<Severity> on <Workstation>' "
     "-q)\"";
+constexpr char kNoUser[] = "say with --user who is alerted: a user who has an entry on the service",
+               kNoFile[] = "name the file with --file";
 constexpr char kServices[] = "&Services:", kUser[] = "&User to alert:";
 
 const FieldOption kFields[] = {
@@ -56,8 +59,16 @@ struct Arguments {
 /// Services and users are rows and items of the same window, whether the response is new or not.
 void ChooseTarget(OperatedWindow& window, const Json& service, const std::string& user) {
   auto& services = window.Find<hosts::RecordList>(kServices);
-  window.ClickRow(kServices, services.RowOf(IdOf(service)));
-  if (!user.empty()) window.Choose(kUser, FindUser(user).name);
+  const int row = services.RowOf(IdOf(service));
+  if (row < 0) throw Failure(kNothingMatched, "another console has deleted the service");
+  window.ClickRow(kServices, static_cast<std::size_t>(row));
+  if (user.empty()) return;
+  const FoundUser found = FindUser(user);
+  const int place = window.Find<hosts::UserList>(kUser).PlaceOf(found.id);
+  if (place < 0)
+    throw Failure(kInvalid, "\"" + found.name + "\" has no entry on \"" + service["name"].get<std::string>() +
+                                "\": see \"alertctl entry list\"");
+  window.ChooseAt(kUser, static_cast<std::size_t>(place));
 }
 
 site::Overview Overview() {
@@ -78,9 +89,9 @@ Result Told(const std::string& done, const std::string& id, const Library& libra
 Library::Story NewResponse(const Json& service, const Arguments& arguments) {
   return [&](OperatedWindow& wizard) {
     ChooseTarget(wizard, service, arguments.user);
-    wizard.Press("&Next >");
+    wizard.Press("&Next >", kNoUser);
     wizard.FillAll(arguments.fields.Values(), "a response through " + TypeName(service));
-    wizard.Finish("Finish");
+    wizard.Finish("Finish", kNoFile);
   };
 }
 
@@ -139,7 +150,7 @@ Result Retarget(const Arguments& arguments) {
                [&] { hosts::RetargetResponse(nullptr, library.Calls(), overview, IdOf(response)); },
                {[&](OperatedWindow& dialog) {
                  ChooseTarget(dialog, service, arguments.user);
-                 library.Windows().Work([&] { dialog.Finish(); }, {complete},
+                 library.Windows().Work([&] { dialog.Finish("OK", kNoUser); }, {complete},
                                         console_operator::Opens::kMaybe);
                }});
   library.RequireWhole("pointed " + NameOf(response) + " at another service");

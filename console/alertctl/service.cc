@@ -50,7 +50,7 @@ Listing List() {
     const Json summary = Summary(deliveries, service);
     listing.rows.push_back({{summary["name"], summary["typeName"], YesNo(summary["enabled"]),
                              summary["users"].dump(), Joined(summary["alertManagers"]), summary["id"]},
-                            summary,
+                            Made(summary),
                             summary["id"]});
   }
   return listing;

@@ -57,8 +57,7 @@ Result Copy(const Arguments& arguments) {
   if (!library.Copy(library.IndexOf(source), arguments.new_name, IdOf(manager)))
     throw library.Refusal("copy the service " + Quoted(source));
   const std::string id = library.LastService().ToString();
-  const Json after = LoadSite();
-  if (ManagersOf(after, FindService(after, id)).empty())
+  if (!library.IsLastEnabledOn(IdOf(manager)))
     throw library.Refusal("enable the copy \"" + arguments.new_name + "\", which was made,");
   library.RequireWhole("copied the service " + Quoted(source));
   return {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <memory>
 
+#include "companions/alertstore/stores.h"
 #include "console/alertctl/fields.h"
 #include "console/alertctl/library.h"
 #include "console/alertctl/provider_records.h"
@@ -107,8 +108,33 @@ void ChooseModem(OperatedWindow& sheet, const Json& site, const std::string& nam
       site["modems"].begin();
   if (!sheet.HasTab(kModems)) throw Failure(kInvalid, "only services that dial out have a modem");
   sheet.SelectTab(kModems);
-  sheet.ClickRow("Modems", static_cast<int>(place));
+  sheet.ClickRow("Modems", static_cast<std::size_t>(place));
 }
+
+/// Choosing a provider stores it at once, whatever becomes of the sheet: a service whose other settings are refused gets back
+/// what it had.
+class ProviderUndo {
+ public:
+  explicit ProviderUndo(const Json& service) {
+    alertstore::CAlertNtfyServDB services;
+    alertstore::ALRTNTFYSERV common{};
+    common.serviceId = IdOf(service);
+    if (services.DBOpen() != alertstore::kOk ||
+        services.DBAlertRecRetrieve(common.serviceId, common) != alertstore::kOk)
+      return;
+    record_.guid = common.specificRecordId;
+    known_ = store_.DBOpen() == alertstore::kOk &&
+             store_.DBAlertRecRetrieve(record_.guid, record_) == alertstore::kOk;
+  }
+  void Undo() {
+    if (known_) store_.DBAlertRecUpdate(record_);
+  }
+
+ private:
+  alertstore::RecordStore<alertstore::ALRTAPAGESERVICEREC> store_;
+  alertstore::ALRTAPAGESERVICEREC record_{};
+  bool known_ = false;
+};
 
 Library::Story FillSheet(Library& library, const Json& site, const Json& service,
                          const Arguments& arguments) {
@@ -141,8 +167,14 @@ Result Set(const Arguments& arguments) {
     throw Failure(kInvalid, "cannot change the backup modem of " + name + ": it does not dial out");
   const auto open = arguments.backup ? library.Calls().DomainServiceBackupPropertySheet
                                      : library.Calls().DomainServicePropertySheet;
-  library.Work("change " + name, [&] { open(nullptr, index); },
-               {FillSheet(library, site, service, arguments)});
+  ProviderUndo undo(service);
+  try {
+    library.Work("change " + name, [&] { open(nullptr, index); },
+                 {FillSheet(library, site, service, arguments)});
+  } catch (const Failure&) {
+    if (!arguments.provider.empty()) undo.Undo();
+    throw;
+  }
   library.RequireWhole("changed " + name);
   const Json after = LoadSite();
   return {FindService(after, service["id"]),

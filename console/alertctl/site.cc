@@ -8,7 +8,7 @@
 #include "companions/alertstore/computers.h"
 #include "companions/alertstore/console_users.h"
 #include "companions/alertstore/stores.h"
-#include "companions/dbconfig/document.h"
+#include "companions/dbconfig/document_json.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
 #include "companions/dbconfig/strings.h"
@@ -70,7 +70,7 @@ const Json& FindOne(const Json& objects, const std::string& name, const std::str
 }
 
 Json LoadSite() {
-  Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
+  Json document = dbconfig::MakeDocument(ReadSite());
   MaskSecrets(document);
   return document;
 }
@@ -83,13 +83,13 @@ Json LoadModemTypes() {
     return alertstore::kOk;
   });
   if (status != alertstore::kOk) throw StoreFailure("read the modem types", status);
-  return Json::parse(dbconfig::WriteDocument(only))["modems"];
+  return dbconfig::MakeDocument(only)["modems"];
 }
 
 Json LoadComputers() { return Named("read the computers", alertstore::ListComputers); }
 
 Json LoadWholeSite() {
-  Json document = Json::parse(dbconfig::WriteDocument(ReadSite()));
+  Json document = dbconfig::MakeDocument(ReadSite());
   document["modemTypes"] = LoadModemTypes();
   document["users"] = Named("read the users", alertstore::ListConsoleUsers);
   document["computers"] = LoadComputers();
@@ -111,17 +111,16 @@ const Json& FindService(const Json& site, const std::string& name) {
   return FindOne(site["services"], name, "service", "alertctl service list");
 }
 
-const Json& FindManager(const Json& site, const std::string& name) {
+const Json& FindManager(const Json& site, const std::string& name, const std::string& option) {
   const Json& managers = site["alertManagers"];
   if (!name.empty()) return FindOne(managers, name, "alert manager", "alertctl manager list");
   const auto is_this_machine = [](const Json& manager) { return Matches(manager, platform::HostName()); };
   if (std::any_of(managers.begin(), managers.end(), is_this_machine))
     return FindOne(managers, platform::HostName(), "alert manager", "alertctl manager list");
   if (managers.size() == 1) return managers[0];
-  throw Failure(
-      kInvalid,
-      "this machine (" + platform::HostName() +
-          ") is no alert manager: choose one with --manager (\"alertctl manager list\" shows them)");
+  throw Failure(kInvalid, "this machine (" + platform::HostName() +
+                              ") is no alert manager: choose one with " + option +
+                              " (\"alertctl manager list\" shows them)");
 }
 
 bool IsEnabledOn(const Json& manager, const Json& service) {

@@ -35,7 +35,7 @@ const Json& FindOne(const Json& objects, const std::string& name, const std::str
 const Json& FindService(const Json& site, const std::string& name);
 /// The alert manager of that name or identity; for "" this machine, or the only one there is. Throws as
 /// FindService does.
-const Json& FindManager(const Json& site, const std::string& name);
+const Json& FindManager(const Json& site, const std::string& name, const std::string& option = "--manager");
 /// True when the manager delivers through the service, other than as its backup.
 bool IsEnabledOn(const Json& manager, const Json& service);
 /// True when the record with the settings of that service is missing. Throws a Failure with kStoreFailure.

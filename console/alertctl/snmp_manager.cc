@@ -12,7 +12,7 @@ constexpr char kListExamples[] = "  alertctl snmp-manager list";
 constexpr char kShowExamples[] = "  alertctl snmp-manager show 192.0.2.10";
 constexpr char kAddExamples[] =
     "  alertctl snmp-manager add 192.0.2.10 --computer noc1 --comment \"first desk\"\n"
-    "  alertctl snmp-manager add 192.0.2.11 --community-file - < /dev/null";
+    "  alertctl snmp-manager add 192.0.2.11 --community-file /dev/null";
 constexpr char kSetExamples[] =
     "  alertctl snmp-manager set 192.0.2.11 --address 192.0.2.12\n"
     "  alertctl snmp-manager set 192.0.2.12 --computer noc2 --comment \"\"";
@@ -57,7 +57,7 @@ void OnManagers(Library& library, const std::string& what, const Library::Story&
 void ClickManager(OperatedWindow& sheet, const Json& manager) {
   const Json managers = LoadSnmpManagers();
   const auto place = std::ranges::find(managers, manager["id"], [](const Json& each) { return each["id"]; });
-  sheet.ClickRow("&SNMP Destinations:", static_cast<int>(place - managers.begin()));
+  sheet.ClickRow("&SNMP Destinations:", static_cast<std::size_t>(place - managers.begin()));
 }
 
 Library::Story FillIn(const GivenFields& fields) {
@@ -68,7 +68,7 @@ Library::Story FillIn(const GivenFields& fields) {
 }
 
 Result Add(const RecordArguments& arguments) {
-  const std::string id = AddWhole(kSnmpManagers, [&] {
+  const std::string id = AddWhole(kSnmpManagers, arguments.name, [&] {
     Library library;
     OnManagers(library, "add the SNMP manager \"" + arguments.name + "\"", [&](OperatedWindow& sheet) {
       sheet.Open("A&dd...", {[&](OperatedWindow& dialog) {

@@ -33,8 +33,8 @@ std::vector<alertstore::ConsoleUser> StoredUsers() {
 Listing List() {
   Listing listing{{"NAME", "IDENTITY"}, "There are no users. \"alertctl user add NAME\" adds one.\n", {}};
   for (const auto& user : StoredUsers()) {
-    const std::string id = user.id.ToString();
-    listing.rows.push_back({{user.name, id}, UserJson(user.id, user.name), id});
+    std::string id = user.id.ToString();
+    listing.rows.push_back({{user.name, id}, [user] { return UserJson(user.id, user.name); }, std::move(id)});
   }
   return listing;
 }

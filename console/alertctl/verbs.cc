@@ -109,6 +109,12 @@ void Verbs::TellManagers(dbconfig::HeldBack& managers_file, Result& result) cons
                                      problem + "; mend it, then tell them with \"alertctl config write\"");
 }
 
+int Verbs::Report(const Failure& failure) {
+  PrintError(failure.what());
+  for (const std::string& detail : failure.Details()) PrintError(detail);
+  return failure.Code();
+}
+
 int Verbs::Run() {
   if (!data_.empty()) setenv("ALERTING_DATA", data_.c_str(), 1);
   try {
@@ -118,9 +124,7 @@ int Verbs::Run() {
     PrintError("cannot write the output: " + LastOutputError() + "; what was asked for is done");
     return kStoreFailure;
   } catch (const Failure& failure) {
-    PrintError(failure.what());
-    for (const std::string& detail : failure.Details()) PrintError(detail);
-    return failure.Code();
+    return Report(failure);
   } catch (const std::exception& error) {
     PrintError(error.what());
     return kStoreFailure;

@@ -49,7 +49,11 @@ class Verbs {
   CLI::App& AddVerb(CLI::App& noun, const std::string& name, Access access, const std::string& description,
                     const std::string& examples, Action action);
   CLI::App& Root() { return app_; }
+  /// Whether the verb that runs is asked for JSON.
+  bool PrintsJson() const { return json_; }
 
+  /// Prints why something cannot be done. Answers the exit code.
+  static int Report(const Failure& failure);
   /// Runs the verb and prints what it says; failures go to standard error. Answers the exit code.
   int Run();
 

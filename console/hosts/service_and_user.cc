@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "console/hosts/service_and_user.h"
 
+#include <algorithm>
+
 #include "console/site/responses.h"
 
 namespace hosts {
@@ -13,6 +15,19 @@ enum ControlId { kIdServices = 100, kIdUser, kIdNoUsers };
 constexpr std::uint32_t kReachesUsers = 1;  // of the classes that the library puts services in
 
 }  // namespace
+
+// The only one is the one who is meant.
+void UserList::Fill(std::vector<const site::User*> users) {
+  users_ = std::move(users);
+  RemoveAll();
+  for (std::size_t i = 0; i < users_.size(); ++i) Add(users_[i]->name, i);
+  Select(users_.size() == 1 ? 0 : -1);
+}
+
+int UserList::PlaceOf(const platform::GUID& user) const {
+  const auto found = std::ranges::find(users_, user, [](const site::User* each) { return each->id; });
+  return found == users_.end() ? -1 : FindData(static_cast<std::size_t>(found - users_.begin()));
+}
 
 ServiceAndUser::ServiceAndUser(ui::Form& form, const site::LibraryCalls& calls,
                                const site::Overview& overview)
@@ -49,27 +64,18 @@ void ServiceAndUser::OnServiceChanged() {
   on_change_();
 }
 
-// The only one is the one who is meant.
 void ServiceAndUser::FillUsers(const platform::GUID& chosen) {
   reaches_users_ = calls_.DomainServiceType(Service()) == kReachesUsers;
-  users_.clear();
-  user_.RemoveAll();
+  std::vector<const site::User*> users;
   for (const site::Entry& entry : overview_.entries) {
     if (!reaches_users_ || entry.service != Service()) continue;
     const auto user = users_by_id_.find(entry.user);
-    if (user == users_by_id_.end()) continue;
-    user_.Add(user->second->name, users_.size());
-    users_.push_back(user->second);
+    if (user != users_by_id_.end()) users.push_back(user->second);
   }
-  user_.Select(users_.size() == 1 ? 0 : -1);
-  for (std::size_t i = 0; i < users_.size(); ++i)
-    if (users_[i]->id == chosen) user_.Select(user_.FindData(i));
-  user_.Enable(!users_.empty());
-  no_users_.Show(reaches_users_ && users_.empty());
-}
-
-const site::User* ServiceAndUser::User() const {
-  return user_.Current() < 0 ? nullptr : users_[user_.Data(user_.Current())];
+  user_.Fill(std::move(users));
+  if (user_.PlaceOf(chosen) >= 0) user_.Select(user_.PlaceOf(chosen));
+  user_.Enable(user_.Count() > 0);
+  no_users_.Show(reaches_users_ && user_.Count() == 0);
 }
 
 platform::GUID ServiceAndUser::Service() const {

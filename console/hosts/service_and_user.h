@@ -11,6 +11,20 @@
 
 namespace hosts {
 
+/// The users to choose from, who may share a name.
+class UserList : public platform::ui::ComboBox {
+ public:
+  using ComboBox::ComboBox;
+
+  void Fill(std::vector<const site::User*> users);
+  const site::User* Chosen() const { return Current() < 0 ? nullptr : users_[Data(Current())]; }
+  /// The place of the user's item, or -1.
+  int PlaceOf(const platform::GUID& user) const;
+
+ private:
+  std::vector<const site::User*> users_;
+};
+
 /// The controls that say where a response goes: the service and, where it reaches users, one who has an entry on it.
 class ServiceAndUser {
  public:
@@ -34,16 +48,15 @@ class ServiceAndUser {
  private:
   void OnServiceChanged();
   void FillUsers(const platform::GUID& chosen);
-  const site::User* User() const;
+  const site::User* User() const { return user_.Chosen(); }
 
   const site::LibraryCalls& calls_;
   const site::Overview& overview_;
   const std::map<platform::GUID, const site::User*> users_by_id_;
   std::function<void()> on_change_;
   bool reaches_users_ = false;
-  std::vector<const site::User*> users_;
   RecordList services_;
-  platform::ui::ComboBox user_;
+  UserList user_;
   platform::ui::StaticText no_users_;
 };
 

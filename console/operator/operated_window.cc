@@ -38,9 +38,14 @@ std::string Listed(const std::vector<std::string>& items) {
 std::size_t PlaceOf(const std::vector<std::string>& items, const std::string& label,
                     const std::string& written) {
   const auto exact = std::ranges::find(items, written);
-  const auto found = exact != items.end() ? exact : std::ranges::find_if(items, [&](const std::string& item) {
+  if (exact != items.end()) return static_cast<std::size_t>(exact - items.begin());
+  const auto is_meant = [&](const std::string& item) {
     return platform::EqualIgnoringCase(Written(item), Written(written));
-  });
+  };
+  if (std::ranges::count_if(items, is_meant) > 1)
+    throw Failure(site::kInvalid, "\"" + Written(label) + "\" has more than one \"" + written +
+                                      "\": write it with the letters' case");
+  const auto found = std::ranges::find_if(items, is_meant);
   if (found != items.end()) return static_cast<std::size_t>(found - items.begin());
   const std::string offers = items.empty() ? "there is none to choose" : "choose one of: " + Listed(items);
   throw Failure(site::kInvalid, "\"" + Written(label) + "\" has no \"" + written + "\": " + offers);
@@ -54,12 +59,19 @@ std::string FirstWordMeant(const std::vector<std::string>& options, const std::s
   return meant != options.end() ? *meant : text;
 }
 
+/// Lists of windows end somewhere: what stands behind that cannot be reached.
+void RequireShown(const std::string& label, std::size_t place, int count) {
+  if (place >= static_cast<std::size_t>(count))
+    throw Failure(site::kInvalid, "the window shows the first " + std::to_string(count) + " of \"" +
+                                      Written(label) + "\" alone: remove some that are no longer needed");
+}
+
 /// Line breaks as fields have them.
 std::string WithFieldBreaks(const std::string& text) {
   std::string result;
   for (const char c : text) {
-    if (c == '\n') result += '\r';
-    if (c != '\r') result += c;
+    if (c == '\n' && !result.ends_with('\r')) result += '\r';
+    result += c;
   }
   return result;
 }
@@ -67,7 +79,10 @@ std::string WithFieldBreaks(const std::string& text) {
 void CheckText(const FieldOption& option, const std::string& text) {
   std::string looked_at = text;
   if (option.kind == FieldKind::kLines)
-    std::erase_if(looked_at, [](char c) { return c == '\n' || c == '\r'; });
+    for (std::size_t at; (at = looked_at.find('\n')) != std::string::npos;) {
+      const std::size_t begin = at > 0 && looked_at[at - 1] == '\r' ? at - 1 : at;
+      looked_at.erase(begin, at + 1 - begin);
+    }
   if (site::HasUnprintable(looked_at))
     throw Failure(site::kInvalid,
                   std::string(option.option) + " takes no control characters, and UTF-8 only");
@@ -128,16 +143,15 @@ void OperatedWindow::SelectTab(const std::string& caption) {
   person_.SelectTab(caption);
 }
 
-void OperatedWindow::Press(const std::string& button) {
+void OperatedWindow::Press(const std::string& button, const std::string& missing) {
   if (desktops::FindControl(Front(), button) != nullptr) Reachable(button);
-  if (IsSheet() && desktops::FindSheetButton(button) && !person_.IsEnabled(button))
-    desktop_.Refuse("something that is needed is missing: give it with an option");
+  if (IsSheet() && desktops::FindSheetButton(button) && !person_.IsEnabled(button)) desktop_.Refuse(missing);
   person_.Press(button);
 }
 
-void OperatedWindow::Finish(const std::string& button) {
-  Press(button);
-  if (!modal_.Ended()) desktop_.Refuse("something that is needed is missing");
+void OperatedWindow::Finish(const std::string& button, const std::string& missing) {
+  Press(button, missing);
+  if (!modal_.Ended()) desktop_.Refuse(missing);
 }
 
 void OperatedWindow::Open(const std::string& button, std::vector<WindowOperator::Story> stories) {
@@ -152,10 +166,18 @@ void OperatedWindow::Choose(const std::string& label, const std::string& item) {
 }
 
 void OperatedWindow::ChooseAt(const std::string& label, std::size_t place) {
-  person_.Choose(label, person_.Items(label).at(place));
+  // Texts may be equal: the place says which is meant.
+  auto& list = Find<ui::ItemList>(label);
+  RequireShown(label, place, list.Count());
+  person_.Focus(label);
+  desktop_.script.Guard([&] { list.OnChoose(static_cast<int>(place)); });
+  desktop_.RunPosted();
 }
 
-void OperatedWindow::ClickRow(const std::string& label, int row) { person_.ClickRow(label, row); }
+void OperatedWindow::ClickRow(const std::string& label, std::size_t row) {
+  RequireShown(label, row, Find<ui::ListView>(label).RowCount());
+  person_.ClickRow(label, static_cast<int>(row));
+}
 
 void OperatedWindow::ChooseOption(const std::string& label, const std::string& text) {
   const auto* group = dynamic_cast<ui::RadioGroup*>(&Reachable(label));

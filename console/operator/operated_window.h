@@ -14,15 +14,18 @@ namespace console_operator {
 /// ("&Name:"). What cannot be done throws a Failure (kInvalid) that says why.
 class OperatedWindow {
  public:
+  static constexpr char kMissing[] = "something that is needed is missing: give it with an option";
+
   OperatedWindow(WindowOperator& desktop, platform::ui::Modal& modal, desktops::Person& person)
       : desktop_(desktop), modal_(modal), person_(person) {}
 
   std::string Caption() { return person_.Caption(); }
   bool HasTab(const std::string& caption) const;
   void SelectTab(const std::string& caption);
-  void Press(const std::string& button);
+  /// `missing` is what is wrong with a button that cannot be pressed.
+  void Press(const std::string& button, const std::string& missing = kMissing);
   /// Presses a button that ends the window when all is well; refused otherwise, with what was said.
-  void Finish(const std::string& button = "OK");
+  void Finish(const std::string& button = "OK", const std::string& missing = kMissing);
   /// Presses a button that opens windows.
   void Open(const std::string& button, std::vector<WindowOperator::Story> stories);
   void Close();
@@ -38,7 +41,7 @@ class OperatedWindow {
   void Choose(const std::string& label, const std::string& item);
   /// Chooses the item in that place.
   void ChooseAt(const std::string& label, std::size_t place);
-  void ClickRow(const std::string& label, int row);
+  void ClickRow(const std::string& label, std::size_t row);
   /// The control with that label, for looking at. Refused where there is none.
   template <class Kind>
   Kind& Find(const std::string& label) {

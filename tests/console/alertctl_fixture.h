@@ -64,7 +64,7 @@ class AlertctlTest : public testing::Test {
     return ran;
   }
 
-  Ran Run(const Arguments& arguments) { return RunLine(CommandOf(arguments)); }
+  Ran Run(const Arguments& arguments) { return RunLine(CommandOf(arguments) + " </dev/null"); }
 
   /// Runs all of them at once.
   std::vector<Ran> RunTogether(const std::vector<Arguments>& commands) {

@@ -78,6 +78,15 @@ TEST_F(AlertctlWindowsTest, WhatAWindowRefusesIsRefusedAndStoresNothing) {
       {{"service", "set", "Alphanumeric Pager", "--modem", "Nothing"}, 3, "no modem"},
       {{"service", "set", "Microsoft Mail", "--password-file", two_lines}, 4, "more than one line"},
       {{"service", "set", "Microsoft Mail", "--password-file", none}, 3, "cannot read"},
+      {{"service", "set", "Microsoft Mail", "--password-file", "/tmp"}, 5, "directory"},
+      {{"service", "set", "Microsoft Mail", "--password-file", "-"}, 4, "is empty"},
+      {{"service", "set", "Alphanumeric Pager", "--provider", "Example Paging South", "--text-length", "999"},
+       4,
+       "between 1"},
+      {{"computer", "add", "{5D1F0801-6B52-4C0E-9A37-21C48E7B9D60}"}, 4, "look like an identity"},
+      {{"computer", "add", "a\u00ADb"}, 4, "control characters"},
+      {{"computer", "add", "\u3000\u00A0"}, 4, "more than blanks"},
+      {{"service", "set", "SNMP Trap", "--message", "a\rb"}, 4, "control characters"},
       {{"service", "rename", "Internet Mail", "CC:MAIL"}, 4, "already"},
       {{"service", "rename", "Internet Mail", ""}, 4, "1 to 32 bytes"},
       {{"modem", "add", "A", "--type", "No such", "--location", "Main office"}, 4, "choose one of"},
@@ -107,8 +116,8 @@ TEST_F(AlertctlWindowsTest, WhatAWindowRefusesIsRefusedAndStoresNothing) {
       {{"manager", "add", "-"}, 0, ""},
       {{"manager", "remove", "-"}, 0, ""},
       {{"manager", "set", "nobody", "--name", "x"}, 3, "no alert manager"},
-      {{"response", "add", "Internet Mail"}, 4, "missing"},
-      {{"response", "add", "Wave File"}, 4, "missing"},
+      {{"response", "add", "Internet Mail"}, 4, "--user"},
+      {{"response", "add", "Wave File"}, 4, "--file"},
       {{"response", "add", "Wave File", "--subject", "x"}, 4, "nothing that --subject"},
       {{"user", "add", "ANN"}, 4, "--another"},
       {{"entry", "set", "Ann", "Numeric Pager", "call me"}, 4, "cannot be entered"},
@@ -167,6 +176,9 @@ TEST_F(AlertctlWindowsTest, ADryRunSaysWhatWouldChangeAndChangesNothing) {
   EXPECT_THAT(Run({"service", "set", "Numeric Pager", "--delay", "61", "--dry-run"}),
               Fails(4, "between 0 and 60"));
   EXPECT_THAT(Run({"user", "remove", "Ann", "--dry-run"}).out, HasSubstr("users / Ann"));
+  EXPECT_EQ(RunJson({"user", "add", "Ann", "--another", "--dry-run"})["changes"].size(), 1u);
+  EXPECT_THAT(Run({"service", "rename", "Internet Mail", "Net", "--dry-run"}).out,
+              HasSubstr("services / Internet Mail / name: \"Internet Mail\" -> \"Net\""));
   EXPECT_EQ(Run({"init", "--dry-run", "--data", root_ + "/other"}).code, 0);
   EXPECT_FALSE(std::filesystem::exists(root_ + "/other"));
   unsetenv("TMPDIR");
@@ -226,7 +238,7 @@ TEST_F(AlertctlWindowsTest, ResponsesAreMadeChangedAndPointedElsewhere) {
   const std::string id = made["id"];
   RunJson({"user", "add", "Bob"});
   RunJson({"entry", "set", "Bob", "Internet Mail", "bob@example.org"});
-  EXPECT_THAT(Run({"response", "add", "Internet Mail"}), Fails(4, "missing"));
+  EXPECT_THAT(Run({"response", "add", "Internet Mail"}), Fails(4, "--user"));
   EXPECT_EQ(RunJson({"response", "retarget", id, "internet mail", "--user", "bob"})["userName"], "Bob");
   EXPECT_EQ(RunJson({"response", "set", id, "--subject", "<Event ID>"})["subject"]["text"], "%ld");
   const json trap = RunJson({"response", "retarget", id, "SNMP Trap", "--message", "<Workstation> down"});
@@ -237,6 +249,10 @@ TEST_F(AlertctlWindowsTest, ResponsesAreMadeChangedAndPointedElsewhere) {
                                 "\\\\\\\\noc1\\\\b.exe", "--command-line", "-n <Severity>"});
   EXPECT_EQ(program["message"]["text"], "-n %s");
   EXPECT_EQ(program["responseType"], 4);
+  const json twin = RunJson({"user", "add", "Ann", "--another"});
+  RunJson({"entry", "set", twin["id"], "Internet Mail", "twin@example.org"});
+  EXPECT_EQ(RunJson({"response", "add", "Internet Mail", "--user", twin["id"]})["userId"], twin["id"])
+      << "the second of that name";
   RunJson({"response", "remove", id});
   EXPECT_THAT(Run({"response", "show", id}), Fails(3, "no response"));
 }
