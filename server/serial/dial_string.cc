@@ -6,17 +6,18 @@
 namespace alertserver {
 namespace {
 
-std::string Dialed(std::string_view text) {
-  constexpr std::string_view kDialed = "0123456789*#,@!";
-  std::string kept;
-  std::copy_if(text.begin(), text.end(), std::back_inserter(kept), [](char c) { return kDialed.find(c) != kDialed.npos; });
-  return kept;
+std::string Dialed(std::string text) {
+  std::erase_if(text,
+                [](char c) { return std::string_view("0123456789*#,@!").find(c) == std::string_view::npos; });
+  return text;
 }
 
 std::string WithAccess(const DialLocation& place, std::string_view number) {
   const std::size_t end = number.find(')');
-  if (!number.starts_with('(') || end == number.npos) return Dialed(place.localAccess) + Dialed(number);
-  const std::string area = Dialed(number.substr(1, end - 1)), rest = Dialed(number.substr(end + 1));
+  if (!number.starts_with('(') || end == number.npos)
+    return Dialed(place.localAccess) + Dialed(std::string(number));
+  const std::string area = Dialed(std::string(number.substr(1, end - 1))),
+                    rest = Dialed(std::string(number.substr(end + 1)));
   if (area == place.areaCode) return Dialed(place.localAccess) + rest;
   return Dialed(place.longDistanceAccess) + area + rest;
 }
@@ -24,7 +25,7 @@ std::string WithAccess(const DialLocation& place, std::string_view number) {
 }  // namespace
 
 std::string NumberFrom(const DialLocation* place, std::string_view number) {
-  if (place == nullptr) return Dialed(number);
+  if (place == nullptr) return Dialed(std::string(number));
   return (place->hasCallWaiting ? Dialed(place->callWaitingDisable) : "") + WithAccess(*place, number);
 }
 

@@ -33,7 +33,8 @@ bool IsAlive(int process) { return process > 0 && (kill(process, 0) == 0 || errn
 
 }  // namespace
 
-LineLock::LineLock(const std::string& device, const std::string& directory) : path_(PathOf(device, directory)) {
+LineLock::LineLock(const std::string& device, const std::string& directory)
+    : path_(PathOf(device, directory)) {
   is_ours_ = Make();
   if (!is_ours_ && errno == EEXIST) MakeOverDead();
 }

@@ -17,8 +17,9 @@ struct Sign {
   Kind kind;
 };
 constexpr Sign kSigns[] = {
-    {"\x06", Kind::kAccepted},    {"\x15", Kind::kAgain},           {"\x1E", Kind::kRejected},
-    {"\x1B[p", Kind::kGoAhead},   {"\x1B\x04", Kind::kDisconnected}, {"\x04", Kind::kDisconnected},
+    {"\x06", Kind::kAccepted},         {"\x15", Kind::kAgain},
+    {"\x1E", Kind::kRejected},         {"\x1B[p", Kind::kGoAhead},
+    {"\x1B\x04", Kind::kDisconnected}, {"\x04", Kind::kDisconnected},
 };
 
 bool IsDigit(char c) { return std::isdigit(static_cast<unsigned char>(c)) != 0; }
@@ -61,7 +62,8 @@ std::optional<PagerAnswer> PagerAnswers::TakeLine(std::string_view line) {
     TakeLine(line.substr(0, line.size() - sign.size()));
     return Make(kind);
   }
-  if (!line.empty() && text_.size() + line.size() < kMostKept) text_ += (text_.empty() ? "" : " / ") + std::string(line);
+  if (!line.empty() && text_.size() + line.size() < kMostKept)
+    text_ += (text_.empty() ? "" : " / ") + std::string(line);
   return std::nullopt;
 }
 

@@ -28,7 +28,8 @@ std::string PagerText(std::string_view utf8) {
   std::string text;
   for (std::size_t at = 0; at < utf8.size();) {
     const std::size_t next = platform::Utf8Next(utf8, at);
-    if (utf8.substr(at, 2) != "\r\n") text += utf8[at] == '\r' ? '\r' : PagerCharacter(utf8.substr(at, next - at));
+    if (utf8.substr(at, 2) != "\r\n")
+      text += utf8[at] == '\r' ? '\r' : PagerCharacter(utf8.substr(at, next - at));
     at = next;
   }
   return text;

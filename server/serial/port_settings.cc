@@ -35,7 +35,8 @@ PortSettings RawSettings(PortSettings settings, const LineSettings& wanted) {
 }
 
 bool RunsAt(const PortSettings& port, std::uint32_t baud_rate) {
-  const std::uint32_t difference = port.c_ospeed > baud_rate ? port.c_ospeed - baud_rate : baud_rate - port.c_ospeed;
+  const std::uint32_t difference =
+      port.c_ospeed > baud_rate ? port.c_ospeed - baud_rate : baud_rate - port.c_ospeed;
   constexpr std::uint32_t kTolerance = 33;  // a thirty-third: characters of ten bits are still read right
   return baud_rate != 0 && difference <= baud_rate / kTolerance;
 }

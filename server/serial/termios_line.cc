@@ -102,7 +102,8 @@ std::unique_ptr<SerialLine> OpenTermiosLine(const std::string& device, const Lin
   const std::string path = RealDevice(device);
   auto lock = std::make_unique<LineLock>(path, kLockDirectory);
   if (lock->Holder() != 0) {
-    problem = {"The serial port " + path + " is in use by process " + std::to_string(lock->Holder()) + ".", "comPort"};
+    problem = {"The serial port " + path + " is in use by process " + std::to_string(lock->Holder()) + ".",
+               "comPort"};
     return nullptr;
   }
   platform::Descriptor port(open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
@@ -113,7 +114,8 @@ std::unique_ptr<SerialLine> OpenTermiosLine(const std::string& device, const Lin
   }
   auto line = std::make_unique<TermiosLine>(std::move(lock), std::move(port), *before);
   if (!line->SetUp(settings)) {
-    problem = {"The serial port " + path + " cannot run at " + std::to_string(settings.baudRate) + " bits per second.",
+    problem = {"The serial port " + path + " cannot run at " + std::to_string(settings.baudRate) +
+                   " bits per second.",
                "baudRate"};
     return nullptr;
   }
