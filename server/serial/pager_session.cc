@@ -39,6 +39,15 @@ StepOutcome NotAccepted(const std::optional<PagerAnswer>& answer) {
       "baudRate");
 }
 
+/// Pages that were taken before are on their way, and stay so.
+StepOutcome AfterPages(std::size_t taken, std::size_t all, StepOutcome failure) {
+  if (taken > 0) {
+    const std::string counts = std::to_string(taken) + " of " + std::to_string(all);
+    failure.explanation += " The provider has taken " + counts + " pages.";
+  }
+  return failure;
+}
+
 StepOutcome LoginRefused(const std::string& said) {
   return StepOutcome::Failed(
       Verdict::kRefused, said,
@@ -100,10 +109,11 @@ std::optional<PagerAnswer> PagerSession::SendBlock(Conversation& line, const std
 StepOutcome PagerSession::Send(Conversation& line, std::string_view pager,
                                const std::vector<std::string>& pages) {
   std::string said;
-  for (const std::string& page : pages) {
-    for (const std::string& block : PagerBlocks(pager, page)) {
+  for (std::size_t taken = 0; taken < pages.size(); ++taken) {
+    for (const std::string& block : PagerBlocks(pager, pages[taken])) {
       const auto answer = SendBlock(line, block);
-      if (!answer || answer->kind != Kind::kAccepted) return NotAccepted(answer);
+      if (!answer || answer->kind != Kind::kAccepted)
+        return AfterPages(taken, pages.size(), NotAccepted(answer));
       said = answer->text;
     }
   }

@@ -21,7 +21,12 @@ std::optional<PortSettings> ReadPort(int port) {
   return settings;
 }
 
-bool WritePort(int port, const PortSettings& settings) { return ioctl(port, TCSETS2, &settings) == 0; }
+bool WritePort(int port, const PortSettings& settings) { return ioctl(port, TCSETSW2, &settings) == 0; }
+
+bool IsSending(int port) {
+  int count = 0;
+  return ioctl(port, TIOCOUTQ, &count) == 0 && count > 0;
+}
 
 PortSettings RawSettings(PortSettings settings, const LineSettings& wanted) {
   settings.c_iflag = wanted.pauses ? IXON : 0;

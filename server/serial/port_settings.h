@@ -15,7 +15,10 @@ namespace alertserver {
 using PortSettings = struct termios2;
 
 std::optional<PortSettings> ReadPort(int port);
+/// After what is being sent has left.
 bool WritePort(int port, const PortSettings& settings);
+/// True while there are bytes that the port has taken and not sent.
+bool IsSending(int port);
 
 /// Raw, no echo, no line editing, with the speed and the form of a character that a record asks for.
 PortSettings RawSettings(PortSettings before, const LineSettings& wanted);

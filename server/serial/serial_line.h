@@ -24,7 +24,7 @@ class SerialLine {
   using Limit = std::chrono::milliseconds;
 
   virtual ~SerialLine() = default;
-  /// True when the line took all bytes in time, which does not mean that anybody has them.
+  /// True when all bytes were sent in time, which does not mean that anybody has them.
   virtual bool Write(std::string_view bytes, Limit limit) = 0;
   /// What has arrived, at most `most` bytes, as soon as there is some; "" when nothing came in time or the line is gone.
   virtual std::string Read(std::size_t most, Limit limit) = 0;

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <string>
+#include <thread>
 
 #include "platform/base/descriptor.h"
 #include "server/serial/line_lock.h"
@@ -33,15 +34,18 @@ class TermiosLine : public SerialLine {
 
  private:
   bool Wait(short events, Clock::time_point end) const;
+  bool WaitUntilSent(Clock::time_point end) const;
 
   const std::unique_ptr<LineLock> lock_;
   const platform::Descriptor port_;
   const PortSettings before_;
 };
 
+/// What a device holds back for good would hold back the port's end too.
 TermiosLine::~TermiosLine() {
-  DropReadySignal(port_.Get());
+  if (IsSending(port_.Get())) FlushPort(port_.Get());
   WritePort(port_.Get(), before_);
+  DropReadySignal(port_.Get());
   EndExclusive(port_.Get());
 }
 
@@ -70,6 +74,15 @@ bool TermiosLine::Write(std::string_view bytes, Limit limit) {
     if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
     if (count < 0 && errno != EAGAIN && errno != EINTR) return false;
     if (!bytes.empty() && !Wait(POLLOUT, end)) return false;
+  }
+  return WaitUntilSent(end);
+}
+
+/// The port takes more than it sends: thousands of bytes, of which a printer that is out of paper wants none.
+bool TermiosLine::WaitUntilSent(Clock::time_point end) const {
+  while (IsSending(port_.Get())) {
+    if (Clock::now() >= end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(5));
   }
   return true;
 }
