@@ -81,7 +81,8 @@ TEST(TrapTest, WhatIsCutOffOrDamagedIsNoTrap) {
       std::string damaged = whole;
       damaged[at] = static_cast<char>(damaged[at] ^ 0x80);
       const auto trap = DecodeTrap(damaged);
-      if (trap && trap->what == "inform") EXPECT_EQ(InformResponse(damaged, *trap, 0).size(), damaged.size());
+      if (!trap || trap->what != "inform") continue;
+      EXPECT_EQ(InformResponse(damaged, *trap, 0).size(), damaged.size());
     }
   }
   EXPECT_FALSE(DecodeTrap(Message(1, Element(0xA0, Variables())))) << "a request is no trap";
