@@ -85,7 +85,7 @@ Service ReadService(const Json& row, const Devices& devices) {
   service.name = TextOf(row, "name");
   service.type = TextOf(row, "type");
   service.enabled = FlagOf(row, "enabled");
-  service.is_complete = row.is_object() && row.contains("settings");
+  service.has_settings = row.is_object() && row.contains("settings");
   service.settings = ObjectOf(row, "settings");
   service.modem = ReadModem(ObjectOf(row, "modem"), devices);
   service.backupModem = ReadModem(ObjectOf(row, "backupModem"), devices);

@@ -49,7 +49,7 @@ struct Service {
   platform::GUID id{};
   std::string name, type;
   bool enabled = false;
-  bool is_complete = false;  ///< its own record is there
+  bool has_settings = false;  ///< false too for types that have none
   Json settings = Json::object();
   std::optional<ModemLink> modem, backupModem;
   std::vector<User> users;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/base/utc_time.h"
+#include "server/keywords.h"
 #include "server/report.h"
 #include "server/response_record.h"
 
@@ -23,8 +24,9 @@ struct Job {
   std::vector<Report> tries;
   std::optional<platform::UtcTime> handed_on;  ///< when the last of them gave it to the next
 
-  /// The texts that are sent, their keywords filled in (server/keywords.h). FillJob sets them.
+  /// Set before delivery: the texts that are sent, their keywords filled in, and with what.
   std::string message, subject;
+  KeywordSources keyword_sources{};
 };
 
 /// No job's file is longer, in bytes.

@@ -20,21 +20,20 @@ bool Fail(std::string& problem) {
 }  // namespace
 
 platform::Descriptor OpenSafeFile(const std::string& path, std::string& problem) {
-  platform::FileError error;
-  platform::Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-  const int number = errno;
-  if (!platform::CheckPrivateFile(path, error)) {
-    problem = error.text;
-    return platform::Descriptor();
+  problem.clear();
+  for (;;) {
+    platform::FileError error;
+    if (!platform::CheckPrivateFile(path, error)) {
+      problem = error.text;
+      return platform::Descriptor();
+    }
+    platform::Descriptor file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (!file.IsOpen()) {
+      if (errno != ENOENT) problem = platform::SystemError("open", path).text;
+      return file;
+    }
+    if (platform::IsFileAt(path, file.Get())) return file;  // else it was replaced behind the check
   }
-  errno = number;
-  if (!file.IsOpen()) {
-    problem = platform::SystemError("open", path).text;
-  } else if (!platform::IsFileAt(path, file.Get())) {  // what was checked is not what was opened
-    problem = path + " was replaced while it was opened";
-    file.Close();
-  }
-  return file;
 }
 
 bool ReadOpenFile(int file, std::size_t limit, std::string& text, std::string& problem) {
@@ -54,6 +53,7 @@ bool ReadOpenFile(int file, std::size_t limit, std::string& text, std::string& p
 
 bool ReadSafeFile(const std::string& path, std::size_t limit, std::string& text, std::string& problem) {
   const platform::Descriptor file = OpenSafeFile(path, problem);
+  if (!file.IsOpen() && problem.empty()) problem = "there is no file " + path;
   return file.IsOpen() && ReadOpenFile(file.Get(), limit, text, problem);
 }
 

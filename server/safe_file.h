@@ -10,7 +10,7 @@
 namespace alertserver {
 
 /// Opens a regular file with one name that belongs to its directory's owner, for reading. Not open where it cannot be
-/// had; `problem` then says why, in words that can follow "because".
+/// had; `problem` then says why, in words that can follow "because", or is empty where there is no such file.
 platform::Descriptor OpenSafeFile(const std::string& path, std::string& problem);
 
 /// Reads an open file from its beginning. False, with the problem, for one longer than `limit` bytes.

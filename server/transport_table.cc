@@ -10,19 +10,19 @@ namespace alertserver {
 namespace {
 
 constexpr TransportRow kRows[] = {
-    {"mhs-mail", 1, MakeMhsMail, false},
-    {"snmp-trap", 2, MakeSnmpTrap, false},
-    {"mci-mail", 3, MakeMciMail, false},
-    {"compuserve-mail", 4, MakeCompuServeMail, false},
-    {"internet-mail", 5, MakeInternetMail, false},
-    {"microsoft-mail", 6, MakeMicrosoftMail, false},
-    {"cc-mail", 7, MakeCcMail, false},
-    {"wave-file", 8, MakeWaveFile, false},
-    {"text-to-speech", 9, MakeTextToSpeech, false},
-    {"alphanumeric-pager", 11, MakeAlphanumericPager, true},
-    {"numeric-pager", 12, MakeNumericPager, true},
-    {"generic-port", 13, MakeGenericPort, true},
-    {"program-launch", 14, MakeProgramLaunch, false},
+    {"mhs-mail", 1, MakeMhsMail, true, false},
+    {"snmp-trap", 2, MakeSnmpTrap, false, false},
+    {"mci-mail", 3, MakeMciMail, true, false},
+    {"compuserve-mail", 4, MakeCompuServeMail, true, false},
+    {"internet-mail", 5, MakeInternetMail, true, false},
+    {"microsoft-mail", 6, MakeMicrosoftMail, true, false},
+    {"cc-mail", 7, MakeCcMail, true, false},
+    {"wave-file", 8, MakeWaveFile, false, false},
+    {"text-to-speech", 9, MakeTextToSpeech, false, false},
+    {"alphanumeric-pager", 11, MakeAlphanumericPager, true, true},
+    {"numeric-pager", 12, MakeNumericPager, true, true},
+    {"generic-port", 13, MakeGenericPort, false, true},
+    {"program-launch", 14, MakeProgramLaunch, false, false},
 };
 
 }  // namespace

@@ -12,7 +12,8 @@ struct TransportRow {
   std::string_view type;
   std::uint32_t record_type;  ///< the type as records hold it
   TransportPtr (*make)();
-  bool dials;  ///< is tried over the backup modem when the first one fails
+  bool has_settings;  ///< a service without them is missing its own record
+  bool dials;         ///< is tried over the backup modem when the first one fails
 };
 
 /// Null for a type that is not known.

@@ -96,11 +96,12 @@ TEST_F(SmtpSessionTest, ASlowServerAnswersLater) {
 
 class SmtpLoginTest : public SmtpSessionTest {
  protected:
-  SmtpLoginTest() { setup_.login = "me", setup_.password = "pässword"; }
   std::string Plain(const std::string& password) {
     return platform::EncodeBase64(std::string("\0me\0", 4) + password);
   }
-  SmtpSession locked_{setup_, faults_, [this](Arrival arrival) { arrivals_.push_back(std::move(arrival)); }};
+  const std::string password_ = "pässword";
+  SmtpSession locked_{MailSetup{"me", password_}, faults_,
+                      [this](Arrival arrival) { arrivals_.push_back(std::move(arrival)); }};
   std::string SayTo(const std::string& bytes) {
     locked_.Take(bytes, 0);
     return locked_.Due(0);
@@ -114,14 +115,14 @@ TEST_F(SmtpLoginTest, BothWaysInWorkAndNothingElse) {
   EXPECT_THAT(SayTo("AUTH PLAIN !\r\n"), StartsWith("501 "));
   EXPECT_THAT(SayTo("AUTH CRAM-MD5\r\n"), StartsWith("504 "));
   EXPECT_THAT(SayTo("AUTH PLAIN\r\n"), StartsWith("334 "));
-  EXPECT_THAT(SayTo(Plain(setup_.password) + "\r\n"), StartsWith("235 "));
+  EXPECT_THAT(SayTo(Plain(password_) + "\r\n"), StartsWith("235 "));
   EXPECT_THAT(SayTo("AUTH LOGIN\r\n"), StartsWith("334 "));
   EXPECT_THAT(SayTo(platform::EncodeBase64("me") + "\r\n"), StartsWith("334 "));
-  EXPECT_THAT(SayTo(platform::EncodeBase64(setup_.password) + "\r\n"), StartsWith("235 "));
+  EXPECT_THAT(SayTo(platform::EncodeBase64(password_) + "\r\n"), StartsWith("235 "));
   EXPECT_THAT(SayTo("MAIL FROM:<a@here>\r\nRCPT TO:<b@there>\r\nDATA\r\nx\r\n.\r\n"), HasSubstr("354 "));
   EXPECT_EQ(Last().details["login"], "me");
   for (const Arrival& arrival : arrivals_)
-    EXPECT_EQ(ToJsonLine(arrival, "").find(setup_.password), std::string::npos);
+    EXPECT_EQ(ToJsonLine(arrival, "").find(password_), std::string::npos);
 }
 
 }  // namespace
