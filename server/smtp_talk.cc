@@ -88,7 +88,7 @@ void SmtpTalk::Step(std::chrono::milliseconds limit) {
     int left = 0;
     if (const CURLMsg* message = curl_multi_info_read(multi_.get(), &left)) result_ = message->data.result;
     ended_ = true;
-    if (result_ == CURLE_OK) Advance(SmtpState::kAccepted);
+    if (result_ == CURLE_OK) AdvanceByReply(SmtpState::kAccepted);
     return;
   }
   const auto wait = std::min(limit, std::chrono::milliseconds(200));
@@ -105,11 +105,16 @@ void SmtpTalk::LookAround() {
 
 void SmtpTalk::Advance(SmtpState state) { state_ = std::max(state_, state); }
 
+void SmtpTalk::AdvanceByReply(SmtpState state) {
+  said_[static_cast<std::size_t>(state)] = reply_;
+  Advance(state);
+}
+
 void SmtpTalk::OnSent(std::string_view line) {
   constexpr std::pair<std::string_view, Command> kCommands[] = {
       {"EHLO", Command::kEhlo}, {"HELO", Command::kEhlo}, {"STARTTLS", Command::kStartTls},
       {"AUTH", Command::kAuth}, {"MAIL", Command::kMail}, {"RCPT", Command::kRcpt},
-      {"DATA", Command::kData}, {"QUIT", Command::kOther}};
+      {"DATA", Command::kData}, {"QUIT", Command::kQuit}};
   const auto known = std::ranges::find_if(kCommands, [&](const auto& row) {
     return line.starts_with(row.first) && (line.size() == row.first.size() || line[row.first.size()] == ' ');
   });
@@ -127,6 +132,7 @@ void SmtpTalk::OnSent(std::string_view line) {
 
 void SmtpTalk::OnReceived(std::string_view line) {
   transcript_.Received(line);
+  if (command_ == Command::kQuit) return;  // what was said before counts
   reply_ = reply_ended_ ? std::string(line) : reply_ + ' ' + std::string(line);
   reply_ended_ = line.size() < 4 || line[3] != '-';
   code_ = 0;
@@ -137,16 +143,16 @@ void SmtpTalk::OnReceived(std::string_view line) {
 void SmtpTalk::OnReply() {
   switch (command_) {
     case Command::kNone:
-      return Advance(SmtpState::kGreeted);
+      return AdvanceByReply(SmtpState::kGreeted);
     case Command::kEhlo:
-      return Advance(SmtpState::kIntroduced);
+      return AdvanceByReply(SmtpState::kIntroduced);
     case Command::kAuth:
       auth_accepted_ = auth_accepted_ || code_ == 235;
       return;
     case Command::kMail:
-      return Advance(SmtpState::kSenderTaken);
+      return AdvanceByReply(SmtpState::kSenderTaken);
     case Command::kRcpt:
-      return Advance(SmtpState::kRecipientTaken);
+      return AdvanceByReply(SmtpState::kRecipientTaken);
     default:
       return;
   }

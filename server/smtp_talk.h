@@ -49,16 +49,18 @@ class SmtpTalk {
   bool IsEncrypted() const { return encrypted_; }
   bool HasLoggedIn() const { return auth_accepted_; }
   bool IsTimedOut() const { return timed_out_; }
-  /// The last reply, its lines joined, and its code; "" and 0 for none.
+  /// The last reply before the farewell, its lines joined, and its code; "" and 0 for none.
   const std::string& Reply() const { return reply_; }
   int ReplyCode() const { return code_; }
+  /// The reply that brought the talk into a state; "" where none did.
+  const std::string& ReplyFor(SmtpState state) const { return said_[static_cast<std::size_t>(state)]; }
   std::string Address() const;
   /// Why the talk ended, in curl's words.
   std::string Problem() const;
 
  private:
   /// What was last sent.
-  enum class Command { kNone, kEhlo, kStartTls, kAuth, kMail, kRcpt, kData, kOther };
+  enum class Command { kNone, kEhlo, kStartTls, kAuth, kMail, kRcpt, kData, kQuit };
   struct FreeEasy {
     void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
   };
@@ -74,6 +76,7 @@ class SmtpTalk {
   void Step(std::chrono::milliseconds limit);
   void LookAround();
   void Advance(SmtpState state);
+  void AdvanceByReply(SmtpState state);
   void OnSent(std::string_view line);
   void OnReceived(std::string_view line);
   void OnReply();
@@ -86,6 +89,7 @@ class SmtpTalk {
   std::array<char, CURL_ERROR_SIZE> error_{};
   SmtpState state_ = SmtpState::kStarted;
   Command command_ = Command::kNone;
+  std::array<std::string, static_cast<std::size_t>(SmtpState::kAccepted) + 1> said_;
   std::string reply_;
   bool reply_ended_ = true;
   int code_ = 0;

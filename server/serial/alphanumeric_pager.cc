@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "server/recipient.h"
 #include "server/serial/dial_string.h"
 #include "server/serial/pager_blocks.h"
 #include "server/serial/pager_session.h"
@@ -19,7 +20,7 @@ class AlphanumericPager : public Transport {
   std::vector<Step> Steps(const Context&) override;
 
  private:
-  StepOutcome LookUp(Context& context);
+  StepOutcome Compose(Context& context);
   StepOutcome Dial(Context& context);
   StepOutcome Greet(Context& context);
   StepOutcome SignOff(Context& context);
@@ -32,11 +33,12 @@ class AlphanumericPager : public Transport {
 
 std::vector<Step> AlphanumericPager::Steps(const Context&) {
   return {
-      {"Look up the pager", [this](Context& context) { return LookUp(context); }},
+      FindRecipientStep(pager_),
+      {"Write the page", [this](Context& context) { return Compose(context); }},
       {"Open the port", [this](Context& context) { return call_.OpenPort(context, false); }},
       {"Initialise the modem",
        [this](Context& context) {
-         return call_.Initialise(context, context.modem->alphaInitString, "alphaInitString");
+         return call_.Initialise(context, context.modem->alphaInitString, "modems.alphaInitString");
        }},
       {"Dial", [this](Context& context) { return Dial(context); }},
       {"Greeting", [this](Context& context) { return Greet(context); }},
@@ -55,13 +57,10 @@ std::vector<Step> AlphanumericPager::Steps(const Context&) {
   };
 }
 
-StepOutcome AlphanumericPager::LookUp(Context& context) {
-  const User* user = context.service.FindUser(context.job.response.user);
-  pager_ = user == nullptr ? "" : PagerText(user->address);
+StepOutcome AlphanumericPager::Compose(Context& context) {
   pages_ = Pages(PagerText(context.job.message), context.service.Number("maxTextLength"));
-  if (pager_.empty() || pager_.find('\r') != pager_.npos)
-    return StepOutcome::Failed(Verdict::kNotPossible, "", "The user has no identification of a pager.",
-                               "address");
+  if (PagerText(pager_) != pager_ || pager_.find('\r') != pager_.npos)
+    return StepOutcome::Failed(Verdict::kNotPossible, "", "No pager has such an identification.", "address");
   if (pages_.size() > kMostPages)
     return StepOutcome::Failed(
         Verdict::kNotPossible, "",
@@ -70,8 +69,7 @@ StepOutcome AlphanumericPager::LookUp(Context& context) {
   if (!IsDirect(context) && NumberFrom(nullptr, context.service.Text("providerPhone")).empty())
     return StepOutcome::Failed(Verdict::kNotPossible, "", "The provider's phone number is missing.",
                                "providerPhone");
-  return StepOutcome::Done(pager_ +
-                           (pages_.size() > 1 ? ", " + std::to_string(pages_.size()) + " pages" : ""));
+  return StepOutcome::Done(pages_.size() > 1 ? std::to_string(pages_.size()) + " pages" : "");
 }
 
 StepOutcome AlphanumericPager::Dial(Context& context) {

@@ -14,7 +14,7 @@ constexpr Limit kToHangUp(4'000);
 StepOutcome Silent() {
   return StepOutcome::Failed(Verdict::kNotReached, "",
                              "The modem does not answer. Is it switched on, and attached to this port?",
-                             "comPort");
+                             "modems.comPort");
 }
 
 /// A dialed call that did not come about.
@@ -36,14 +36,16 @@ StepOutcome NoCall(const std::optional<ModemAnswer>& answer, const char* phone_f
                                  "The modem may not dial the number again so soon.", phone_field);
     case Kind::kNoDialTone:
       return StepOutcome::Failed(Verdict::kNotReached, answer->text,
-                                 "The modem hears no dial tone. Is the telephone line plugged in?", "modem");
+                                 "The modem hears no dial tone. Is the telephone line plugged in?",
+                                 "modems.comPort");
     case Kind::kError:
       return StepOutcome::Failed(Verdict::kNotReached, answer->text,
-                                 "The modem does not know the dial command.", "dialPrefix");
+                                 "The modem does not know the dial command.", "modems.dialPrefix");
     default:
       return StepOutcome::Failed(
           Verdict::kNotReached, answer->text,
-          "The call ended otherwise than such a call does. See what stands around the number.", "dialSuffix");
+          "The call ended otherwise than such a call does. See what stands around the number.",
+          "modems.dialSuffix");
   }
 }
 
@@ -99,7 +101,8 @@ StepOutcome ModemDialogue::HangUp(Conversation& line, const std::string& escape,
   if (answer && answer->kind != Kind::kError) return StepOutcome::Done(answer->text);
   return StepOutcome::Failed(
       Verdict::kNotReached, answer ? answer->text : "",
-      "The modem did not confirm that it hung up; the port is closed, which ends the call.", "hangupString");
+      "The modem did not confirm that it hung up; the port is closed, which ends the call.",
+      "modems.hangupString");
 }
 
 }  // namespace alertserver

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "server/recipient.h"
 #include "server/serial/dial_string.h"
 #include "server/serial/serial_call.h"
 #include "server/serial/serial_transports.h"
@@ -25,11 +26,12 @@ class NumericPager : public Transport {
 
   std::vector<Step> Steps(const Context&) override {
     return {
-        {"Look up the pager", [this](Context& context) { return LookUp(context); }},
+        FindRecipientStep(number_),
+        {"Write the page", [this](Context& context) { return Compose(context); }},
         {"Open the port", [this](Context& context) { return call_.OpenPort(context, false); }},
         {"Initialise the modem",
          [this](Context& context) {
-           return call_.Initialise(context, context.modem->initString, "initString");
+           return call_.Initialise(context, context.modem->initString, "modems.initString");
          }},
         {"Dial and key the message", [this](Context& context) { return Dial(context); }},
         {"Hang up", [this](Context& context) { return call_.Close(context); }, true},
@@ -37,19 +39,18 @@ class NumericPager : public Transport {
   }
 
  private:
-  StepOutcome LookUp(Context& context);
+  StepOutcome Compose(Context& context);
   StepOutcome Dial(Context& context);
 
   SerialCall call_;
   std::string number_, digits_;
 };
 
-StepOutcome NumericPager::LookUp(Context& context) {
-  const User* user = context.service.FindUser(context.job.response.user);
-  number_ = user == nullptr ? "" : user->address;
+StepOutcome NumericPager::Compose(Context& context) {
   digits_ = Keyed(context.job.message);
   if (NumberFrom(nullptr, number_).empty())
-    return StepOutcome::Failed(Verdict::kNotPossible, "", "The user has no pager number to dial.", "address");
+    return StepOutcome::Failed(Verdict::kNotPossible, "", "The recipient's address is no number to dial.",
+                               "address");
   if (!CanBeKeyed(digits_))
     return StepOutcome::Failed(Verdict::kNotPossible, context.job.message,
                                "A numeric pager shows digits alone: the message may hold 0 to 9, * and #.",
@@ -59,7 +60,7 @@ StepOutcome NumericPager::LookUp(Context& context) {
         Verdict::kNotPossible, "",
         "A numeric pager is reached by telephone: choose a modem instead of direct port I/O.",
         ModemField(context));
-  return StepOutcome::Done(number_);
+  return StepOutcome::Done(digits_);
 }
 
 /// Without the semicolon the modem would wait for another modem, and say that none came when all went well.

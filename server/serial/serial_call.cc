@@ -10,7 +10,7 @@ StepOutcome NotPossible(std::string why, const char* field) {
 
 StepOutcome NoPrefix() {
   return NotPossible("The modem has no dialing prefix string, such as ATDT, which tells it to dial.",
-                     "dialPrefix");
+                     "modems.dialPrefix");
 }
 
 /// Why a port cannot be opened before anything was tried.
@@ -22,10 +22,10 @@ std::optional<StepOutcome> WhatIsMissing(const Context& context, const std::stri
                        ModemField(context));
   if (!modem->enabled)
     return NotPossible("The modem \"" + modem->modemName + "\" is switched off in its properties.",
-                       "enabled");
+                       "modems.enabled");
   if (device.empty())
     return NotPossible("No device is set for COM" + std::to_string(modem->comPort) + " on this server.",
-                       "comPort");
+                       "modems.comPort");
   return std::nullopt;
 }
 

@@ -116,13 +116,13 @@ std::unique_ptr<SerialLine> OpenTermiosLine(const std::string& device, const Lin
   auto lock = std::make_unique<LineLock>(path, kLockDirectory);
   if (lock->Holder() != 0) {
     problem = {"The serial port " + path + " is in use by process " + std::to_string(lock->Holder()) + ".",
-               "comPort"};
+               "modems.comPort"};
     return nullptr;
   }
   platform::Descriptor port(open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
   const auto before = port.IsOpen() ? ReadPort(port.Get()) : std::nullopt;
   if (!before || !MakeExclusive(port.Get())) {
-    problem = {WhyNotOpened(path), "comPort"};
+    problem = {WhyNotOpened(path), "modems.comPort"};
     return nullptr;
   }
   auto line = std::make_unique<TermiosLine>(std::move(lock), std::move(port), *before);

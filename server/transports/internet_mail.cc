@@ -83,7 +83,7 @@ class InternetMail : public Transport {
   }
 
   std::string Heard(SmtpState state) const {
-    return state == SmtpState::kConnected ? talk_->Address() : talk_->Reply();
+    return state == SmtpState::kConnected ? talk_->Address() : talk_->ReplyFor(state);
   }
 
   StepOutcome Compose(const Context& context) {
@@ -150,7 +150,8 @@ class InternetMail : public Transport {
   }
 
   StepOutcome Accept(const Context&) {
-    if (talk_->Reach(SmtpState::kAccepted, limit_)) return StepOutcome::Delivered(talk_->Reply());
+    if (talk_->Reach(SmtpState::kAccepted, limit_))
+      return StepOutcome::Delivered(talk_->ReplyFor(SmtpState::kAccepted));
     return Failure({Verdict::kNotReached, "The mail server did not accept the message.", "message"});
   }
 

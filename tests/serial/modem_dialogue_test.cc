@@ -17,7 +17,7 @@ TEST(ModemDialogueTest, AModemMayMissTheFirstCommand) {
   EXPECT_EQ(ModemDialogue().Initialise(script.talk, "AT&F", "initString").kind, Kind::kDone);
   EXPECT_THAT(script.line.written, ElementsAre("AT&F\r", "AT&F\r"));
   ScriptedTalk silent({});
-  EXPECT_EQ(ModemDialogue().Initialise(silent.talk, "", "initString").field, "comPort");
+  EXPECT_EQ(ModemDialogue().Initialise(silent.talk, "", "initString").field, "modems.comPort");
   EXPECT_THAT(silent.line.written, ElementsAre("AT\r", "AT\r"));
 }
 

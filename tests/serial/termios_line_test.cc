@@ -70,7 +70,7 @@ TEST_F(TermiosLineTest, BytesGoThroughUnchangedAndWaitsEnd) {
 
 TEST_F(TermiosLineTest, APortThatCannotBeHadSaysWhy) {
   EXPECT_EQ(OpenTermiosLine("/dev/null", {}, problem_), nullptr);
-  EXPECT_EQ(problem_.field, "comPort");
+  EXPECT_EQ(problem_.field, "modems.comPort");
   EXPECT_EQ(OpenTermiosLine("/no/such/port", {}, problem_), nullptr);
   EXPECT_NE(problem_.text.find("No such file"), std::string::npos) << problem_.text;
   EXPECT_EQ(Open({0, 8, 0, 0, false}), nullptr);
