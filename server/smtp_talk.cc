@@ -2,6 +2,9 @@
 #ifdef ALERTSERVER_WITH_CURL
 #include "server/smtp_talk.h"
 
+#include <sys/socket.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <mutex>
 
@@ -34,6 +37,23 @@ SmtpTalk::SmtpTalk(const SmtpRequest& request, Transcript& transcript)
   curl_multi_add_handle(multi_.get(), easy_.get());
 }
 
+/// The library says goodbye to whoever it is connected to, and waits two minutes for the answer of one that is silent.
+SmtpTalk::~SmtpTalk() {
+  if (!ended_ && socket_ != CURL_SOCKET_BAD) shutdown(socket_, SHUT_RDWR);
+}
+
+curl_socket_t SmtpTalk::OpenSocket(void* self, curlsocktype, curl_sockaddr* to) {
+  auto& talk = *static_cast<SmtpTalk*>(self);
+  talk.socket_ = socket(to->family, to->socktype | SOCK_CLOEXEC, to->protocol);
+  return talk.socket_;
+}
+
+int SmtpTalk::CloseSocket(void* self, curl_socket_t socket) {
+  auto& talk = *static_cast<SmtpTalk*>(self);
+  if (talk.socket_ == socket) talk.socket_ = CURL_SOCKET_BAD;
+  return close(socket);
+}
+
 /// The environment may name proxies; a mail server is not behind them.
 void SmtpTalk::SetUp(const SmtpRequest& request) {
   CURL* const easy = easy_.get();
@@ -53,6 +73,10 @@ void SmtpTalk::SetUp(const SmtpRequest& request) {
   curl_easy_setopt(easy, CURLOPT_UPLOAD, 1L);
   curl_easy_setopt(easy, CURLOPT_READFUNCTION, &SmtpTalk::Read);
   curl_easy_setopt(easy, CURLOPT_READDATA, this);
+  curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, &SmtpTalk::OpenSocket);
+  curl_easy_setopt(easy, CURLOPT_OPENSOCKETDATA, this);
+  curl_easy_setopt(easy, CURLOPT_CLOSESOCKETFUNCTION, &SmtpTalk::CloseSocket);
+  curl_easy_setopt(easy, CURLOPT_CLOSESOCKETDATA, this);
   SetTls(request.tls);
   if (request.login.empty()) return;
   curl_easy_setopt(easy, CURLOPT_USERNAME, request.login.c_str());

@@ -42,6 +42,8 @@ enum class SmtpState {
 class SmtpTalk {
  public:
   SmtpTalk(const SmtpRequest& request, Transcript& transcript);
+  /// Puts down a talk that has not ended without a farewell.
+  ~SmtpTalk();
 
   /// True once the talk is in that state or beyond; false when it ended before, or time ran out.
   bool Reach(SmtpState state, Context::Clock::time_point deadline);
@@ -80,6 +82,8 @@ class SmtpTalk {
   void OnSent(std::string_view line);
   void OnReceived(std::string_view line);
   void OnReply();
+  static curl_socket_t OpenSocket(void* self, curlsocktype, curl_sockaddr* to);
+  static int CloseSocket(void* self, curl_socket_t socket);
   static int Debug(CURL* easy, curl_infotype type, char* data, std::size_t size, void* self);
   static std::size_t Read(char* buffer, std::size_t size, std::size_t count, void* self);
 
@@ -95,6 +99,7 @@ class SmtpTalk {
   int code_ = 0;
   bool encrypted_ = false, auth_accepted_ = false, ended_ = false, timed_out_ = false;
   CURLcode result_ = CURLE_OK;
+  curl_socket_t socket_ = CURL_SOCKET_BAD;  ///< the last that was opened, while it is open
   std::unique_ptr<curl_slist, FreeList> recipients_;
   std::unique_ptr<CURL, FreeEasy> easy_;
   std::unique_ptr<CURLM, FreeMulti> multi_;
