@@ -18,7 +18,10 @@ std::string Now() { return platform::ToUtcText(std::chrono::system_clock::now())
 
 Secrets SecretsOf(const Service& service, const Configuration& configuration) {
   Secrets secrets;
-  secrets.Add(service.Text("password"));
+  const std::string password = service.Text("password");
+  secrets.Add(password);
+  // As a login carries both; the server may say it again.
+  if (!password.empty()) secrets.Add('\0' + service.Text("loginId") + '\0' + password);
   if (service.type == "snmp-trap")
     for (const SnmpManager& manager : configuration.snmpManagers) secrets.Add(manager.community);
   return secrets;

@@ -156,7 +156,11 @@ void Server::Start(Work work) {
   const std::lock_guard lock(mutex_);
   const std::uint32_t number = work.number;
   std::thread thread([this, number, mine = std::make_shared<Work>(std::move(work))] {
-    Finish(std::move(*mine));
+    try {
+      Finish(std::move(*mine));
+    } catch (const std::exception& error) {  // no memory; the job is taken again
+      LogJob(number, error.what());
+    }
     const std::lock_guard over(mutex_);
     std::ranges::find(running_, number, &Running::number)->is_over = true;
   });

@@ -245,6 +245,16 @@ TEST_F(TestSendsTest, WhereThisMachineDeliversAndNoServerRunsOneIsStarted) {
   EXPECT_FALSE(fs::exists(started)) << "a server runs, or is another machine's to run";
 }
 
+TEST_F(TestSendsTest, TheAlertServerBesideThisProgramAnswers) {
+  const test_support::SavedVariable saved("ALERTING_SERVER");
+  unsetenv("ALERTING_SERVER");
+  Enable(platform::HostName(), record_.serviceId);
+  const std::uint32_t job = SendOne();
+  ASSERT_THAT(Told::Wait(1), ElementsAre(job));
+  EXPECT_THAT(ShownFor(job), AllOf(HasSubstr("The test is not possible from this alert server."),
+                                   HasSubstr("no file " + directory_ + "/alert-managers.json")));
+}
+
 TEST_F(TestSendsTest, EachOfSeveralTestsIsToldOnce) {
   const std::uint32_t first = SendOne();
   Report report;
