@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "server/delivery.h"
 
+#include <algorithm>
+
 #include "platform/base/host_name.h"
 #include "server/keywords.h"
 #include "server/own_address.h"
@@ -78,9 +80,10 @@ class Tries {
 
  private:
   std::chrono::milliseconds Left() const {
+    using std::chrono::milliseconds;
     const auto left = job_.time + AnswerLimit(job_) - kMargin - std::chrono::system_clock::now();
-    return std::max(std::chrono::duration_cast<std::chrono::milliseconds>(left),
-                    std::chrono::milliseconds(0));
+    // A job of a console whose clock is ahead has no more time than others.
+    return std::clamp(std::chrono::duration_cast<milliseconds>(left), milliseconds(0), AnswerLimit(job_));
   }
 
   void Try(const std::optional<ModemLink>& modem, const std::string& mark, std::chrono::milliseconds time) {

@@ -106,7 +106,12 @@ void Server::Finish(Work work) {
 
 void Server::DeliverAndReport(Work& work) {
   LogJob(work.number, "taken");
-  const DeliveryResult result = Deliver(manager_, work.job, *work.configuration, SettingsOf(data_));
+  DeliveryResult result = Deliver(manager_, work.job, *work.configuration, SettingsOf(data_));
+  const std::string missing = MissingManagers(manager_, work.job, *work.configuration);
+  if (!missing.empty())
+    result.report.explanation = missing +
+                                " did not take the test: see that an alert server is running there. " +
+                                result.report.explanation;
   if (result.backup_may_help && HandOn(work, result.report)) return;
   Answer(work, WithTriesBefore(work.job, result.report));
 }
