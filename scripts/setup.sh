@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need and that are missing; says which. The
-# optional ones may be missing: without Qt's packages everything but the Qt desktop and the console window is still built,
-# without those of curl and net-snmp the alert server sends neither mail nor traps.
+# Installs the Debian packages that building and testing need and that are missing; says which. The optional ones may be
+# missing: without Qt's packages everything but the Qt desktop and the console window is still built, without those of curl
+# and net-snmp the alert server sends neither mail nor traps.
 set -euo pipefail
 
 required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libcsv-dev libgtest-dev

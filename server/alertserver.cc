@@ -33,10 +33,20 @@ int ListJobs(const Server& server) {
   return kDone;
 }
 
+/// The manager to which a job was handed on may not come; then there is nobody else to answer it.
+int AwaitReport(Server& server, std::uint32_t job) {
+  alertserver::Watch watch(server.TheSpool().Directory());
+  while (!server.TheSpool().HasReport(job) && server.TheSpool().HasJob(job) && !watch.IsAskedToStop()) {
+    watch.Wait(std::chrono::seconds(1));
+    server.Handle(job);
+  }
+  return kDone;
+}
+
 int HandleOne(Server& server, std::uint32_t job) {
   switch (server.Handle(job)) {
     case Handling::kAnswered:
-      return kDone;
+      return AwaitReport(server, job);
     case Handling::kRefused:
       return kJobRefused;
     case Handling::kNothing:

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "server/delivery.h"
 
+#include <algorithm>
+
 #include "platform/base/host_name.h"
 #include "server/keywords.h"
 #include "server/own_address.h"
@@ -18,7 +20,10 @@ std::string Now() { return platform::ToUtcText(std::chrono::system_clock::now())
 
 Secrets SecretsOf(const Service& service, const Configuration& configuration) {
   Secrets secrets;
-  secrets.Add(service.Text("password"));
+  const std::string password = service.Text("password");
+  secrets.Add(password);
+  // As a login carries both; the server may say it again.
+  if (!password.empty()) secrets.Add('\0' + service.Text("loginId") + '\0' + password);
   if (service.type == "snmp-trap")
     for (const SnmpManager& manager : configuration.snmpManagers) secrets.Add(manager.community);
   return secrets;
@@ -75,9 +80,10 @@ class Tries {
 
  private:
   std::chrono::milliseconds Left() const {
+    using std::chrono::milliseconds;
     const auto left = job_.time + AnswerLimit(job_) - kMargin - std::chrono::system_clock::now();
-    return std::max(std::chrono::duration_cast<std::chrono::milliseconds>(left),
-                    std::chrono::milliseconds(0));
+    // A job of a console whose clock is ahead has no more time than others.
+    return std::clamp(std::chrono::duration_cast<milliseconds>(left), milliseconds(0), AnswerLimit(job_));
   }
 
   void Try(const std::optional<ModemLink>& modem, const std::string& mark, std::chrono::milliseconds time) {

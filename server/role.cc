@@ -56,4 +56,13 @@ std::string NextManager(const std::string& manager, const Job& job, const Config
   return next != job.managers.end() ? *next : "";
 }
 
+std::string MissingManagers(const std::string& manager, const Job& job, const Configuration& configuration) {
+  std::string missing;
+  if (IsFirst(manager, job, configuration)) return missing;
+  for (const std::string& name : job.managers)
+    if (IsFirst(name, job, configuration) && !HasTried(job, name))
+      missing += (missing.empty() ? "" : ", ") + name;
+  return missing;
+}
+
 }  // namespace alertserver

@@ -29,4 +29,7 @@ Role RoleOf(const std::string& manager, const Job& job, const Configuration& con
 /// there is none.
 std::string NextManager(const std::string& manager, const Job& job, const Configuration& configuration);
 
+/// The managers that come before this one, which is the backup, and have not tried; "" where there are none.
+std::string MissingManagers(const std::string& manager, const Job& job, const Configuration& configuration);
+
 }  // namespace alertserver

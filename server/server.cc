@@ -106,7 +106,12 @@ void Server::Finish(Work work) {
 
 void Server::DeliverAndReport(Work& work) {
   LogJob(work.number, "taken");
-  const DeliveryResult result = Deliver(manager_, work.job, *work.configuration, SettingsOf(data_));
+  DeliveryResult result = Deliver(manager_, work.job, *work.configuration, SettingsOf(data_));
+  const std::string missing = MissingManagers(manager_, work.job, *work.configuration);
+  if (!missing.empty())
+    result.report.explanation = missing +
+                                " did not take the test: see that an alert server is running there. " +
+                                result.report.explanation;
   if (result.backup_may_help && HandOn(work, result.report)) return;
   Answer(work, WithTriesBefore(work.job, result.report));
 }
@@ -156,7 +161,11 @@ void Server::Start(Work work) {
   const std::lock_guard lock(mutex_);
   const std::uint32_t number = work.number;
   std::thread thread([this, number, mine = std::make_shared<Work>(std::move(work))] {
-    Finish(std::move(*mine));
+    try {
+      Finish(std::move(*mine));
+    } catch (const std::exception& error) {  // no memory; the job is taken again
+      LogJob(number, error.what());
+    }
     const std::lock_guard over(mutex_);
     std::ranges::find(running_, number, &Running::number)->is_over = true;
   });

@@ -45,6 +45,8 @@ std::string Spool::ReportPath(std::uint32_t job) const {
   return directory_ + '/' + std::to_string(job) + ".report.json";
 }
 
+bool Spool::HasJob(std::uint32_t job) const { return IsThere(JobPath(job)); }
+
 bool Spool::HasReport(std::uint32_t job) const { return IsThere(ReportPath(job)); }
 
 std::vector<std::uint32_t> Spool::Jobs() const {

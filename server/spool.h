@@ -23,6 +23,7 @@ class Spool {
   std::string LockPath() const { return directory_ + "/server.lock"; }
   std::string JobPath(std::uint32_t job) const;
   std::string ReportPath(std::uint32_t job) const;
+  bool HasJob(std::uint32_t job) const;
   bool HasReport(std::uint32_t job) const;
 
   /// The numbers of the jobs, in ascending order.

@@ -5,6 +5,7 @@
 // The library's headers want its configuration first.
 #include <net-snmp/net-snmp-config.h>
 //
+#include <arpa/inet.h>
 #include <net-snmp/net-snmp-includes.h>
 
 #include <cstdlib>
@@ -12,6 +13,8 @@
 #include <memory>
 #include <mutex>
 #include <vector>
+
+#include "server/own_address.h"
 
 namespace alertserver {
 namespace {
@@ -120,6 +123,7 @@ Pdu MakeVersion1(const TrapRequest& request) {
   pdu->trap_type = SNMP_TRAP_ENTERPRISESPECIFIC;
   pdu->specific_type = kNotification;
   pdu->time = UpTime();
+  inet_pton(AF_INET, OwnAddress().c_str(), pdu->agent_addr);
   AddMessage(request, *pdu);
   return pdu;
 }

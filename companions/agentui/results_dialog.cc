@@ -24,6 +24,14 @@ const char* VerdictText(Verdict verdict) {
   switch (verdict) {
     case Verdict::kDelivered:
       return "The test was delivered.";
+    case Verdict::kSent:
+      return "The test was sent; nobody confirms that it arrived.";
+    case Verdict::kRefused:
+      return "The test was refused.";
+    case Verdict::kNotReached:
+      return "The receiver of the test was not reached.";
+    case Verdict::kNotPossible:
+      return "The test is not possible from this alert server.";
     case Verdict::kFailed:
       return "The test failed.";
     case Verdict::kUnanswered:
@@ -68,7 +76,12 @@ constexpr std::pair<std::string_view, const char*> kFieldTexts[] = {
     {"modemId", "the modem on the service's Modems page"},
     {"comPort", "the port of the modem"},
     {"initString", "the initialization string of the modem"},
+    {"enabled", "\"Enable Service\" on the service's General page"},
     {"address", "the address of the recipient on the service"},
+    {"userEnabled", "whether the recipient is alerted through the service"},
+    {"userName", "the target computer of the test"},
+    {"snmpManagers.address", "the name or address of the SNMP manager"},
+    {"snmpManagers.community", "the community name of the SNMP manager"},
     {"subject", "the file or program of the test"},
     {"message", "the message of the test"}};
 

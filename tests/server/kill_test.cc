@@ -113,17 +113,21 @@ TEST_F(ServerKilled, NoJobIsLostAndNoneAnsweredTwice) {
   EXPECT_LT(before, job) << "the moments are too late to say anything";
 }
 
-TEST_F(ServerKilled, StopsBehindTheRunningJob) {
-  test_support::WriteFile(site_.Data() + "/slow",
-                          "#!/bin/sh\necho on > " + site_.Data() + "/begun\nsleep 0.5\n");
+TEST_F(ServerKilled, StopsBehindTheRunningJobsWhichDoNotWaitForEachOther) {
+  const std::string begun = site_.Data() + "/begun";
+  test_support::WriteFile(site_.Data() + "/slow", "#!/bin/sh\necho on >> " + begun + "\nsleep 1\n");
   fs::permissions(site_.Data() + "/slow", fs::perms::owner_all);
   site_.response.subject.Assign(site_.Data() + "/slow");
   ServerProgram server(site_, log_);
   site_.WriteJob(1);
-  ASSERT_TRUE(Until([&] { return fs::exists(site_.Data() + "/begun"); }));
+  site_.WriteJob(2);
+  ASSERT_TRUE(Until([&] { return test_support::ReadFile(begun) == "on\non\n"; }));
+  EXPECT_FALSE(fs::exists(site_.ReportPath(1)) || fs::exists(site_.ReportPath(2)));
   EXPECT_EQ(server.End(SIGTERM), 0);
-  EXPECT_EQ(site_.Report(1).value("verdict", ""), "delivered");
-  EXPECT_FALSE(site_.HasJob(1));
+  for (const std::uint32_t job : {1, 2}) {
+    EXPECT_EQ(site_.Report(job).value("verdict", ""), "delivered");
+    EXPECT_FALSE(site_.HasJob(job));
+  }
 }
 
 TEST_F(ServerKilled, OnceTakesOneJobAndItsExitCodeSaysWhatBecameOfIt) {
@@ -136,6 +140,9 @@ TEST_F(ServerKilled, OnceTakesOneJobAndItsExitCodeSaysWhatBecameOfIt) {
   EXPECT_TRUE(site_.HasJob(1));
   EXPECT_FALSE(site_.HasJob(2));
   EXPECT_EQ(once("3"), 3);
+  site_.managers = {"OTHER"};
+  site_.WriteJob(5);
+  EXPECT_EQ(once("5"), 3) << "another manager's";
   site_.WriteJob(4, "no job");
   EXPECT_EQ(once("4"), 4);
   EXPECT_EQ(once("0"), 2);

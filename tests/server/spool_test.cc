@@ -215,6 +215,22 @@ TEST_F(ServerSpool, ABackupThatDoesNotComeIsNamed) {
   job["time"] = past(16);
   site_.WriteJob(2, job.dump());
   EXPECT_EQ(Handle(2, "SPARE"), Handling::kAnswered);
+  EXPECT_THAT(site_.Report(2)["explanation"].get<std::string>(), HasSubstr("ALPHA did not take the test"));
+}
+
+TEST_F(ServerSpool, TheBackupModemIsTriedBehindTheModem) {
+  site_.WriteSettings({{"ports", {{"COM1", ""}}}});
+  const Json modem = {
+      {"modemId", platform::GUID::Generate().ToString()}, {"modemName", "M"}, {"baudRate", 9600}};
+  Json& service = site_.AddService("numeric-pager", 12, {{"dialDelay", 1}});
+  service["modem"] = service["backupModem"] = modem;
+  site_.configuration["alertManagers"].back()["services"].push_back(
+      {{"serviceId", site_.response.serviceId.ToString()}, {"backup", true}});
+  site_.AddUser("Ann", "555");
+  const Json report = site_.Serve();
+  EXPECT_EQ(report["steps"].front()["name"].get<std::string>().find("Backup"), std::string::npos);
+  EXPECT_THAT(report["steps"].back()["name"].get<std::string>(), testing::StartsWith("Backup modem: "));
+  EXPECT_THAT(report["explanation"].get<std::string>(), HasSubstr("Over the backup modem: "));
 }
 
 TEST_F(ServerSpool, AServerIsSeenWhileItIsThere) {
