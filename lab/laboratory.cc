@@ -36,7 +36,7 @@ std::string Laboratory::Open() {
     if (problem.empty()) problem = OpenModem(device);
   auto terminal = std::make_unique<PagerTerminal>(options_.pager, faults_.Of("pager"), sink_);
   if (problem.empty()) problem = OpenPort("pager", std::move(terminal));
-  auto printer = std::make_unique<Printer>(faults_.Of("printer"), sink_, options_.hurry ? 50 : 500);
+  auto printer = std::make_unique<Printer>(faults_.Of("printer"), sink_, options_.hurry ? 300 : 500);
   if (problem.empty()) problem = OpenPort("printer", std::move(printer));
   if (!problem.empty()) return problem;
   AddControl();
