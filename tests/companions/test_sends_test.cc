@@ -196,6 +196,7 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
     EXPECT_THAT(person.Rows("&Steps:"), ElementsAre(ElementsAre("Connect", "done", "12 ms", "220 ready  "),
                                                     ElementsAre("Log in", "failed", "1.5 s", "535 no")));
     EXPECT_EQ(person.Text("&Transcript:"), "EHLO us\r\n535 no");
+    person.Press("&Copy");
     person.Press("OK");
   });
   {
@@ -203,6 +204,9 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
     component_->DisplayTestEventResultsDialog(&parent, job);
   }
   desktop_.RunPosted();
+  EXPECT_THAT(desktop_.clipboard.value_or(""),
+              AllOf(HasSubstr("The test failed.\nThe server refused the login.\n"),
+                    HasSubstr("\nLog in: failed, 1.5 s, 535 no\n"), HasSubstr("\nEHLO us\n535 no")));
 }
 
 TEST_F(TestSendsTest, EveryVerdictOfAnAlertServerIsToldInWords) {
