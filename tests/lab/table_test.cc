@@ -6,17 +6,15 @@
 #include <cstdio>
 #include <future>
 #include <memory>
-#include <sstream>
 
-#include "server/delivery.h"
-#include "tests/lab/laboratory_process.h"
+#include "tests/lab/rehearsal.h"
 
 namespace {
 
 using namespace alertserver;
+using namespace rehearsal;
 
-const std::string kNumber = "5550200", kProvider = "5550100";
-constexpr char kManager[] = "ALPHA", kPhone[] = "providerPhone";
+constexpr char kPhone[] = "providerPhone";
 
 struct Cell {
   const char* type;
@@ -76,77 +74,6 @@ const Cell kCells[] = {
     {"generic-port", "printer=silent", Verdict::kSent, "", "", ""},
 };
 
-ModemLink LinkTo(std::string_view type, std::uint32_t com_port) {
-  ModemLink modem;
-  modem.modemName = "Modem";
-  modem.baudRate = 2400;
-  modem.dataBits = type == "alphanumeric-pager" ? 7 : 8;
-  modem.parityCode = type == "alphanumeric-pager" ? 2 : 0;
-  modem.capabilities = type == "generic-port" ? kDirectPort : 7;
-  modem.initString = modem.alphaInitString = "AT&F&C1&D2";
-  modem.dialPrefix = "ATDT";
-  modem.hangupString = "ATH0";
-  modem.escapeString = "+++";
-  modem.is_known = modem.enabled = true;
-  modem.comPort = com_port;
-  return modem;
-}
-
-/// The port that a type uses: COM1 is the modem, COM2 the backup modem, COM3 the printer.
-std::uint32_t PortFor(std::string_view type) { return type == "generic-port" ? 3 : 1; }
-
-std::string AddressFor(std::string_view type) {
-  return type == "internet-mail" ? "somebody@example.org" : type == "numeric-pager" ? kNumber : "1234567";
-}
-
-/// A site with one service, which its one manager delivers as the backup too.
-Configuration SiteWith(std::string_view type) {
-  Service service;
-  service.type = type;
-  service.enabled = service.has_settings = true;
-  service.settings = {{"smtpServer", "127.0.0.1"},  {"loginId", "me"},     {"password", "secret"},
-                      {"providerPhone", kProvider}, {"maxTextLength", 80}, {"dialDelay", 5}};
-  service.modem = LinkTo(type, PortFor(type));
-  service.users = {{platform::GUID{}, "Somebody", AddressFor(type), true}};
-  return {{service}, {{kManager, service.id, false}}, {{"Lab", "127.0.0.1", "public", true}}};
-}
-
-Settings SettingsFor(const LaboratoryProcess& laboratory) {
-  Settings settings;
-  settings.com_ports = {laboratory.PathOf("modem"), laboratory.PathOf("backup-modem"),
-                        laboratory.PathOf("printer"), laboratory.PathOf("pager")};
-  settings.smtp_port = static_cast<std::uint16_t>(laboratory.PortOf("mail"));
-  settings.trap_port = static_cast<std::uint16_t>(laboratory.PortOf("traps"));
-  settings.mail_limit = std::chrono::seconds(15);
-  return settings;
-}
-
-LaboratoryProcess* Start(const std::string& faults) {
-  std::vector<std::string> arguments = {"--numeric", kNumber, "--alphanumeric", kProvider, "--slow", "200"};
-  std::istringstream words(faults);
-  for (std::string fault; words >> fault;) arguments.insert(arguments.end(), {"--fault", fault});
-  return new LaboratoryProcess(arguments);
-}
-
-Report Send(const Configuration& configuration, const Settings& settings) {
-  const std::string& type = configuration.services.front().type;
-  Job job;
-  job.time = std::chrono::system_clock::now();
-  job.response.user_name = "Somebody";
-  job.response.message.text = type == "numeric-pager" ? "555-4711" : "Tank 4 is overfull";
-  job.response.service_type = type == "numeric-pager" ? 12 : type == "alphanumeric-pager" ? 11 : 5;
-  return Deliver(kManager, job, configuration, settings).report;
-}
-
-Report Send(const LaboratoryProcess& laboratory, const Configuration& configuration) {
-  return Send(configuration, SettingsFor(laboratory));
-}
-
-/// True where the server was built without the library that sends such messages.
-bool IsLeftOut(const Report& report) {
-  return report.explanation.find("it was built without") != std::string::npos;
-}
-
 struct Result {
   Report report;
   std::chrono::steady_clock::duration taken{};
@@ -161,7 +88,7 @@ std::string FailedStep(const Report& report) {
 
 /// What must have arrived is waited for, and counted among all that tells of a message.
 Result Try(const Cell& cell) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start(cell.fault));
+  const auto laboratory = Start(cell.fault);
   if (laboratory->Places().is_null()) return {};
   Result result;
   const auto started = std::chrono::steady_clock::now();
@@ -204,80 +131,6 @@ TEST(TableTest, EveryFaultHasItsVerdictAndItsField) {
         IsLeftOut(result.report) ? result.report.explanation.c_str() : FailedStep(result.report).c_str());
     if (!IsLeftOut(result.report)) Check(kCells[i], result);
   }
-}
-
-/// The names of a report's steps, those over the backup modem among them.
-bool HasStep(const Report& report, const std::string& name, const std::string& result) {
-  return std::any_of(report.steps.begin(), report.steps.end(),
-                     [&](const ReportStep& step) { return step.name == name && step.result == result; });
-}
-
-Configuration WithBackup(const char* type) {
-  Configuration site = SiteWith(type);
-  Service& service = site.services.front();
-  service.backupModem = LinkTo(type, 2);
-  site.deliveries.push_back({kManager, service.id, true});
-  return site;
-}
-
-TEST(BackupModemTest, TakesOverWhatTheFirstModemDoesNotReach) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start("modem=busy"));
-  ASSERT_FALSE(laboratory->Places().is_null());
-  const Report report = Send(*laboratory, WithBackup("alphanumeric-pager"));
-  EXPECT_EQ(report.verdict, Verdict::kDelivered) << report.explanation;
-  EXPECT_TRUE(HasStep(report, "Dial", "failed"));
-  EXPECT_TRUE(HasStep(report, "Backup modem: Send the message", "done"));
-  EXPECT_EQ(laboratory->Arrivals("pager", "page", 1).size(), 1U);
-}
-
-TEST(BackupModemTest, IsNotTriedWhereTheReceiverSaidNo) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start("pager=rejected:1"));
-  ASSERT_FALSE(laboratory->Places().is_null());
-  const Report report = Send(*laboratory, WithBackup("alphanumeric-pager"));
-  EXPECT_EQ(report.verdict, Verdict::kRefused);
-  EXPECT_EQ(report.field, "address");
-  EXPECT_TRUE(laboratory->Arrivals("pager", "page", 0).empty());
-}
-
-TEST(BackupModemTest, WhatIsMissingIsNamedWhereItIsMissing) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start("modem=silent"));
-  ASSERT_FALSE(laboratory->Places().is_null());
-  Configuration site = WithBackup("numeric-pager");
-  site.services.front().backupModem->is_known = false;
-  const Report report = Send(*laboratory, site);
-  EXPECT_EQ(report.verdict, Verdict::kNotPossible);
-  EXPECT_EQ(report.field, "backupModem");
-  EXPECT_TRUE(HasStep(report, "Backup modem: Open the port", "failed"));
-}
-
-TEST(TrapVersionTest, AVersion1TrapBearsTheMessageByteForByte) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start(""));
-  ASSERT_FALSE(laboratory->Places().is_null());
-  Settings settings = SettingsFor(*laboratory);
-  settings.trap_version_1 = true;
-  const Report report = Send(SiteWith("snmp-trap"), settings);
-  if (IsLeftOut(report)) GTEST_SKIP() << report.explanation;
-  EXPECT_EQ(report.verdict, Verdict::kSent);
-  const auto traps = laboratory->Arrivals("traps", "trap", 1);
-  ASSERT_EQ(traps.size(), 1U);
-  EXPECT_EQ(traps[0]["version"], "1");
-  EXPECT_EQ(traps[0]["enterprise"], settings.trap_enterprise);
-  EXPECT_EQ(traps[0]["variables"][0]["value"], "Tank 4 is overfull");
-}
-
-TEST(DirectPortTest, AnAlphanumericTerminalAtThePortIsNotDialed) {
-  const std::unique_ptr<LaboratoryProcess> laboratory(Start(""));
-  ASSERT_FALSE(laboratory->Places().is_null());
-  Configuration site = SiteWith("alphanumeric-pager");
-  site.services.front().modem->capabilities = kDirectPort;
-  site.services.front().modem->comPort = 4;
-  const Report report = Send(*laboratory, site);
-  EXPECT_EQ(report.verdict, Verdict::kDelivered) << report.explanation;
-  EXPECT_TRUE(HasStep(report, "Dial", "not needed"));
-  const auto pages = laboratory->Arrivals("pager", "page", 1);
-  ASSERT_EQ(pages.size(), 1U);
-  EXPECT_EQ(pages[0]["pager"], "1234567");
-  EXPECT_EQ(pages[0]["text"], "Tank 4 is overfull");
 }
 
 }  // namespace
