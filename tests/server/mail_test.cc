@@ -18,6 +18,11 @@ constexpr char kSecret[] = "MARKED-SECRET-1";
 
 class ServerMail : public testing::Test {
  protected:
+  void SetUp() override {
+#ifndef ALERTSERVER_WITH_CURL
+    GTEST_SKIP() << "the alert server is built without libcurl";
+#endif
+  }
   void Use(std::uint16_t port, const Json& more = Json::object()) {
     Json settings = {{"smtpPort", port}, {"mailMilliseconds", 1000}};
     settings.update(more);
