@@ -61,7 +61,8 @@ unit() {
   needs systemd-analyze
   mkdir -p "$WORK/units"
   sed "s#^ExecStart=.*/#ExecStart=$PREFIX/bin/#" "$PREFIX/lib/systemd/user/alertserver.service" >"$WORK/units/alertserver.service"
-  equal "unit" "" "$(systemd-analyze --user --man=no verify "$WORK/units/alertserver.service" 2>&1)"
+  equal "unit" "" "$(XDG_RUNTIME_DIR=$WORK/units systemd-analyze --user --man=no verify \
+    "$WORK/units/alertserver.service" 2>&1)"
 }
 
 # As where /lib is a link to /usr/lib.
