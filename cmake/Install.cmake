@@ -1,5 +1,5 @@
-# What `cmake --install` puts where. Components are the packages: the library with the command line, the window, and
-# what other consoles are built with.
+# What `cmake --install` puts where. Components are the packages: the library with the programs that need no display, the
+# window, and what other consoles are built with.
 include(CMakePackageConfigHelpers)
 
 set(package_directory ${CMAKE_INSTALL_LIBDIR}/cmake/alerting)
@@ -7,15 +7,20 @@ set(header_directory ${CMAKE_INSTALL_INCLUDEDIR}/alerting)
 
 install(TARGETS alertplatform alertcompanions alerting EXPORT alerting
   LIBRARY COMPONENT alerting NAMELINK_COMPONENT development)
-install(TARGETS alertctl COMPONENT alerting)
+install(TARGETS alertctl alertserver alertlab COMPONENT alerting)
 install(DIRECTORY resources/help resources/icons resources/starter DESTINATION ${resource_directory}
   COMPONENT alerting)
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT license)
+# Beside lib/, whatever the architecture: systemd looks for the units of users nowhere else.
+install(FILES ${CMAKE_BINARY_DIR}/server/alertserver.service DESTINATION lib/systemd/user COMPONENT alerting)
 
 # Manual pages and completions.
 set(manual ${CMAKE_BINARY_DIR}/manual)
-configure_file(docs/man/alert-managers.json.5.in ${manual}/alert-managers.json.5 @ONLY)
-install(FILES ${manual}/alertctl.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT alerting)
+foreach(page IN ITEMS alert-managers.json.5 alertserver.1 alertlab.1)
+  configure_file(docs/man/${page}.in ${manual}/${page} @ONLY)
+endforeach()
+install(FILES ${manual}/alertctl.1 ${manual}/alertserver.1 ${manual}/alertlab.1
+  DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT alerting)
 install(FILES ${manual}/alert-managers.json.5 DESTINATION ${CMAKE_INSTALL_MANDIR}/man5 COMPONENT alerting)
 install(FILES ${manual}/alertctl.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
   RENAME alertctl COMPONENT alerting)

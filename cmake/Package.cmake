@@ -27,13 +27,15 @@ set(same_version "alerting (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}
 set(CPACK_DEBIAN_ALERTING_PACKAGE_NAME alerting)
 set(CPACK_DEBIAN_ALERTING_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_ALERTING_PACKAGE_CONTROL_EXTRA ${CMAKE_SOURCE_DIR}/packaging/debian/triggers)
-set(CPACK_DEBIAN_ALERTING_PACKAGE_SUGGESTS alertconsole)
+# The second and third are what the alert server plays sounds and speaks with, and need nothing of a desktop.
+set(CPACK_DEBIAN_ALERTING_PACKAGE_SUGGESTS "alertconsole, alsa-utils, espeak-ng")
 set(CPACK_COMPONENT_ALERTING_DESCRIPTION "command line that sets up how alerts reach people
 Keeps the services by which alerts of a managed network are sent (mail, SNMP
 traps, pagers, sound, speech, programs, serial ports), the people who receive
 them, and the alert managers that deliver them.
 
-This package has the command line alertctl and the libraries.")
+This package has the command line alertctl, the alert server that sends tests
+of services, pretended devices to rehearse with, and the libraries.")
 
 set(CPACK_DEBIAN_ALERTCONSOLE_PACKAGE_NAME alertconsole)
 set(CPACK_DEBIAN_ALERTCONSOLE_PACKAGE_SHLIBDEPS ON)

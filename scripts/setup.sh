@@ -1,13 +1,14 @@
 #!/usr/bin/env bash
-# Installs the Debian packages that building and testing need and that are missing; says which. Qt is optional: where
-# its packages cannot be had, everything but the Qt desktop and the console window is still built. With the argument
-# "packages", also what making and checking Debian packages needs.
+# Installs the Debian packages that building and testing need and that are missing; says which. The optional ones may be
+# missing: without Qt's packages everything but the Qt desktop and the console window is still built, without those of curl
+# and net-snmp the alert server sends neither mail nor traps. With the argument "packages", also what making and checking
+# Debian packages needs.
 set -euo pipefail
 
 required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libcsv-dev libgtest-dev
           libgmock-dev libbenchmark-dev)
 # The second line is what the checks of the installed tree use.
-optional=(qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-dejavu-core ccache
+optional=(libcurl4-openssl-dev libsnmp-dev qt6-base-dev qt6-multimedia-dev libgl1-mesa-dev fonts-dejavu-core ccache
           groff-base appstream desktop-file-utils zsh)
 [ "${1:-}" != packages ] || optional+=(dpkg-dev file lintian debootstrap)
 

@@ -14,7 +14,10 @@ using Json = nlohmann::ordered_json;
 using Verdict = Report::Verdict;
 
 constexpr std::pair<const char*, Verdict> kVerdicts[] = {
-    {"delivered", Verdict::kDelivered}, {"failed", Verdict::kFailed}, {"unanswered", Verdict::kUnanswered}};
+    {"delivered", Verdict::kDelivered},     {"sent", Verdict::kSent},
+    {"refused", Verdict::kRefused},         {"notReached", Verdict::kNotReached},
+    {"notPossible", Verdict::kNotPossible}, {"failed", Verdict::kFailed},
+    {"unanswered", Verdict::kUnanswered}};
 
 std::string TextOf(const Json& object, const char* member) {
   const auto found = object.find(member);

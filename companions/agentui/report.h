@@ -13,10 +13,14 @@ namespace agentui {
 /// What became of a test. Members bear the names that they have in the report's file (docs/spool.md).
 struct Report {
   enum class Verdict {
-    kDelivered,
-    kFailed,
-    kUnanswered,  ///< no alert server reported in time
-    kUnreadable   ///< there is a report, or none, that cannot be read; in no file
+    kDelivered,    ///< the next hop has said that it took the message
+    kSent,         ///< nobody confirms that it arrived
+    kRefused,      ///< by the other side
+    kNotReached,   ///< the other side
+    kNotPossible,  ///< from the alert server that took the test
+    kFailed,       ///< in another way
+    kUnanswered,   ///< no alert server reported in time
+    kUnreadable    ///< there is a report, or none, that cannot be read; in no file
   };
   struct Step {
     std::string name, result;

@@ -8,6 +8,7 @@
 
 #include "companions/ctxhelp/ctxhelp.h"
 #include "platform/base/utc_time.h"
+#include "platform/ui/desktop.h"
 #include "platform/ui/dialog.h"
 #include "platform/ui/edit.h"
 #include "platform/ui/lists.h"
@@ -18,12 +19,28 @@ namespace {
 namespace ui = platform::ui;
 using Verdict = Report::Verdict;
 
-enum ControlId { kIdVerdict = 100, kIdExplanation, kIdDelivery, kIdCorrection, kIdSteps, kIdTranscript };
+enum ControlId {
+  kIdVerdict = 100,
+  kIdExplanation,
+  kIdDelivery,
+  kIdCorrection,
+  kIdSteps,
+  kIdTranscript,
+  kIdCopy
+};
 
 const char* VerdictText(Verdict verdict) {
   switch (verdict) {
     case Verdict::kDelivered:
       return "The test was delivered.";
+    case Verdict::kSent:
+      return "The test was sent; nobody confirms that it arrived.";
+    case Verdict::kRefused:
+      return "The test was refused.";
+    case Verdict::kNotReached:
+      return "The receiver of the test was not reached.";
+    case Verdict::kNotPossible:
+      return "The test is not possible from this alert server.";
     case Verdict::kFailed:
       return "The test failed.";
     case Verdict::kUnanswered:
@@ -68,7 +85,12 @@ constexpr std::pair<std::string_view, const char*> kFieldTexts[] = {
     {"modemId", "the modem on the service's Modems page"},
     {"comPort", "the port of the modem"},
     {"initString", "the initialization string of the modem"},
+    {"enabled", "\"Enable Service\" on the service's General page"},
     {"address", "the address of the recipient on the service"},
+    {"userEnabled", "whether the recipient is alerted through the service"},
+    {"userName", "the target computer of the test"},
+    {"snmpManagers.address", "the name or address of the SNMP manager"},
+    {"snmpManagers.community", "the community name of the SNMP manager"},
     {"subject", "the file or program of the test"},
     {"message", "the message of the test"}};
 
@@ -104,6 +126,17 @@ std::string Lines(const std::string& text) {
   return lines;
 }
 
+/// All of a report, for a mail to whoever can help.
+std::string ReportText(const Report& report) {
+  std::string text = VerdictText(report.verdict);
+  for (const std::string& line : {report.explanation, DeliveryText(report), CorrectionText(report.field)})
+    if (!line.empty()) text += '\n' + line;
+  for (const Report::Step& step : report.steps)
+    text += '\n' + step.name + ": " + step.result + ", " + DurationText(step.milliseconds) +
+            (step.said.empty() ? "" : ", " + OneLine(step.said));
+  return text + '\n' + (report.transcript.empty() ? "" : '\n' + report.transcript);
+}
+
 class ResultsDialog : public ui::Dialog {
  public:
   ResultsDialog(ui::Window* parent, const Report& report);
@@ -116,7 +149,7 @@ class ResultsDialog : public ui::Dialog {
   ui::StaticText verdict_, explanation_, delivery_, correction_;
   ui::ListView steps_;
   ui::Edit transcript_;
-  ui::Button ok_;
+  ui::Button copy_, ok_;
 };
 
 ResultsDialog::ResultsDialog(ui::Window* parent, const Report& report)
@@ -128,10 +161,11 @@ ResultsDialog::ResultsDialog(ui::Window* parent, const Report& report)
       correction_(*this, kIdCorrection, AsLabel(CorrectionText(report.field))),
       steps_(*this, kIdSteps, "&Steps:"),
       transcript_(*this, kIdTranscript, "&Transcript:"),
+      copy_(*this, kIdCopy, "&Copy"),
       ok_(*this, ui::kIdOk, "OK") {
-  SetLayout(
-      ui::Column({ui::Bare(verdict_), ui::Bare(explanation_), ui::Bare(delivery_), ui::Bare(correction_),
-                  ui::Over(steps_), ui::Over(transcript_), ui::Row({ui::Stretch(), ui::Field(ok_)})}));
+  SetLayout(ui::Column({ui::Bare(verdict_), ui::Bare(explanation_), ui::Bare(delivery_),
+                        ui::Bare(correction_), ui::Over(steps_), ui::Over(transcript_),
+                        ui::Row({ui::Stretch(), ui::Field(copy_), ui::Field(ok_)})}));
   for (ui::StaticText* text : {&explanation_, &delivery_, &correction_}) text->Show(!text->Label().empty());
   transcript_.SetMultiLine(true);
   transcript_.SetReadOnly(true);
@@ -141,6 +175,7 @@ ResultsDialog::ResultsDialog(ui::Window* parent, const Report& report)
   steps_.AddColumn("Answer", 240);
   steps_.Show(!report.steps.empty());
   transcript_.Show(!report.transcript.empty());
+  copy_.SetOnClick([this] { ui::Desktop::Current().SetClipboardText(ReportText(report_)); });
   ok_.SetDefault(true);
   ok_.SetOnClick([this] { OnOk(); });
 }

@@ -57,6 +57,12 @@ void TestWatch::Send(const alertstore::ALERTRESPREC& record) {
     pending_.push_back(sent);
   }
   changed_.notify_all();
+  if (!sent.is_over) StartServer(spool, job);
+}
+
+void TestWatch::StartServer(const std::string& spool, const Job& job) {
+  const std::lock_guard lock(mutex_);
+  servers_.StartWhereNeeded(spool, job);
 }
 
 void TestWatch::EnsureThread() {
@@ -76,6 +82,7 @@ void TestWatch::Run() {
       changed_.wait(lock, [this] { return stopping_ || !pending_.empty(); });
     else
       changed_.wait_for(lock, times_.look);
+    servers_.TakeNote();
     lock.unlock();
     try {
       for (const Pending& pending : PendingNow()) LookAt(pending);

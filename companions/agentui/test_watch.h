@@ -12,6 +12,7 @@
 
 #include "companions/agentui/agentui.h"
 #include "companions/agentui/report.h"
+#include "companions/agentui/server_start.h"
 #include "companions/alertstore/records_common.h"
 
 namespace agentui {
@@ -43,6 +44,7 @@ class TestWatch {
   };
 
   void EnsureThread();
+  void StartServer(const std::string& spool, const Job& job);
   std::vector<Pending> PendingNow();
   void Run();
   void LookAt(const Pending& pending);
@@ -56,6 +58,7 @@ class TestWatch {
   std::mutex mutex_;
   std::condition_variable changed_;
   std::vector<Pending> pending_;
+  StartedServers servers_;
   Callback callback_ = nullptr;
   bool stopping_ = false;
   std::thread thread_;

@@ -26,17 +26,17 @@ std::string ActionOf(Value value) {
   return value == Value::kFile ? "_files" : value == Value::kDirectory ? "_files -/" : " ";
 }
 
-std::string Specification(const Argument& option, const std::string& name) {
+std::string OptionSpec(const Argument& option, const std::string& name) {
   const std::string text = "[" + Escaped(option.description) + "]";
   if (option.value == Value::kNone) return " '" + name + text + "'";
   const char* joined = name.starts_with("--") ? "=" : "+";
   return " '" + name + joined + text + ":" + Escaped(option.type) + ":" + ActionOf(option.value) + "'";
 }
 
-std::string Specifications(const Command& command) {
+std::string ArgumentSpecs(const Command& command) {
   std::string text;
   for (const Argument& option : command.options)
-    for (const std::string& name : option.names) text += " \\\n   " + Specification(option, name);
+    for (const std::string& name : option.names) text += " \\\n   " + OptionSpec(option, name);
   for (const Argument& operand : command.operands)
     text += std::string(" \\\n    '") + (operand.required ? ":" : "::") + Escaped(operand.names.front()) +
             ":" + ActionOf(operand.value) + "'";
@@ -44,7 +44,7 @@ std::string Specifications(const Command& command) {
 }
 
 std::string VerbFunction(const Command& verb) {
-  return FunctionOf(verb) + "() {\n  _arguments" + Specifications(verb) + "\n}\n\n";
+  return FunctionOf(verb) + "() {\n  _arguments" + ArgumentSpecs(verb) + "\n}\n\n";
 }
 
 /// A function for each command; those of commands that lead on choose the next one.
@@ -58,7 +58,7 @@ std::string Functions(const Command& command) {
   }
   return below_it + FunctionOf(command) +
          "() {\n  local curcontext=$curcontext state line\n  typeset -A opt_args\n  _arguments -C" +
-         Specifications(command) +
+         ArgumentSpecs(command) +
          " \\\n    ': :->command' '*:: :->rest'\n"
          "  case $state in\n    command)\n      local -a commands=(" +
          names +

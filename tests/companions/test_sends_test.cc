@@ -16,11 +16,14 @@
 #include "companions/agentui/test_request.h"
 #include "desktops/scripted/scripted_desktop.h"
 #include "platform/base/base64.h"
+#include "platform/base/host_name.h"
 #include "platform/base/low_memory.h"
 #include "platform/base/paths.h"
+#include "platform/base/presence.h"
 #include "platform/ui/dialog.h"
 #include "tests/companions/store_fixture.h"
 #include "tests/support/failing_engine.h"
+#include "tests/support/temporary.h"
 
 namespace fs = std::filesystem;
 using agentui::Report;
@@ -193,6 +196,7 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
     EXPECT_THAT(person.Rows("&Steps:"), ElementsAre(ElementsAre("Connect", "done", "12 ms", "220 ready  "),
                                                     ElementsAre("Log in", "failed", "1.5 s", "535 no")));
     EXPECT_EQ(person.Text("&Transcript:"), "EHLO us\r\n535 no");
+    person.Press("&Copy");
     person.Press("OK");
   });
   {
@@ -200,6 +204,59 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
     component_->DisplayTestEventResultsDialog(&parent, job);
   }
   desktop_.RunPosted();
+  EXPECT_THAT(desktop_.clipboard.value_or(""),
+              AllOf(HasSubstr("The test failed.\nThe server refused the login.\n"),
+                    HasSubstr("\nLog in: failed, 1.5 s, 535 no\n"), HasSubstr("\nEHLO us\n535 no")));
+}
+
+TEST_F(TestSendsTest, EveryVerdictOfAnAlertServerIsToldInWords) {
+  const std::pair<const char*, const char*> verdicts[] = {
+      {"delivered", "was delivered"},    {"sent", "nobody confirms"},        {"refused", "was refused"},
+      {"notReached", "was not reached"}, {"notPossible", "is not possible"}, {"failed", "test failed"}};
+  for (const auto& [word, text] : verdicts) {
+    Lay("7.report.json", hours(0),
+        json({{"version", 1}, {"job", 7}, {"verdict", word}, {"field", "snmpManagers.address"}}).dump());
+    EXPECT_THAT(ShownFor(7), AllOf(HasSubstr(text), HasSubstr("address of the SNMP manager"))) << word;
+  }
+}
+
+/// A stand-in for the alert server's program that says how it was started.
+TEST_F(TestSendsTest, WhereThisMachineDeliversAndNoServerRunsOneIsStarted) {
+  const test_support::SavedVariable saved("ALERTING_SERVER");
+  const std::string program = directory_ + "/server", started = directory_ + "/started";
+  std::ofstream(program) << "#!/bin/sh\necho \"$*\" >> " << started << "\n";
+  fs::permissions(program, fs::perms::owner_all);
+  setenv("ALERTING_SERVER", program.c_str(), 1);
+  const auto said = [&] {
+    std::string text;
+    for (int tries = 0; tries < 500 && (!platform::ReadWholeFile(started, text) || !text.ends_with('\n'));
+         ++tries)
+      std::this_thread::sleep_for(milliseconds(10));
+    return text;
+  };
+  Enable(platform::HostName(), record_.serviceId);
+  const std::uint32_t job = SendOne();
+  EXPECT_EQ(said(), "--data " + directory_ + " --manager " + platform::HostName() + " --once " +
+                        std::to_string(job) + "\n");
+  fs::remove(started);
+
+  const platform::Presence server(spool_ + "/server.lock", platform::HostName());
+  Send();
+  record_.serviceId = platform::GUID::Generate();
+  Enable("ELSEWHERE", record_.serviceId);
+  Send();
+  std::this_thread::sleep_for(milliseconds(100));
+  EXPECT_FALSE(fs::exists(started)) << "a server runs, or is another machine's to run";
+}
+
+TEST_F(TestSendsTest, TheAlertServerBesideThisProgramAnswers) {
+  const test_support::SavedVariable saved("ALERTING_SERVER");
+  unsetenv("ALERTING_SERVER");
+  Enable(platform::HostName(), record_.serviceId);
+  const std::uint32_t job = SendOne();
+  ASSERT_THAT(Told::Wait(1), ElementsAre(job));
+  EXPECT_THAT(ShownFor(job), AllOf(HasSubstr("The test is not possible from this alert server."),
+                                   HasSubstr("no file " + directory_ + "/alert-managers.json")));
 }
 
 TEST_F(TestSendsTest, EachOfSeveralTestsIsToldOnce) {

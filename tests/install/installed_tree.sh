@@ -47,6 +47,25 @@ programs_alone() {
   equal "services" "$(starter_names | wc -l)" "$(($("$alertctl" service list | wc -l) - 2))"
 }
 
+# The unit starts the program where the tree was configured to stand.
+server_and_laboratory() {
+  local unit=$PREFIX/lib/systemd/user/alertserver.service
+  equal "program" "$FULL_BINDIR/alertserver" "$(sed -n 's/^ExecStart=//p' "$unit")"
+  "$alertctl" config write >/dev/null
+  equal "jobs" "" "$("$PREFIX/bin/alertserver" --list)"
+  equal "no such job" 3 "$("$PREFIX/bin/alertserver" --once 1 2>/dev/null && echo 0 || echo $?)"
+  equal "devices" 1 "$("$PREFIX/bin/alertlab" --json <<<quit | grep -c '"what":"ready"')"
+}
+
+# systemd checks its own grammar, and whether the program is there.
+unit() {
+  needs systemd-analyze
+  mkdir -p "$WORK/units"
+  sed "s#^ExecStart=.*/#ExecStart=$PREFIX/bin/#" "$PREFIX/lib/systemd/user/alertserver.service" >"$WORK/units/alertserver.service"
+  equal "unit" "" "$(XDG_RUNTIME_DIR=$WORK/units systemd-analyze --user --man=no verify \
+    "$WORK/units/alertserver.service" 2>&1)"
+}
+
 # As where /lib is a link to /usr/lib.
 library_behind_a_link() {
   ln -sfn "$PREFIX/$LIBDIR" "$WORK/link"
