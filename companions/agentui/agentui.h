@@ -67,4 +67,7 @@ struct TestTimes {
 /// are pending then are reported to nobody.
 std::unique_ptr<AgentUi> MakeAgentUi(const TestTimes& times = {});
 
+/// The number of the test that this process handed over last; 0 before the first. For programs that wait for its report.
+std::uint32_t LastTest();
+
 }  // namespace agentui

@@ -126,7 +126,9 @@ std::string Lines(const std::string& text) {
   return lines;
 }
 
-/// All of a report, for a mail to whoever can help.
+}  // namespace
+
+// It also goes into a mail to whoever can help.
 std::string ReportText(const Report& report) {
   std::string text = VerdictText(report.verdict);
   for (const std::string& line : {report.explanation, DeliveryText(report), CorrectionText(report.field)})
@@ -136,6 +138,8 @@ std::string ReportText(const Report& report) {
             (step.said.empty() ? "" : ", " + OneLine(step.said));
   return text + '\n' + (report.transcript.empty() ? "" : '\n' + report.transcript);
 }
+
+namespace {
 
 class ResultsDialog : public ui::Dialog {
  public:

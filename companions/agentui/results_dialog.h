@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
+
 #include "companions/agentui/report.h"
 #include "platform/ui/window.h"
 
 namespace agentui {
 
+/// All of a report for a person to read, line by line.
+std::string ReportText(const Report& report);
 /// Runs the dialog that tells what became of a test.
 void ShowTestResults(platform::ui::Window* parent, const Report& report);
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "companions/agentui/test_watch.h"
 
+#include <atomic>
 #include <exception>
 #include <filesystem>
 #include <set>
@@ -41,6 +42,12 @@ void TestWatch::SetCallback(Callback callback) {
   callback_ = callback;
 }
 
+namespace {
+
+std::atomic<std::uint32_t> g_last_test{0};
+
+}  // namespace
+
 void TestWatch::Send(const alertstore::ALERTRESPREC& record) {
   const std::string spool = SpoolDirectory();
   EnsureThread();
@@ -58,7 +65,10 @@ void TestWatch::Send(const alertstore::ALERTRESPREC& record) {
   }
   changed_.notify_all();
   if (!sent.is_over) StartServer(spool, job);
+  g_last_test = job.number;
 }
+
+std::uint32_t LastTest() { return g_last_test; }
 
 void TestWatch::StartServer(const std::string& spool, const Job& job) {
   const std::lock_guard lock(mutex_);

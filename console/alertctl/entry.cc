@@ -9,6 +9,9 @@
 #include "console/alertctl/verbs.h"
 
 namespace alertctl {
+
+void AddEntryTestVerb(Verbs& verbs, CLI::App& entry);
+
 namespace {
 
 using platform::GUID;
@@ -175,6 +178,7 @@ void AddEntryVerbs(Verbs& verbs) {
   AddUserAndService(verbs.AddVerb(entry, "remove", Access::kChange, "Removes a user's entry from a service.",
                                   kRemoveExamples, [arguments] { return Remove(*arguments); }),
                     arguments);
+  AddEntryTestVerb(verbs, entry);
 }
 
 }  // namespace alertctl

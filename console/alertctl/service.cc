@@ -10,6 +10,7 @@ namespace alertctl {
 
 void AddServiceChangeVerbs(Verbs& verbs, CLI::App& service);
 void AddServiceSetVerb(Verbs& verbs, CLI::App& service);
+void AddServiceTestVerb(Verbs& verbs, CLI::App& service);
 void AddServiceNameVerbs(Verbs& verbs, CLI::App& service);
 
 namespace {
@@ -77,6 +78,7 @@ void AddServiceVerbs(Verbs& verbs) {
   AddServiceSetVerb(verbs, service);
   AddServiceNameVerbs(verbs, service);
   AddServiceChangeVerbs(verbs, service);
+  AddServiceTestVerb(verbs, service);
 }
 
 }  // namespace alertctl

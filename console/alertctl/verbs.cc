@@ -14,7 +14,8 @@ namespace {
 
 constexpr char kFooter[] =
     "Services, users and managers are named by name, in either case, or by identity.\n"
-    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure.";
+    "Exit codes: 0 done, 2 wrong usage, 3 nothing matched, 4 invalid, 5 store failure; of tests 6 refused,\n"
+    "7 not reached, 8 not possible, 9 failed or not answered.";
 
 constexpr char kNotTold[] = "The alert managers have not been told: \"alertctl config write\" tells them.\n";
 
@@ -120,7 +121,7 @@ int Verbs::Run() {
   try {
     const Result result = RunAction();
     WarnOfLeftOut();
-    if (PrintOut(json_ ? JsonText(result.json) : Printable(result.text, true))) return kDone;
+    if (PrintOut(json_ ? JsonText(result.json) : Printable(result.text, true))) return result.code;
     PrintError("cannot write the output: " + LastOutputError() + "; what was asked for is done");
     return kStoreFailure;
   } catch (const Failure& failure) {

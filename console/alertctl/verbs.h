@@ -25,6 +25,7 @@ using enum site::ExitCode;
 struct Result {
   Json json;
   std::string text;
+  ExitCode code = kDone;
 };
 
 /// What a verb does to the data directory, which decides what is there before it begins.

@@ -89,12 +89,12 @@ void CheckText(const FieldOption& option, const std::string& text) {
 }
 
 /// The field did not take all that was typed.
-[[noreturn]] void RefuseText(const FieldOption& option, const ui::Edit& edit, const std::string& text) {
+[[noreturn]] void RefuseText(const FieldOption& option, const ui::Edit* edit, const std::string& text) {
   const std::string quoted = option.kind == FieldKind::kSecret ? "what was given" : "\"" + text + "\"";
   std::string why = quoted + " has characters that cannot be entered there";
-  if (edit.Limit() != ui::Edit::kNoLimit && text.size() > edit.Limit())
+  if (edit != nullptr && text.size() > edit->Limit())
     why = quoted + " has " + std::to_string(text.size()) + ", and the field takes " +
-          std::to_string(edit.Limit()) + " bytes at most";
+          std::to_string(edit->Limit()) + " bytes at most";
   throw Failure(site::kInvalid, std::string(option.option) + ": " + why);
 }
 
@@ -144,7 +144,8 @@ void OperatedWindow::SelectTab(const std::string& caption) {
 }
 
 void OperatedWindow::Press(const std::string& button, const std::string& missing) {
-  if (desktops::FindControl(Front(), button) != nullptr) Reachable(button);
+  const ui::Control* control = desktops::FindControl(Front(), button);
+  if (control != nullptr && !control->Enabled()) desktop_.Refuse(missing);
   if (IsSheet() && desktops::FindSheetButton(button) && !person_.IsEnabled(button)) desktop_.Refuse(missing);
   person_.Press(button);
 }
@@ -156,6 +157,11 @@ void OperatedWindow::Finish(const std::string& button, const std::string& missin
 
 void OperatedWindow::Open(const std::string& button, std::vector<WindowOperator::Story> stories) {
   desktop_.Work([&] { Press(button); }, std::move(stories));
+}
+
+void OperatedWindow::OpenBeside(const std::string& label, const std::string& button,
+                                std::vector<WindowOperator::Story> stories) {
+  desktop_.Work([&] { person_.PressBeside(label, button); }, std::move(stories));
 }
 
 void OperatedWindow::Close() { person_.CloseWindow(); }
@@ -187,13 +193,16 @@ void OperatedWindow::ChooseOption(const std::string& label, const std::string& t
 }
 
 void OperatedWindow::Type(const FieldOption& option, const std::string& label, const std::string& text) {
-  const auto& edit = dynamic_cast<const ui::Edit&>(Reachable(label));
+  ui::Control& control = Reachable(label);
+  const auto* edit = dynamic_cast<const ui::Edit*>(&control);
   const std::string wanted = WithFieldBreaks(text);
-  if (!edit.MultiLine() && wanted.find('\n') != std::string::npos) RefuseText(option, edit, text);
+  const bool takes_lines = edit != nullptr && edit->MultiLine();
+  if (!takes_lines && wanted.find('\n') != std::string::npos) RefuseText(option, edit, text);
   std::string typed = wanted;
   std::erase(typed, '\r');
   person_.Type(label, typed);
-  if (edit.Text() != wanted) RefuseText(option, edit, wanted);
+  const std::string taken = edit != nullptr ? edit->Text() : desktops::ShownValue(control);
+  if (taken != wanted) RefuseText(option, edit, wanted);
 }
 
 bool OperatedWindow::Fill(const FieldOption& option, const std::string& value) {

@@ -28,6 +28,9 @@ class OperatedWindow {
   void Finish(const std::string& button = "OK", const std::string& missing = kMissing);
   /// Presses a button that opens windows.
   void Open(const std::string& button, std::vector<WindowOperator::Story> stories);
+  /// The same with the button that stands beside a field.
+  void OpenBeside(const std::string& label, const std::string& button,
+                  std::vector<WindowOperator::Story> stories);
   void Close();
 
   /// True where the dialog, or the sheet's page in front, shows a control with that label.

@@ -11,7 +11,17 @@
 namespace site {
 
 /// What a program of the console ends with (docs/alertctl.md).
-enum ExitCode { kDone = 0, kUsage = 2, kNothingMatched = 3, kInvalid = 4, kStoreFailure = 5 };
+enum ExitCode {
+  kDone = 0,
+  kUsage = 2,
+  kNothingMatched = 3,
+  kInvalid = 4,
+  kStoreFailure = 5,
+  kTestRefused = 6,  ///< and those behind it: what became of a test
+  kTestNotReached = 7,
+  kTestNotPossible = 8,
+  kTestFailed = 9
+};
 
 /// Something cannot be done. The text says which record, why, and what to do.
 class Failure : public std::runtime_error {

@@ -41,9 +41,9 @@ std::vector<std::string> Verbs() {
 /// Verbs that make what others speak of come first, those that take it away last.
 std::vector<std::string> InOrder(std::vector<std::string> verbs) {
   const std::vector<std::string> first = {
-      "init",           "provider import", "provider add", "user add",         "entry set",   "modem add",
-      "modem-type add", "location add",    "computer add", "snmp-manager add", "manager add", "response add",
-      "provider show",  "service copy",    "response set", "response retarget"};
+      "init",         "provider import", "provider add", "user add",     "entry set",        "entry test",
+      "modem add",    "modem-type add",  "location add", "computer add", "snmp-manager add", "manager add",
+      "response add", "provider show",   "service copy", "response set", "response retarget"};
   const auto rank = [&](const std::string& verb) {
     const auto place = std::ranges::find(first, verb);
     const bool is_last = verb.ends_with(" remove") || verb == "service rename";
@@ -69,7 +69,9 @@ TEST_F(AlertctlTest, EveryExampleWorksAsItIsPrinted) {
     for (const std::string& example : examples) {
       EXPECT_THAT(example, StartsWith("alertctl " + verb));
       const Ran ran = RunLine(path + example);
-      EXPECT_EQ(ran.code, 0) << example << "\n" << ran.err;
+      // What becomes of a test depends on what there is to reach.
+      const bool is_verdict = verb.ends_with(" test") && ran.code >= 6 && ran.code <= 9;
+      EXPECT_TRUE(ran.code == 0 || is_verdict) << example << "\n" << ran.err;
       EXPECT_EQ(ran.err, "") << example;
     }
   }

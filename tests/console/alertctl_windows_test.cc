@@ -110,7 +110,7 @@ TEST_F(AlertctlWindowsTest, WhatAWindowRefusesIsRefusedAndStoresNothing) {
        4,
        "cannot be changed"},
       {{"rules", "set", "--same-area", "nine"}, 4, "cannot be entered"},
-      {{"snmp-manager", "add", ""}, 4, "cannot be changed"},
+      {{"snmp-manager", "add", ""}, 4, "missing"},
       {{"snmp-manager", "add", "192.0.2.1", "--computer", long_name}, 4, "64 bytes"},
       {{"computer", "add", "\u200B"}, 4, "control characters"},
       {{"manager", "add", "-"}, 0, ""},
@@ -255,6 +255,14 @@ TEST_F(AlertctlWindowsTest, ResponsesAreMadeChangedAndPointedElsewhere) {
       << "the second of that name";
   RunJson({"response", "remove", id});
   EXPECT_THAT(Run({"response", "show", id}), Fails(3, "no response"));
+}
+
+TEST_F(AlertctlWindowsTest, ATestIsSentForRealAndItsVerdictIsTheExitCode) {
+  const Ran failed = Run({"service", "test", "Program Launch Service", "--file", "/usr/bin/false", "--json"});
+  EXPECT_EQ(failed.code, 6) << failed;
+  EXPECT_EQ(json::parse(failed.out)["verdict"], "refused");
+  EXPECT_THAT(Run({"service", "test", "Internet Mail"}), Fails(4, "--user"));
+  EXPECT_THAT(Run({"service", "test", "Program Launch Service"}), Fails(4, "name it with an option"));
 }
 
 TEST_F(AlertctlWindowsTest, OptionsMayStandBeforeTheVerbAndOneFaultHasOneMessage) {
