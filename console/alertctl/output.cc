@@ -34,15 +34,8 @@ void ForEachSequence(std::string_view text, Visitor visit) {
   }
 }
 
-unsigned CodePoint(std::string_view sequence) {
-  unsigned code = static_cast<unsigned char>(sequence.front());
-  if (sequence.size() > 1) code &= 0x7FU >> sequence.size();
-  for (const char byte : sequence.substr(1)) code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
-  return code;
-}
-
 std::string Escaped(std::string_view control) {
-  const unsigned code = CodePoint(control);
+  const auto code = static_cast<unsigned>(site::CodePoint(control));
   std::array<char, 16> escape{};
   if (code < 0x10000U)
     std::snprintf(escape.data(), escape.size(), "\\u%04x", code);

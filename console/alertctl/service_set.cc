@@ -126,8 +126,10 @@ class ProviderUndo {
     known_ = store_.DBOpen() == alertstore::kOk &&
              store_.DBAlertRecRetrieve(record_.guid, record_) == alertstore::kOk;
   }
+  /// Throws a Failure (kStoreFailure) when that fails.
   void Undo() {
-    if (known_) store_.DBAlertRecUpdate(record_);
+    const alertstore::Status status = known_ ? store_.DBAlertRecUpdate(record_) : alertstore::kOk;
+    if (status != alertstore::kOk) throw StoreFailure("give the service its provider of before back", status);
   }
 
  private:

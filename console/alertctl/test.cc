@@ -25,7 +25,8 @@ using agentui::Report;
 using console_operator::OperatedWindow;
 using Verdict = Report::Verdict;
 
-constexpr char kServiceExamples[] = "  alertctl service test \"Program Launch Service\" --file /usr/bin/true --yes";
+constexpr char kServiceExamples[] =
+    "  alertctl service test \"Program Launch Service\" --file /usr/bin/true --yes";
 constexpr char kEntryExamples[] = "  alertctl entry test Ann \"Internet Mail\" --subject \"only a test\"";
 
 /// Longer than the library waits for any server's report, which it then writes itself.

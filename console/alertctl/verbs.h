@@ -32,7 +32,7 @@ struct Result {
 enum class Access {
   kFile,    ///< reads one file: nothing is made or waited for
   kRead,    ///< reads the stores: there must be some
-  kExport,  ///< writes what the stores hold to a file that has a lock of its own
+  kExport,  ///< takes what the stores hold elsewhere, into a file or a test, and waits for no other alertctl
   kChange,  ///< changes the stores: there must be some, and no other alertctl changes them meanwhile
   kSetUp,   ///< adds the first records: as kChange, and makes the directory
 };

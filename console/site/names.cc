@@ -28,13 +28,6 @@ constexpr std::array<std::string_view, 16> kBlanks = {
     " ",      "\u00A0", "\u1680", "\u2000", "\u2001", "\u2002", "\u2003", "\u2004",
     "\u2005", "\u2006", "\u2007", "\u2008", "\u2009", "\u200A", "\u202F", "\u3000"};
 
-char32_t CodePoint(std::string_view sequence) {
-  const auto first = static_cast<unsigned char>(sequence.front());
-  char32_t code = sequence.size() == 1 ? first : first & (0x7FU >> sequence.size());
-  for (const char byte : sequence.substr(1)) code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
-  return code;
-}
-
 bool IsDeceptive(std::string_view sequence) {
   const char32_t code = CodePoint(sequence);
   return std::ranges::any_of(kDeceptive,
@@ -51,6 +44,13 @@ bool IsBlank(std::string_view text) {
 }
 
 }  // namespace
+
+char32_t CodePoint(std::string_view sequence) {
+  const auto first = static_cast<unsigned char>(sequence.front());
+  char32_t code = sequence.size() == 1 ? first : first & (0x7FU >> sequence.size());
+  for (const char byte : sequence.substr(1)) code = code << 6U | (static_cast<unsigned char>(byte) & 0x3FU);
+  return code;
+}
 
 // The controls beyond ASCII are U+0080 to U+009F.
 Piece Classify(std::string_view sequence) {

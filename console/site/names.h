@@ -9,6 +9,8 @@ namespace site {
 
 enum class Piece { kText, kControl, kNoUtf8 };
 
+/// The character of one UTF-8 sequence.
+char32_t CodePoint(std::string_view sequence);
 /// What one UTF-8 sequence, or one byte that is none, is to someone who looks at it.
 Piece Classify(std::string_view sequence);
 
