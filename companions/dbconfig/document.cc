@@ -59,8 +59,15 @@ Json Value(std::string_view record, const Field& field) {
   return {};
 }
 
-Json Object(std::string_view record, Fields fields) {
+/// An object with room for its members: one that grows copies all that it holds, to any depth.
+Json RoomFor(std::size_t members) {
   Json object = Json::object();
+  object.get_ref<Json::object_t&>().reserve(members);
+  return object;
+}
+
+Json Object(std::string_view record, Fields fields) {
+  Json object = RoomFor(fields.size());
   for (const Field& field : fields) object[field.name] = Value(record, field);
   return object;
 }
@@ -89,7 +96,10 @@ Json KeywordObject(std::uint32_t id) {
 Json Message(std::string text, const std::vector<std::uint32_t>& ids) {
   Json keywords = Json::array();
   for (std::uint32_t id : ids) keywords.push_back(KeywordObject(id));
-  return {{"text", std::move(text)}, {"keywords", std::move(keywords)}};
+  Json message = RoomFor(2);
+  message["text"] = std::move(text);
+  message["keywords"] = std::move(keywords);
+  return message;
 }
 
 /// The first identifier of 0 ends the list: no placeholder behind it is ever filled in.
@@ -109,7 +119,7 @@ std::vector<std::uint32_t> ByteIds(const std::uint8_t (&bytes)[N]) {
 }
 
 Json DefaultMessage(std::string_view record, const MessageFields& fields) {
-  Json message = Json::object();
+  Json message = RoomFor(3);
   if (fields.subject.name)
     message["subject"] = Message(ReadText(record, fields.subject), SlotIds(record, fields.subject_keywords));
   message["body"] = Message(ReadText(record, fields.body), SlotIds(record, fields.body_keywords));
@@ -137,10 +147,11 @@ class ServiceWriter {
 
  private:
   Json Service(const ALRTNTFYSERV& service, const ServiceType& type) const {
-    Json object = {{"id", service.serviceId.ToString()},
-                   {"name", service.name.View()},
-                   {"type", type.key},
-                   {"enabled", service.enabled != 0}};
+    Json object = RoomFor(9);
+    object["id"] = service.serviceId.ToString();
+    object["name"] = service.name.View();
+    object["type"] = type.key;
+    object["enabled"] = service.enabled != 0;
     AddSpecific(object, service, type);
     if (type.read_users) object["users"] = Users(service.serviceId, type);
     return object;
@@ -221,15 +232,17 @@ Json Responses(const Site& site) {
 }  // namespace
 
 Json MakeDocument(const Site& site) {
-  return {{"format", "alerting-configuration"},
-          {"version", 1},
-          {"alertManagers", Managers(site)},
-          {"services", ServiceWriter(site).Write()},
-          {"responses", Responses(site)},
-          {"snmpManagers", Objects(site.snmp_managers, kSnmpManagerFields)},
-          {"modems", Objects(site.modems, kModemFields)},
-          {"locations", Objects(site.locations, kLocationFields)},
-          {"pagingProviders", Objects(site.providers, kProviderFields)}};
+  Json document = RoomFor(9);
+  document["format"] = "alerting-configuration";
+  document["version"] = 1;
+  document["alertManagers"] = Managers(site);
+  document["services"] = ServiceWriter(site).Write();
+  document["responses"] = Responses(site);
+  document["snmpManagers"] = Objects(site.snmp_managers, kSnmpManagerFields);
+  document["modems"] = Objects(site.modems, kModemFields);
+  document["locations"] = Objects(site.locations, kLocationFields);
+  document["pagingProviders"] = Objects(site.providers, kProviderFields);
+  return document;
 }
 
 std::string WriteDocument(const Site& site) {

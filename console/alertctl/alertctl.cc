@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 // alertctl: the command line of the alerting configuration.
+#include <optional>
+#include <span>
 #include <sstream>
 
 #include "console/alertctl/output.h"
@@ -50,19 +52,31 @@ int OnParseError(const CLI::App& app, const CLI::ParseError& error) {
   return alertctl::kStoreFailure;
 }
 
-}  // namespace
+using AddVerbs = void (*)(alertctl::Verbs&, std::span<const char* const> words);
 
-int main(int argc, char** argv) {
-  alertctl::ReserveStandardStreams();
+void AddAll(alertctl::Verbs& verbs, std::span<const char* const>) { alertctl::AddAllVerbs(verbs); }
+
+/// Nothing where no noun is known among the verbs that were added: with all of them there is more to say. No option of a verb
+/// has been read then.
+std::optional<int> Run(int argc, char** argv, AddVerbs add) {
   CLI::App app;
   alertctl::Verbs verbs(app);
-  alertctl::AddAllVerbs(verbs);
+  add(verbs, {argv, static_cast<std::size_t>(argc)});
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
+    if (add != AddAll && app.get_subcommands().empty()) return std::nullopt;
     return OnParseError(app, error);
   } catch (const alertctl::Failure& failure) {
     return alertctl::Verbs::Report(failure);
   }
   return verbs.Run();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  alertctl::ReserveStandardStreams();
+  if (const auto code = Run(argc, argv, alertctl::AddVerbsNamedIn)) return *code;
+  return Run(argc, argv, AddAll).value_or(alertctl::kUsage);
 }

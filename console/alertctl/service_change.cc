@@ -48,7 +48,7 @@ void CheckIsWhole(const Json& service) {
 }
 
 Result Copy(const Arguments& arguments) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& source = FindService(site, arguments.service);
   const Json& manager = FindManager(site, arguments.manager);
   CheckNewName(site, arguments.new_name);
@@ -67,7 +67,7 @@ Result Copy(const Arguments& arguments) {
 }
 
 Result Delete(const Arguments& arguments) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& service = FindService(site, arguments.service);
   Library library;
   const int index = library.IndexOf(service);
@@ -93,7 +93,7 @@ Json ManagerResult(const Json& site, const Json& service, bool changed) {
 
 /// A service is enabled on one manager at a time; the library leaves it there when another is asked for.
 Result Enable(const Arguments& arguments) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& service = FindService(site, arguments.service);
   const Json& manager = FindManager(site, arguments.manager);
   if (IsEnabledOn(manager, service))
@@ -104,7 +104,7 @@ Result Enable(const Arguments& arguments) {
                                 "\": disable it there first (\"alertctl service disable\")");
   Library library;
   library.Enable(library.IndexOf(service), IdOf(manager), true);
-  const Json after = LoadSite();
+  const Json after = LoadDelivery();
   if (ManagersOf(after, service).empty()) throw library.Refusal("enable the service " + Quoted(service));
   library.RequireWhole("enabled the service " + Quoted(service));
   return {ManagerResult(after, service, true),
@@ -113,7 +113,7 @@ Result Enable(const Arguments& arguments) {
 
 /// The library takes away one entry a call, and a service with a backup manager has two.
 Result Disable(const Arguments& arguments) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& service = FindService(site, arguments.service);
   const std::size_t entries = ManagersOf(site, service).size();
   if (entries == 0)
@@ -121,7 +121,7 @@ Result Disable(const Arguments& arguments) {
   Library library;
   const int index = library.IndexOf(service);
   for (std::size_t i = 0; i < entries; ++i) library.Enable(index, platform::kNullGuid, false);
-  const Json after = LoadSite();
+  const Json after = LoadDelivery();
   if (!ManagersOf(after, service).empty()) throw library.Refusal("disable the service " + Quoted(service));
   library.RequireWhole("disabled the service " + Quoted(service));
   return {ManagerResult(after, service, true), "Disabled " + Quoted(service) + ".\n"};

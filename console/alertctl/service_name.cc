@@ -27,10 +27,10 @@ Json NameAndSwitch(const Json& service) {
   return {{"id", service["id"]}, {"name", service["name"]}, {"enabled", service["enabled"]}};
 }
 
-Json Reread(const Json& service) { return NameAndSwitch(FindService(LoadSite(), service["id"])); }
+Json Reread(const Json& service) { return NameAndSwitch(FindService(LoadDelivery(), service["id"])); }
 
 Result Rename(const Arguments& arguments) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& service = FindService(site, arguments.service);
   CheckTyped("a service's name", arguments.new_name, site::kLongestServiceName);
   const alertstore::Status status = site::RenameService(IdOf(service), arguments.new_name);
@@ -42,7 +42,7 @@ Result Rename(const Arguments& arguments) {
 }
 
 Result Switch(const Arguments& arguments, bool on) {
-  const Json site = LoadSite();
+  const Json site = LoadDelivery();
   const Json& service = FindService(site, arguments.service);
   const std::string word = on ? "on" : "off";
   const alertstore::Status status = site::SwitchService(IdOf(service), on);

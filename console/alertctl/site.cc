@@ -7,10 +7,12 @@
 
 #include "companions/alertstore/computers.h"
 #include "companions/alertstore/console_users.h"
+#include "companions/alertstore/engine.h"
 #include "companions/alertstore/stores.h"
 #include "companions/dbconfig/document_json.h"
 #include "companions/dbconfig/service_types.h"
 #include "companions/dbconfig/site.h"
+#include "companions/dbconfig/store_reader.h"
 #include "companions/dbconfig/strings.h"
 #include "console/site/console_settings.h"
 #include "console/site/walk.h"
@@ -39,6 +41,16 @@ dbconfig::Site ReadSite() {
   const alertstore::Status status = dbconfig::ReadSite(site);
   if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
   return site;
+}
+
+template <class Store, class Out>
+void ReadStore(Out& out) {
+  Store store;
+  const alertstore::Status status = site::WalkAll(store, [&](const auto& record) {
+    out.push_back(record);
+    return alertstore::kOk;
+  });
+  if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
 }
 
 using Objects = std::vector<alertstore::NamedObject>;
@@ -73,6 +85,17 @@ Json LoadSite() {
   Json document = dbconfig::MakeDocument(ReadSite());
   MaskSecrets(document);
   return document;
+}
+
+Json LoadDelivery() {
+  const auto engine = alertstore::CurrentEngine();
+  const alertstore::ReadScope one_moment(*engine);
+  if (one_moment.Result() != alertstore::kOk) throw StoreFailure("read the stores", one_moment.Result());
+  dbconfig::Site only;
+  ReadStore<alertstore::CAlertNtfyServDB>(only.services);
+  ReadStore<alertstore::CAlert_SRV_CFGDB>(only.managers);
+  ReadStore<alertstore::CAlertSERV_INST_NTFY_SERVDB>(only.enabled_services);
+  return dbconfig::MakeDocument(only);
 }
 
 Json LoadModemTypes() {
@@ -132,18 +155,21 @@ bool IsEnabledOn(const Json& manager, const Json& service) {
 }
 
 bool LacksOwnRecord(const platform::GUID& service) {
-  const dbconfig::Site site = ReadSite();
-  for (const auto& common : site.services) {
-    if (common.serviceId != service) continue;
-    const dbconfig::ServiceType* type = dbconfig::FindServiceType(common.recordType);
-    if (type == nullptr || type->read_specific == nullptr) return false;
-    const dbconfig::Records& records = site.specific.at(type->record_type);
-    const auto is_own = [&](const dbconfig::RecordBytes& record) {
-      return std::memcmp(record.data(), &common.specificRecordId, sizeof common.specificRecordId) == 0;
-    };
-    return std::none_of(records.begin(), records.end(), is_own);
-  }
-  return false;
+  std::vector<alertstore::ALRTNTFYSERV> services;
+  ReadStore<alertstore::CAlertNtfyServDB>(services);
+  const auto common = std::find_if(services.begin(), services.end(),
+                                   [&](const auto& each) { return each.serviceId == service; });
+  if (common == services.end()) return false;
+  const dbconfig::ServiceType* type = dbconfig::FindServiceType(common->recordType);
+  if (type == nullptr || type->read_specific == nullptr) return false;
+  dbconfig::Records records;
+  const auto reader = type->read_specific(records);
+  alertstore::Status status = reader->Open();
+  if (status == alertstore::kOk) status = reader->ReadAll();
+  if (status != alertstore::kOk) throw StoreFailure("read the stores", status);
+  return std::none_of(records.begin(), records.end(), [&](const dbconfig::RecordBytes& record) {
+    return std::memcmp(record.data(), &common->specificRecordId, sizeof common->specificRecordId) == 0;
+  });
 }
 
 Deliveries::Deliveries(const Json& site) {

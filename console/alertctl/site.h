@@ -16,6 +16,9 @@ namespace alertctl {
 /// All stores at one moment, in the form of the configuration file (docs/configuration-file.md) with every
 /// secret masked, so that no verb can print one. Throws a Failure with kStoreFailure.
 Json LoadSite();
+/// Of that the services without their settings and users, and the alert managers: enough for a verb that only looks services
+/// up, and does not grow with what they hold.
+Json LoadDelivery();
 /// The same, unmasked, with all that a console can change besides: modem types, users, computers, dialing rules and the
 /// choice of the backup manager. For comparing; none of it may be printed as it is.
 Json LoadWholeSite();

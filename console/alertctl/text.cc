@@ -49,15 +49,17 @@ void TextTable::Add(std::vector<std::string> cells) {
 }
 
 std::string TextTable::Text() const {
-  std::vector<std::size_t> widths(rows_.front().size());
+  const std::size_t last = rows_.front().size() - 1;  // nothing stands behind it, so it needs no width
+  std::vector<std::size_t> widths(last), columns;
+  columns.reserve(last * rows_.size());
   for (const auto& row : rows_)
-    for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], ColumnsOf(row[i]));
+    for (std::size_t i = 0; i < last; ++i)
+      widths[i] = std::max(widths[i], columns.emplace_back(ColumnsOf(row[i])));
   std::string text;
+  auto column = columns.begin();
   for (const auto& row : rows_) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      text += row[i];
-      if (i + 1 < row.size()) text.append(widths[i] - ColumnsOf(row[i]) + 2, ' ');
-    }
+    for (std::size_t i = 0; i < last; ++i) (text += row[i]).append(widths[i] - *column++ + 2, ' ');
+    text += row[last];
     text.erase(text.find_last_not_of(' ') + 1);
     text += '\n';
   }

@@ -32,9 +32,15 @@ std::vector<alertstore::ConsoleUser> StoredUsers() {
 
 Listing List() {
   Listing listing{{"NAME", "IDENTITY"}, "There are no users. \"alertctl user add NAME\" adds one.\n", {}};
-  for (const auto& user : StoredUsers()) {
-    std::string id = user.id.ToString();
-    listing.rows.push_back({{user.name, id}, [user] { return UserJson(user.id, user.name); }, std::move(id)});
+  const auto users = std::make_shared<const std::vector<alertstore::ConsoleUser>>(StoredUsers());
+  listing.rows.reserve(users->size());
+  for (const auto& user : *users) {
+    Listing::Row& row = listing.rows.emplace_back();
+    row.identity = user.id.ToString();
+    row.cells.reserve(2);
+    row.cells.push_back(user.name);
+    row.cells.push_back(row.identity);
+    row.item = [users, &user] { return UserJson(user.id, user.name); };
   }
   return listing;
 }

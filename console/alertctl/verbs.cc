@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "console/alertctl/verbs.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <string_view>
 
 #include "companions/alertstore/left_out.h"
 #include "companions/dbconfig/dbconfig.h"
@@ -132,15 +134,44 @@ int Verbs::Run() {
   }
 }
 
-void AddAllVerbs(Verbs& verbs) {
+namespace {
+
+struct Noun {
+  std::string_view name;
+  void (*add)(Verbs&);
+  std::string_view other_name = {};  ///< of a second one that comes with it
+
+  bool IsAmong(std::span<const char* const> words) const {
+    return std::ranges::any_of(words, [this](std::string_view word) {
+      return word == name || (word == other_name && !word.empty());
+    });
+  }
+};
+
+constexpr Noun kNouns[] = {
+    {"init", AddInitVerb},          {"service", AddServiceVerbs},      {"user", AddUserVerbs},
+    {"entry", AddEntryVerbs},       {"response", AddResponseVerbs},    {"manager", AddManagerVerbs},
+    {"modem", AddModemVerbs},       {"modem-type", AddModemTypeVerbs}, {"location", AddLocationVerbs},
+    {"rules", AddRulesVerbs},       {"provider", AddProviderVerbs},    {"snmp-manager", AddSnmpManagerVerbs},
+    {"computer", AddComputerVerbs}, {"config", AddConfigVerbs},        {"backup", AddBackupVerbs, "restore"}};
+
+void DescribeRoot(Verbs& verbs) {
   verbs.Root().name("alertctl")->description("Sets up and shows how alerts reach people.");
   verbs.Root().require_subcommand(1)->footer(kFooter);
   verbs.Root().set_version_flag("--version", std::string("alertctl ") + ALERTING_VERSION);
-  for (const auto add :
-       {AddInitVerb, AddServiceVerbs, AddUserVerbs, AddEntryVerbs, AddResponseVerbs, AddManagerVerbs,
-        AddModemVerbs, AddModemTypeVerbs, AddLocationVerbs, AddRulesVerbs, AddProviderVerbs,
-        AddSnmpManagerVerbs, AddComputerVerbs, AddConfigVerbs, AddBackupVerbs})
-    add(verbs);
+}
+
+}  // namespace
+
+void AddAllVerbs(Verbs& verbs) {
+  DescribeRoot(verbs);
+  for (const Noun& noun : kNouns) noun.add(verbs);
+}
+
+void AddVerbsNamedIn(Verbs& verbs, std::span<const char* const> words) {
+  DescribeRoot(verbs);
+  for (const Noun& noun : kNouns)
+    if (noun.IsAmong(words)) noun.add(verbs);
 }
 
 }  // namespace alertctl

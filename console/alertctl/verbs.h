@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <nlohmann/json.hpp>
+#include <span>
 #include <string>
 
 #include "console/site/failure.h"
@@ -84,6 +85,8 @@ inline const CLI::Validator kNotEmpty([](std::string& value) { return value.empt
 
 /// The whole command line, with what stands above and below its list of verbs. Nothing is read or made.
 void AddAllVerbs(Verbs& verbs);
+/// Adds only the verbs whose noun is one of `words`: making all of them takes longer than most of them run.
+void AddVerbsNamedIn(Verbs& verbs, std::span<const char* const> words);
 
 void AddInitVerb(Verbs& verbs);
 void AddServiceVerbs(Verbs& verbs);

@@ -55,6 +55,22 @@ std::vector<std::string> InOrder(std::vector<std::string> verbs) {
   return verbs;
 }
 
+// Only the verbs of the words that were typed are made: none may be missed, and no other word may change what is meant.
+TEST_F(AlertctlTest, WordsThatAreNounsElsewhereChangeNothing) {
+  for (const std::string& verb : Verbs()) {
+    const std::string noun = verb.substr(0, verb.find(' '));
+    CLI::App app;
+    alertctl::Verbs verbs(app);
+    const char* const words[] = {"alertctl", noun.c_str()};
+    alertctl::AddVerbsNamedIn(verbs, words);
+    EXPECT_NO_THROW(app.get_subcommand(noun)) << noun;
+  }
+  EXPECT_THAT(Run({"frob"}).err, HasSubstr("choose one of init, service, user,"));
+  EXPECT_THAT(Run({"--data", "user", "frob"}).err, HasSubstr("choose one of init, service, user,"));
+  EXPECT_THAT(Run({"restore", "backup"}).err, HasSubstr("cannot restore the backup backup"));
+  EXPECT_THAT(RunLine(Quoted(ALERTCTL) + " --help").out, HasSubstr("snmp-manager"));
+}
+
 // In an order in which each verb finds what its examples speak of.
 TEST_F(AlertctlTest, EveryExampleWorksAsItIsPrinted) {
   const std::string program = ALERTCTL;
