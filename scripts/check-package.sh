@@ -29,7 +29,7 @@ mirror=${mirror:-http://deb.debian.org/debian}
 work=$(mktemp -d "${TMPDIR:-/tmp}/alerting-package.XXXXXX")
 root=$work/root
 clean_up() {
-  for mount in dev proc; do umount "$root/$mount" 2>/dev/null || true; done
+  for mount in dev/pts dev proc; do umount "$root/$mount" 2>/dev/null || true; done
   rm -rf --one-file-system "$work"
 }
 trap clean_up EXIT
@@ -44,7 +44,7 @@ lintian --allow-root --fail-on error --tag-display-limit 0 "$work"/packages/*.de
 step "a fresh root from $mirror"
 debootstrap --variant=minbase --include=man-db "$suite" "$root" "$mirror" >"$work/debootstrap.log" 2>&1 ||
   { tail -5 "$work/debootstrap.log"; skip "no root can be made from $mirror"; }
-mount --bind /dev "$root/dev" && mount -t proc proc "$root/proc" || skip "nothing can be mounted here"
+mount --bind /dev "$root/dev" && mount --bind /dev/pts "$root/dev/pts" && mount -t proc proc "$root/proc" || skip "nothing can be mounted here"
 cp /etc/resolv.conf "$root/etc/resolv.conf"
 inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8 "$@"; }
 as_user() { inside runuser -u admin-of-site -- env HOME=/home/admin-of-site "$@"; }
