@@ -3,10 +3,10 @@
 
 #include <limits>
 
+#include "platform/base/json_object.h"
+
 namespace alertserver {
 namespace {
-
-constexpr int kMaxDepth = 16;
 
 const Json* Find(const Json& object, const char* member) {
   if (!object.is_object()) return nullptr;
@@ -48,15 +48,7 @@ const Json& ObjectOf(const Json& object, const char* member) {
   return found != nullptr && found->is_object() ? *found : none;
 }
 
-Json ParseObject(const std::string& text) {
-  bool too_deep = false;
-  const auto watch = [&too_deep](int depth, Json::parse_event_t, Json&) {
-    too_deep = too_deep || depth > kMaxDepth;
-    return !too_deep;
-  };
-  Json file = Json::parse(text, watch, false);
-  return !too_deep && file.is_object() ? file : Json();
-}
+Json ParseObject(const std::string& text) { return platform::ParseJsonObject<Json>(text); }
 
 std::string DumpJson(const Json& file) {
   return file.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";

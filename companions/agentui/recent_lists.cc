@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/base/atomic_write.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace agentui {
@@ -18,8 +19,9 @@ std::string FilePath() { return platform::DataDirectory() + "/recent.json"; }
 Json ReadFile() {
   std::string bytes;
   if (!platform::ReadWholeFile(FilePath(), bytes)) return Json::object();
-  Json file = Json::parse(bytes, nullptr, false);
-  return file.is_object() ? file : Json::object();
+  Json file = platform::ParseJsonObject<Json>(bytes);
+  if (!file.is_object()) return Json::object();
+  return file;
 }
 
 std::vector<std::string> EntriesOf(const Json& file, const std::string& list) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "companions/agentui/spool.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace agentui {
@@ -63,12 +64,6 @@ Json ToJson(const std::vector<Report::Step>& steps) {
   return list;
 }
 
-Report Unreadable(const std::string& path) {
-  Report report;
-  report.explanation = "The report of this test is missing, damaged or not one of these: " + path + ".";
-  return report;
-}
-
 std::string Joined(const std::vector<std::string>& names) {
   std::string text;
   for (const std::string& name : names) text += (text.empty() ? "" : ", ") + name;
@@ -77,25 +72,32 @@ std::string Joined(const std::vector<std::string>& names) {
 
 }  // namespace
 
-Report ReadReport(const std::string& path, std::uint32_t job) {
-  std::string bytes;
-  platform::ReadWholeFile(path, bytes);
-  const Json file = Json::parse(bytes, nullptr, false);
+std::optional<Report> ParseReport(const std::string& text, std::uint32_t job) {
+  const Json file = platform::ParseJsonObject<Json>(text);
   if (!file.is_object() || NumberOf(file, "version") != 1 || NumberOf(file, "job") != job)
-    return Unreadable(path);
+    return std::nullopt;
   const Verdict verdict = VerdictOf(file);
-  if (verdict == Verdict::kUnreadable) return Unreadable(path);
-  return {verdict,
-          TextOf(file, "explanation"),
-          TextOf(file, "manager"),
-          TextOf(file, "started"),
-          TextOf(file, "ended"),
-          StepsOf(file),
-          TextOf(file, "transcript"),
-          TextOf(file, "field")};
+  if (verdict == Verdict::kUnreadable) return std::nullopt;
+  return Report{verdict,
+                TextOf(file, "explanation"),
+                TextOf(file, "manager"),
+                TextOf(file, "started"),
+                TextOf(file, "ended"),
+                StepsOf(file),
+                TextOf(file, "transcript"),
+                TextOf(file, "field")};
 }
 
-bool WriteReport(const std::string& path, std::uint32_t job, const Report& report) {
+Report ReadReport(const std::string& path, std::uint32_t job) {
+  std::string text;
+  platform::ReadWholeFile(path, text);
+  if (auto report = ParseReport(text, job)) return std::move(*report);
+  Report unreadable;
+  unreadable.explanation = "The report of this test is missing, damaged or not one of these: " + path + ".";
+  return unreadable;
+}
+
+std::string ReportFileText(std::uint32_t job, const Report& report) {
   const Json file = {{"version", 1},
                      {"job", job},
                      {"verdict", WordOf(report.verdict)},
@@ -106,7 +108,11 @@ bool WriteReport(const std::string& path, std::uint32_t job, const Report& repor
                      {"steps", ToJson(report.steps)},
                      {"transcript", report.transcript},
                      {"field", report.field}};
-  return WriteSpoolFile(path, file.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+  return file.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+bool WriteReport(const std::string& path, std::uint32_t job, const Report& report) {
+  return WriteSpoolFile(path, ReportFileText(job, report));
 }
 
 Report UnansweredReport(const std::vector<std::string>& managers) {

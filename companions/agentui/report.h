@@ -26,6 +26,7 @@ struct Report {
     std::string name, result;
     std::uint64_t milliseconds = 0;
     std::string said;  ///< the other side's answer
+    bool operator==(const Step&) const = default;
   };
 
   Verdict verdict = Verdict::kUnreadable;
@@ -35,12 +36,19 @@ struct Report {
   std::vector<Step> steps;
   std::string transcript;
   std::string field;  ///< what to correct, as the configuration file names it; "" for nothing
+
+  bool operator==(const Report&) const = default;
 };
 
 /// Reads a report's file. What is no report of that job gives one that says so, in `explanation`; a member of another
 /// kind than it should be counts as absent.
 Report ReadReport(const std::string& path, std::uint32_t job);
 
+/// The same from the file's text; nothing for what is no report of that job.
+std::optional<Report> ParseReport(const std::string& text, std::uint32_t job);
+
+/// A report as its file has it. Bytes that are no UTF-8 become U+FFFD.
+std::string ReportFileText(std::uint32_t job, const Report& report);
 /// True when the file is in place.
 bool WriteReport(const std::string& path, std::uint32_t job, const Report& report);
 

@@ -5,6 +5,7 @@
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
 #include "console/alertctl/verbs.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace alertctl {
@@ -14,8 +15,6 @@ constexpr char kWriteExamples[] = "  alertctl config write";
 constexpr char kShowExamples[] =
     "  alertctl config show\n"
     "  alertctl config show --json | jq '.alertManagers[].name'";
-
-constexpr int kMaxDepth = 32;
 
 std::string FilePath() { return platform::DataDirectory() + "/" + dbconfig::kConfigFileName; }
 
@@ -54,20 +53,8 @@ std::string FileBytes() {
   throw Failure(kNothingMatched, "there is no " + FilePath() + ": \"alertctl config write\" writes it");
 }
 
-/// The document; no object when it is damaged, or nested deeper than any that is written here: what walks it would run
-/// out of stack.
-Json ParseShallow(const std::string& bytes) {
-  bool too_deep = false;
-  const auto is_shallow = [&](int depth, Json::parse_event_t, Json&) {
-    too_deep = too_deep || depth > kMaxDepth;
-    return !too_deep;
-  };
-  Json document = Json::parse(bytes, is_shallow, false);
-  return too_deep ? Json() : document;
-}
-
 Result Show() {
-  Json document = ParseShallow(FileBytes());
+  Json document = platform::ParseJsonObject<Json>(FileBytes());
   if (!document.is_object())
     throw Failure(kInvalid, FilePath() + " is damaged: \"alertctl config write\" writes it anew");
   if (document.value("format", Json()) != "alerting-configuration" || document.value("version", Json()) != 1)

@@ -12,6 +12,7 @@
 #include "console/alertctl/site.h"
 #include "console/alertctl/text.h"
 #include "platform/base/host_name.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace alertctl {
@@ -122,7 +123,7 @@ std::string WaitForReport(std::uint32_t test) {
 }
 
 Result Reported(std::uint32_t test) {
-  const Json report = Json::parse(WaitForReport(test), nullptr, false);
+  const Json report = platform::ParseJsonObject<Json>(WaitForReport(test));
   const Report read = agentui::ReadReport(agentui::ReportPath(agentui::SpoolDirectory(), test), test);
   return {report.is_object() ? report : Json{{"verdict", "unreadable"}}, agentui::ReportText(read),
           CodeOf(read.verdict)};

@@ -2,6 +2,7 @@
 #include "console/site/console_settings.h"
 
 #include "platform/base/atomic_write.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 #include "platform/base/process_lock.h"
 
@@ -17,8 +18,9 @@ std::string SettingsFile() { return platform::DataDirectory() + "/console.json";
 Json ReadConsoleSettings() {
   std::string bytes;
   if (!platform::ReadWholeFile(SettingsFile(), bytes)) return Json::object();
-  Json settings = Json::parse(bytes, nullptr, false);
-  return settings.is_object() ? settings : Json::object();
+  Json settings = platform::ParseJsonObject<Json>(bytes);
+  if (!settings.is_object()) return Json::object();
+  return settings;
 }
 
 std::string WriteConsoleSetting(const std::string& name, const Json& value) {

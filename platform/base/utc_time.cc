@@ -8,6 +8,13 @@ namespace platform {
 
 using std::chrono::milliseconds;
 
+namespace {
+
+/// The clock counts nanoseconds and has no number for years behind 2262. What is added to a time has room below that.
+constexpr std::chrono::seconds kYear2200(7258118400);
+
+}  // namespace
+
 std::string ToUtcText(UtcTime time) {
   const auto second = std::chrono::floor<std::chrono::seconds>(time);
   const std::time_t seconds = std::chrono::system_clock::to_time_t(second);
@@ -27,7 +34,9 @@ std::optional<UtcTime> ParseUtcText(const std::string& text) {
   int thousandths = 0, read = 0;
   if (*rest == '.' && std::sscanf(rest, ".%3d%n", &thousandths, &read) == 1 && read == 4) rest += read;
   if (std::string(rest) != "Z" || thousandths < 0) return std::nullopt;
-  return std::chrono::system_clock::from_time_t(timegm(&fields)) + milliseconds(thousandths);
+  const std::chrono::seconds seconds(timegm(&fields));
+  if (seconds < std::chrono::seconds(0) || seconds >= kYear2200) return std::nullopt;
+  return UtcTime(seconds) + milliseconds(thousandths);
 }
 
 }  // namespace platform

@@ -58,8 +58,11 @@ TEST_F(AgentUiTest, AListHoldsTwentyEntries) {
 }
 
 TEST_F(AgentUiTest, ADamagedFileCountsAsEmptyAndIsReplaced) {
-  const char* const damaged[] = {"", "{\"addresses\": [\"a\"", "[1, 2]", "{\"addresses\": 7}", "\xFF\xFE"};
-  for (const char* bytes : damaged) {
+  // The last is nested deeper than the stack of whoever writes it again has room for.
+  const std::string deep = std::string(50'000, '[') + std::string(50'000, ']');
+  const std::string damaged[] = {"",         "{\"addresses\": [\"a\"",  "[1, 2]", "{\"addresses\": 7}",
+                                 "\xFF\xFE", "{\"more\": " + deep + "}"};
+  for (const std::string& bytes : damaged) {
     WriteListFile(bytes);
     EXPECT_THAT(agentui::RecentEntries(agentui::kAddresses), IsEmpty()) << bytes;
     component_->AddIPAddressToMRUList("new");

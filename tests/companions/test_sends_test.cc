@@ -327,14 +327,17 @@ TEST_F(TestSendsTest, WhatKeepsATestFromBeingSentIsToldInItsReport) {
 }
 
 TEST_F(TestSendsTest, ADamagedReportSaysSo) {
-  const char* const damaged[] = {"",
+  // The last is nested deeper than the stack of whoever writes it again has room for.
+  const std::string deep = std::string(50'000, '[') + std::string(50'000, ']');
+  const std::string damaged[] = {"",
                                  "{\"version\": 1",
                                  "[]",
                                  "{\"version\": 2, \"job\": 7, \"verdict\": \"failed\"}",
                                  "{\"version\": 1, \"job\": 8, \"verdict\": \"failed\"}",
                                  "{\"version\": 1, \"job\": 7, \"verdict\": \"well\"}",
-                                 "\xFF"};
-  for (const char* bytes : damaged) {
+                                 "\xFF",
+                                 R"({"version": 1, "job": 7, "verdict": "sent", "more": )" + deep + "}"};
+  for (const std::string& bytes : damaged) {
     Lay("7.report.json", hours(0), bytes);
     EXPECT_THAT(ShownFor(7), HasSubstr("The report of the test cannot be read.")) << bytes;
   }
