@@ -84,7 +84,7 @@ void Laboratory::AddControl() {
   if (isatty(STDIN_FILENO) == 0 && fcntl(STDIN_FILENO, F_GETFL) == -1) return;
   const auto show = [](const std::string& text) { WriteAll(STDERR_FILENO, text); };
   loop_.Add(std::make_unique<ControlInput>(
-      faults_, [this] { loop_.Stop(); }, show));
+      faults_, [this] { loop_.Stop(); }, show, options_.end_with_input));
 }
 
 std::string Laboratory::TellReady() {

@@ -39,6 +39,7 @@ void AddOutput(CLI::App& app, Options& options) {
   app.add_option("--keep", options.keep, "Append what arrives to a file, as JSON");
   app.add_option("--ready-file", options.ready_file,
                  "Write ports and paths there, as JSON, when all are open");
+  app.add_flag("--end-with-input", options.end_with_input, "End when standard input ends");
 }
 
 void Settle(Options& options) {

@@ -14,6 +14,7 @@ namespace lab {
 struct Options {
   int mail_port = 0, trap_port = 0;  ///< 0 for any that is free
   bool json = false, hurry = false;
+  bool end_with_input = false;  ///< for a program that started it: it is not to outlive that one
   std::string keep, ready_file;
   std::vector<std::string> faults;
   MailSetup mail;

@@ -7,12 +7,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <filesystem>
 
 #include "platform/base/host_name.h"
 #include "platform/base/presence.h"
 #include "platform/base/private_file.h"
+#include "platform/base/sibling_program.h"
 #include "platform/base/utf8.h"
 
 namespace agentui {
@@ -24,13 +23,6 @@ std::string OwnNameIn(const std::vector<std::string>& managers) {
   const auto own = std::ranges::find_if(
       managers, [&](const std::string& name) { return platform::EqualIgnoringCase(name, host); });
   return own != managers.end() ? *own : "";
-}
-
-std::string ProgramPath() {
-  if (const char* named = std::getenv("ALERTING_SERVER"); named != nullptr && *named != '\0') return named;
-  std::error_code error;
-  const auto beside = std::filesystem::read_symlink("/proc/self/exe", error).parent_path() / "alertserver";
-  return !error && access(beside.c_str(), X_OK) == 0 ? beside.string() : "alertserver";
 }
 
 /// What the server reads, says and holds open is not this program's, nor is it a key press that ends this program.
@@ -58,8 +50,9 @@ pid_t Spawn(std::vector<std::string> words) {
 void StartedServers::StartWhereNeeded(const std::string& spool, const Job& job) {
   const std::string manager = OwnNameIn(job.managers);
   if (manager.empty() || platform::IsPresent(spool + "/server.lock", manager)) return;
-  const pid_t child = Spawn({ProgramPath(), "--data", platform::ParentOf(spool), "--manager", manager,
-                             "--once", std::to_string(job.number)});
+  const pid_t child =
+      Spawn({platform::SiblingProgram("alertserver", "ALERTING_SERVER"), "--data", platform::ParentOf(spool),
+             "--manager", manager, "--once", std::to_string(job.number)});
   if (child > 0) running_.push_back(child);
 }
 

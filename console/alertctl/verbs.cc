@@ -10,6 +10,7 @@
 #include "console/alertctl/dry_run.h"
 #include "console/alertctl/output.h"
 #include "console/site/data_directory.h"
+#include "console/site/laboratory_file.h"
 
 namespace alertctl {
 namespace {
@@ -27,6 +28,15 @@ void WarnOfLeftOut() {
   if (!left_out.empty())
     PrintError("the data are damaged: " + left_out +
                "; put a backup in their place (\"alertctl restore FILE\")");
+}
+
+/// What is shown, copied or tested then is not the site's own.
+void WarnOfLaboratory() {
+  if (site::LaboratoryIsRemembered())
+    PrintError(
+        "this site is pointed at the laboratory of a console, and tests go there: stop it in that console, "
+        "or "
+        "start the console where none runs, and the site's own values are put back");
 }
 
 }  // namespace
@@ -123,6 +133,7 @@ int Verbs::Run() {
   try {
     const Result result = RunAction();
     WarnOfLeftOut();
+    if (access_ != Access::kFile) WarnOfLaboratory();
     if (PrintOut(json_ ? JsonText(result.json) : Printable(result.text, true))) return result.code;
     PrintError("cannot write the output: " + LastOutputError() + "; what was asked for is done");
     return kStoreFailure;

@@ -28,19 +28,19 @@ std::string Now() {
   return text.substr(0, 10) + " " + text.substr(11, 5) + " UTC";
 }
 
-std::string MarkFile(const platform::GUID& service) {
+std::string MarkFile(const std::string& name, platform::FileError& problem) {
   const std::string directory = platform::DataDirectory() + "/open";
-  platform::FileError unusable;
-  return platform::PreparePrivateDirectory(directory, unusable) ? directory + "/" + service.ToString() : "";
+  return platform::PreparePrivateDirectory(directory, problem) ? directory + "/" + name : "";
 }
 
 }  // namespace
 
-OpenMark::OpenMark(const platform::GUID& service) : path_(MarkFile(service)) {
+OpenMark::OpenMark(const std::string& name) : path_(MarkFile(name, problem_)) {
   if (path_.empty()) return;
   lock_ = std::make_unique<platform::ProcessLock>(path_ + ".lock", kDoNotWait);
   if (lock_->Outcome() == platform::LockOutcome::kTimeout) other_ = ReadHolder();
   if (lock_->Outcome() == platform::LockOutcome::kHeld) WriteHolder();
+  if (lock_->Outcome() == platform::LockOutcome::kUnusable) problem_ = lock_->Error();
 }
 
 OpenMark::~OpenMark() = default;

@@ -91,7 +91,10 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   restoreGeometry(settings.value("window").toByteArray());
   for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->Recall(settings);
   auto* look = new QTimer(this);
-  connect(look, &QTimer::timeout, this, [this] { LookForChanges(); });
+  connect(look, &QTimer::timeout, this, [this] {
+    LookForChanges();
+    LookAfterLaboratory();
+  });
   look->start(kLookEvery);
   ShowPageCommands();
 }
@@ -99,6 +102,7 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
 MainWindow::~MainWindow() { as_owner_.SetObserver(nullptr); }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  EndLaboratory();
   QSettings settings;
   settings.setValue("window", saveGeometry());
   for (int i = 0; i < tabs_->count(); ++i) static_cast<Page*>(tabs_->widget(i))->Remember(settings);
@@ -139,6 +143,7 @@ QIcon MainWindow::IconOf(std::uint32_t record_type) const {
 }
 
 void MainWindow::ReadSite() {
+  if (!std::exchange(looked_for_laboratory_, true) && site::LaboratoryIsRemembered()) PutLaboratoryBack();
   if (!library_.Reopen()) return ShowProblem(StoresCannotBeOpened());
   if (const alertstore::Status status = site::ReadOverview(site_); status != alertstore::kOk)
     return ShowProblem("The site cannot be read: " + site::FailureText("read the records", status) + ".");
@@ -219,6 +224,7 @@ void MainWindow::ShowNotices() {
                          "as it was before%1.")
                           .arg(why),
                 tr("Tell &Them Now"), [this] { TellManagers(); });
+  ShowLaboratoryNotice();
   const std::string left_out = LeftOutNote();
   notices_->Set(Notices::kLeftOut,
                 left_out.empty() ? QString() : tr("The data are damaged: %1.").arg(ToQt(left_out)));
@@ -243,7 +249,9 @@ void MainWindow::TellManagers() {
 }
 
 void MainWindow::LookForChanges() {
-  if (!busy_ && changes_.Changed()) Refresh();
+  if (busy_) return;
+  const bool was_pointed = std::exchange(pointed_, site::LaboratoryIsRemembered());
+  if (changes_.Changed() || pointed_ != was_pointed) Refresh();
 }
 
 void MainWindow::Refresh() {

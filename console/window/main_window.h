@@ -6,6 +6,7 @@
 #include <map>
 
 #include "companions/alertstore/change_watch.h"
+#include "console/site/laboratory.h"
 #include "console/site/managers_file.h"
 #include "console/window/page.h"
 #include "desktops/qt/control_adapter.h"
@@ -19,6 +20,7 @@ class QToolBar;
 namespace alertconsole {
 
 class GuideWindow;
+class LaboratoryWindow;
 class Notices;
 class ServicesPage;
 class StartPage;
@@ -39,6 +41,7 @@ class MainWindow : public QMainWindow,
   void LookForChanges();
   /// Opens the properties of a service, as its row does.
   void OpenSheet(const platform::GUID& service);
+  LaboratoryWindow& ShowLaboratory();
 
   /// Brings each view to the front with its first row chosen and shows `visit` each command that can then be given, and
   /// those of the Tools menu.
@@ -79,12 +82,23 @@ class MainWindow : public QMainWindow,
   void Refresh();
   void EditRules();
   void ShowGuide();
+  void StartLaboratory();
+  void StopLaboratory();
+  void PutLaboratoryBack();
+  void LookAfterLaboratory();
+  void EndLaboratory();
+  void ShowLaboratoryNotice();
 
   const site::LibraryCalls& library_;
   platform::ui::Window as_owner_;
   site::Overview site_;
   site::ManagersFile managers_file_;
   alertstore::ChangeWatch changes_;
+  site::Laboratory laboratory_;
+  std::string laboratory_note_;         ///< what a person has to know of an earlier one
+  bool looked_for_laboratory_ = false;  ///< that a console left which was ended early
+  bool pointed_ = false;                ///< at a laboratory, when that was last looked at
+  bool laboratory_ended_ = false;       ///< by itself, which was seen
   QPixmap icon_strip_;
   std::map<std::uint32_t, QIcon> icons_;  ///< by record type
   QStackedWidget* front_;                 ///< the views, or what stands in their place
@@ -97,6 +111,7 @@ class MainWindow : public QMainWindow,
   QToolBar* bar_ = nullptr;
   QLabel *summary_, *said_;
   GuideWindow* guide_ = nullptr;
+  LaboratoryWindow* laboratory_window_ = nullptr;
   bool loaded_ = false;  ///< the services, once
   bool busy_ = false;    ///< while a person works in a window that is modal to this one
 };

@@ -115,6 +115,7 @@ void MainWindow::MakeTools(QMenu& menu) {
   menu.addAction(tr("&Computers..."), this, [this] {
     Do([this] { return hosts::EditComputers(&as_owner_) ? Outcome::kStored : Outcome::kNothing; }, {});
   });
+  menu.addAction(tr("&Laboratory"), this, [this] { ShowLaboratory(); });
 }
 
 void MainWindow::EditRules() {

@@ -14,7 +14,7 @@ namespace alertconsole {
 /// What a person has to know for as long as it holds, above everything else in the window.
 class Notices : public QWidget {
  public:
-  enum Kind { kNotTold, kLeftOut, kReadOnly, kNoResources };
+  enum Kind { kNotTold, kLaboratory, kLeftOut, kReadOnly, kNoResources };
 
   explicit Notices(QWidget* parent);
 

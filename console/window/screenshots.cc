@@ -6,6 +6,7 @@
 
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
+#include "console/window/laboratory_window.h"
 #include "console/window/library.h"
 #include "console/window/main_window.h"
 #include "console/window/tour.h"
@@ -88,6 +89,7 @@ int WriteScreenshots(AlertingLibrary& library, const QString& folder) {
   if (!VisitSheets(site::Overview(window.Site()), window, tour))
     pictures.Fail("there are no services; run \"alertctl init\"");
   VisitCommands(window, tour);
+  tour.Look(window.ShowLaboratory(), "laboratory");
   VisitDialogs(library, tour);
   return pictures.failed ? 1 : 0;
 }

@@ -41,6 +41,7 @@ void ControlInput::Ready(short, Millis) {
   const ssize_t count = read(0, bytes, sizeof bytes);
   if (count < 0 && (errno == EAGAIN || errno == EINTR)) return;
   is_at_end_ = count <= 0;
+  if (is_at_end_ && end_with_input_) return quit_();
   std::string_view rest(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
   while (!rest.empty()) {
     const auto line = lines_.Take(rest);

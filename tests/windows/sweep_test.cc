@@ -18,6 +18,7 @@
 #include "companions/agentui/results_dialog.h"
 #include "companions/ctxhelp/help_pages.h"
 #include "companions/ctxhelp/help_texts.h"
+#include "console/window/laboratory_window.h"
 #include "console/window/main_window.h"
 #include "console/window/samples.h"
 #include "console/window/tour.h"
@@ -147,6 +148,7 @@ void VisitConsole(alertconsole::Tour& tour) {
     if (page != std::exchange(last, page)) tour.Look(window, page);
     if (command.text().endsWith("...")) tour.Visit(page + " " + command.text(), [&] { command.trigger(); });
   });
+  tour.Look(window.ShowLaboratory(), "Laboratory");
   EXPECT_EQ(last, "Tools") << "not all views were come by";
 }
 
