@@ -29,12 +29,9 @@ enum Column { kFirst, kSecond, kThird };
 struct Device {
   const char *name, *title;
 };
-constexpr Device kDevices[] = {{"mail", "Mail server"},
-                               {"traps", "Receiver of traps"},
-                               {"modem", "Modem on COM1"},
-                               {"backup-modem", "Modem on COM2"},
-                               {"pager", "Pager terminal on COM3, and behind the modems"},
-                               {"printer", "Printer on COM4"}};
+constexpr Device kDevices[] = {
+    {"mail", "Mail server"},           {"traps", "Receiver of traps"},      {"modem", "Modem on COM1"},
+    {"backup-modem", "Modem on COM2"}, {"pager", "Pager terminal on COM3"}, {"printer", "Printer on COM4"}};
 
 QString TitleOf(const QString& name) {
   for (const Device& device : kDevices)
@@ -48,8 +45,13 @@ QString PlaceOf(const Json& places, const char* device) {
   return place.contains("port") ? QString("127.0.0.1:%1").arg(place["port"].get<int>()) : QString();
 }
 
+/// The members of a list with commas between them.
 QString ValueText(const Json& value) {
-  return value.is_string() ? ToQt(value.get<std::string>()) : ToQt(value.dump());
+  if (value.is_string()) return ToQt(value.get<std::string>()).trimmed();
+  QStringList members;
+  if (value.is_array() && !value.empty() && value.front().is_string())
+    for (const Json& member : value) members << ValueText(member);
+  return members.isEmpty() ? ToQt(value.dump()) : members.join(", ");
 }
 
 QString LocalTime(const Json& arrival) {
@@ -78,6 +80,7 @@ QString WholeText(const Json& arrival) {
   for (const auto& [name, value] : arrival.items()) {
     if (!IsDetail(name)) continue;
     const QString text = ValueText(value);
+    if (text.isEmpty()) continue;
     whole += ToQt(name) + (text.contains('\n') ? ":\n" + text + "\n" : ": " + text + "\n");
   }
   return whole;
@@ -96,12 +99,7 @@ QTreeWidget* MakeTable(QWidget* parent, const QString& name, const QStringList& 
 
 LaboratoryWindow::LaboratoryWindow(site::Laboratory& laboratory, std::function<void()> start,
                                    std::function<void()> stop, QWidget* parent)
-    : QDialog(parent),
-      laboratory_(laboratory),
-      state_(new QLabel(this)),
-      start_(new QPushButton(tr("&Start"), this)),
-      stop_(new QPushButton(tr("S&top"), this)),
-      close_(new QPushButton(tr("Close"), this)) {
+    : QDialog(parent), laboratory_(laboratory), state_(new QLabel(this)) {
   setWindowTitle(tr("Laboratory"));
   auto* about = new QLabel(
       tr("The laboratory pretends what alerts are sent to: a mail server, a receiver of traps, modems with "
@@ -111,13 +109,19 @@ LaboratoryWindow::LaboratoryWindow(site::Laboratory& laboratory, std::function<v
       this);
   about->setWordWrap(true);
   state_->setWordWrap(true);
-  MakeDevices();
+  MakeDevices();  // Tab goes through all in the order in which they are made
   MakeArrivals();
-  connect(start_, &QPushButton::clicked, this, std::move(start));
-  connect(stop_, &QPushButton::clicked, this, std::move(stop));
-  connect(close_, &QPushButton::clicked, this, &QDialog::close);
+  start_ = MakeButton(tr("&Start"), std::move(start));
+  stop_ = MakeButton(tr("S&top"), std::move(stop));
+  close_ = MakeButton(tr("Close"), [this] { close(); });
   LayOut(about);
   ShowState();
+}
+
+QPushButton* LaboratoryWindow::MakeButton(const QString& text, std::function<void()> press) {
+  auto* button = new QPushButton(text, this);
+  connect(button, &QPushButton::clicked, this, std::move(press));
+  return button;
 }
 
 void LaboratoryWindow::MakeDevices() {
@@ -126,6 +130,9 @@ void LaboratoryWindow::MakeDevices() {
     auto* row = new QTreeWidgetItem(devices_, {tr(device.title)});
     row->setData(kFirst, Qt::UserRole, device.name);
   }
+  devices_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  devices_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  devices_->setCurrentItem(devices_->topLevelItem(0));
   fault_ = new QComboBox(this);
   fault_->setAccessibleName(tr("Fault of the chosen device"));
   connect(devices_, &QTreeWidget::currentItemChanged, this, [this] { ShowFaults(); });
@@ -154,20 +161,14 @@ void LaboratoryWindow::LayOut(QLabel* about) {
   auto* column = new QVBoxLayout(this);
   column->addWidget(about);
   column->addWidget(state_);
-  column->addWidget(devices_, 2);
+  column->addWidget(devices_);
   column->addLayout(fault_line);
   column->addWidget(arrivals_, 3);
-  column->addWidget(text_, 2);
+  column->addWidget(text_, 3);
   column->addLayout(buttons);
-  QWidget* before = nullptr;
-  for (QWidget* next :
-       std::initializer_list<QWidget*>{devices_, fault_, arrivals_, text_, start_, stop_, close_}) {
-    if (before != nullptr) setTabOrder(before, next);
-    before = next;
-  }
   const int letter = fontMetrics().averageCharWidth();
   resize(letter * kWidthInLetters, fontMetrics().lineSpacing() * kHeightInLines);
-  devices_->setColumnWidth(kFirst, letter * 50);
+  devices_->setColumnWidth(kFirst, letter * 36);
   devices_->setColumnWidth(kSecond, letter * 22);
   arrivals_->setColumnWidth(kFirst, letter * 12);
   arrivals_->setColumnWidth(kSecond, letter * 22);
@@ -190,6 +191,7 @@ void LaboratoryWindow::ShowState() {
   start_->setEnabled(!runs);
   stop_->setEnabled(runs);
   (runs ? close_ : start_)->setDefault(true);
+  runs ? devices_->setFocus() : start_->setFocus();  // else Enter would press the other of the two
   for (int i = 0; i < devices_->topLevelItemCount(); ++i) {
     QTreeWidgetItem& row = *devices_->topLevelItem(i);
     row.setText(kSecond, runs ? PlaceOf(process->Places(), kDevices[i].name) : QString());

@@ -28,6 +28,7 @@ class LaboratoryWindow : public QDialog {
   void ShowState();
 
  private:
+  QPushButton* MakeButton(const QString& text, std::function<void()> press);
   void MakeDevices();
   void MakeArrivals();
   void LayOut(QLabel* about);

@@ -171,7 +171,7 @@ TEST_F(LaboratoryTest, ComesBackFromBetweenAnyTwoSteps) {
   EXPECT_FALSE(IsPointed());
 }
 
-/// Fails one call of the stores after the other, in steps of three, until there are no more.
+/// Fails one call of the stores after the other, in steps of seven, until there are no more.
 class FailingLaboratoryTest : public LaboratoryTest {
  protected:
   FailingLaboratoryTest() { SetEngine(engine_); }
@@ -180,7 +180,7 @@ class FailingLaboratoryTest : public LaboratoryTest {
   /// Answers how many calls failed.
   int FailEach(const std::function<void()>& work, const std::function<void(const std::string&)>& look) {
     int failed = 0;
-    for (int n = 1, before = -1; failed > before; n += 3) {
+    for (int n = 1, before = -1; failed > before; n += 7) {
       before = failed;
       engine_->FailNth(test_support::kAnyStore, test_support::StoreOp::kAny, n);
       const std::string complaint = Complaint(work);
@@ -204,7 +204,7 @@ TEST_F(FailingLaboratoryTest, AStartThatFailsLeavesNothingHalfDone) {
     if (laboratory_.Runs()) laboratory_.Stop();
     EXPECT_TRUE(Everything() == before) << at;
   };
-  EXPECT_GT(FailEach([&] { laboratory_.Start(); }, look), 20);
+  EXPECT_GT(FailEach([&] { laboratory_.Start(); }, look), 10);
 }
 
 TEST_F(FailingLaboratoryTest, AWayBackThatFailsIsGoneAgain) {
@@ -225,7 +225,7 @@ TEST_F(FailingLaboratoryTest, AWayBackThatFailsIsGoneAgain) {
     EXPECT_TRUE(Everything() == before) << at;
     point();
   };
-  EXPECT_GT(FailEach([] { site::PutBackLeftOver(); }, look), 20);
+  EXPECT_GT(FailEach([] { site::PutBackLeftOver(); }, look), 10);
 }
 
 TEST_F(LaboratoryTest, WhatSomebodyChoseMeanwhileStays) {
