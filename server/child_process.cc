@@ -194,7 +194,7 @@ void NoteOutput(const ChildResult& result, Transcript& transcript) {
   for (std::string line; std::getline(lines, line);) transcript.Received(line);
 }
 
-StepOutcome ChildFailure(const ChildResult& result, const std::string& what, const std::string& field) {
+StepOutcome ChildFailure(const ChildResult& result, const std::string& what, Field field) {
   const std::string first_line = result.output.substr(0, result.output.find('\n'));
   return StepOutcome::Failed(Verdict::kRefused, first_line, Ending(result, what), field);
 }

@@ -30,6 +30,6 @@ std::string FindProgram(const std::string& name);
 /// Puts the output into the transcript, line by line.
 void NoteOutput(const ChildResult& result, Transcript& transcript);
 /// A failed step that tells how the program ended. `what`: "player".
-StepOutcome ChildFailure(const ChildResult& result, const std::string& what, const std::string& field);
+StepOutcome ChildFailure(const ChildResult& result, const std::string& what, Field field);
 
 }  // namespace alertserver

@@ -30,7 +30,7 @@ Secrets SecretsOf(const Service& service, const Configuration& configuration) {
 }
 
 /// Why nothing can be sent through a service, whatever its type; "" where it can.
-std::string WhatIsMissing(const Service* service, std::string& field) {
+std::string WhatIsMissing(const Service* service, Field& field) {
   if (service == nullptr) return "The alert manager's configuration does not have the service.";
   const TransportRow* const row = FindTransport(service->type);
   if (row == nullptr)
@@ -38,7 +38,7 @@ std::string WhatIsMissing(const Service* service, std::string& field) {
   if (row->has_settings && !service->has_settings)
     return "The service's own record is missing: delete the service and make it anew.";
   if (service->enabled) return "";
-  field = "enabled";
+  field = Field::kEnabled;
   return "The service is switched off, so no alert goes through it.";
 }
 
@@ -127,9 +127,10 @@ DeliveryResult Deliver(const std::string& manager, Job& job, const Configuration
   FillJob(manager, settings, job);
   DeliveryResult result;
   const Service* const service = configuration.FindService(job.response.service);
-  if (std::string field, missing = WhatIsMissing(service, field); !missing.empty()) {
+  Field field = Field::kNothing;
+  if (const std::string missing = WhatIsMissing(service, field); !missing.empty()) {
     result.report = PlainReport(manager, Verdict::kNotPossible, missing);
-    result.report.field = field;
+    result.report.field = NameOf(field);
   } else {
     Tries tries(manager, job, *service, configuration, settings);
     result.report = tries.Run();

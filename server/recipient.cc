@@ -11,14 +11,15 @@ StepOutcome FindRecipient(const Context& context, std::string& address) {
   const User* const user = context.service.FindUser(context.job.response.user);
   if (user == nullptr)
     return StepOutcome::Failed(Verdict::kNotPossible, "",
-                               "The recipient has no entry on the service: add the user to it.", "address");
+                               "The recipient has no entry on the service: add the user to it.",
+                               Field::kAddress);
   if (user->address.empty())
     return StepOutcome::Failed(Verdict::kNotPossible, "",
-                               "The recipient's entry on the service has no address.", "address");
+                               "The recipient's entry on the service has no address.", Field::kAddress);
   if (!user->enabled)
     return StepOutcome::Failed(
         Verdict::kNotPossible, "",
-        "The recipient's entry on the service is switched off, so no alert goes there.", "userEnabled");
+        "The recipient's entry on the service is switched off, so no alert goes there.", Field::kUserEnabled);
   address = user->address;
   return StepOutcome::Done(user->name + ": " + address);
 }
@@ -45,7 +46,7 @@ Step CheckTargetStep(std::string what) {
                                        "Not possible from this server: " + what + " on its own machine, " +
                                            platform::HostName() + ", alone, and the target is " + target +
                                            ".",
-                                       "userName");
+                                       Field::kUserName);
           }};
 }
 

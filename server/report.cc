@@ -23,12 +23,15 @@ Json StepsJson(const std::vector<ReportStep>& steps) {
     list.push_back({{"name", step.name},
                     {"result", step.result},
                     {"milliseconds", step.milliseconds},
-                    {"said", step.said}});
+                    {"said", step.said},
+                    {"field", step.field},
+                    {"record", step.record}});
   return list;
 }
 
 ReportStep StepFrom(const Json& step) {
-  return {TextOf(step, "name"), TextOf(step, "result"), NumberOf(step, "milliseconds"), TextOf(step, "said")};
+  return {TextOf(step, "name"), TextOf(step, "result"), NumberOf(step, "milliseconds"),
+          TextOf(step, "said"), TextOf(step, "field"),  TextOf(step, "record")};
 }
 
 }  // namespace
@@ -37,7 +40,8 @@ void MaskReport(const Secrets& secrets, Report& report) {
   for (std::string* text : {&report.explanation, &report.transcript, &report.field})
     *text = secrets.Mask(std::move(*text));
   for (ReportStep& step : report.steps)
-    for (std::string* text : {&step.name, &step.result, &step.said}) *text = secrets.Mask(std::move(*text));
+    for (std::string* text : {&step.name, &step.result, &step.said, &step.field, &step.record})
+      *text = secrets.Mask(std::move(*text));
 }
 
 Json ToJson(const Report& report) {

@@ -12,11 +12,13 @@
 namespace alertserver {
 
 /// A row of a report: what was done, what came of it ("done", "failed", "not needed"), how long it took, and the answer
-/// of the other side.
+/// of the other side. A failed one also tells what to correct.
 struct ReportStep {
   std::string name, result;
   std::uint64_t milliseconds = 0;
   std::string said;
+  std::string field;   ///< as that of the report
+  std::string record;  ///< which of the field's list; "" where there is but one
 };
 
 /// What is told about a test. Members bear the names that they have in the report's file (docs/spool.md).

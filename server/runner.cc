@@ -26,6 +26,13 @@ const char* ResultText(Kind kind) {
   return kind == Kind::kDone ? "done" : kind == Kind::kNotNeeded ? "not needed" : "failed";
 }
 
+/// A modem's fields are those of the modem that was tried.
+std::string RecordOf(const StepOutcome& outcome, const Context& context) {
+  if (outcome.field == Field::kNothing) return {};
+  const bool is_modems = IsOfModem(outcome.field) && context.modem != nullptr;
+  return is_modems ? context.modem->modemName : outcome.record;
+}
+
 /// Puts together what the steps came to.
 class Tally {
  public:
@@ -47,7 +54,7 @@ class Tally {
   void Take(const StepOutcome& outcome) {
     result_.verdict = outcome.verdict;
     result_.explanation = outcome.explanation;
-    result_.field = outcome.field;
+    result_.field = NameOf(outcome.field);
   }
 
   RunResult result_;
@@ -64,9 +71,9 @@ RunResult RunSteps(const std::vector<Step>& steps, Context& context) {
     const auto started = Context::Clock::now();
     const StepOutcome outcome = Guarded(step, context);
     const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(Context::Clock::now() - started);
-    tally.Rows().steps.push_back({step.name, ResultText(outcome.kind),
-                                  static_cast<std::uint64_t>(taken.count()),
-                                  PlainLine(outcome.said, kMaxSaid)});
+    tally.Rows().steps.push_back(
+        {step.name, ResultText(outcome.kind), static_cast<std::uint64_t>(taken.count()),
+         PlainLine(outcome.said, kMaxSaid), std::string(NameOf(outcome.field)), RecordOf(outcome, context)});
     tally.Add(step, outcome);
   }
   return std::move(tally).Result();

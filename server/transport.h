@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "server/configuration.h"
+#include "server/field.h"
 #include "server/job.h"
 #include "server/settings.h"
 #include "server/verdict.h"
@@ -34,26 +35,32 @@ struct StepOutcome {
   Verdict verdict = Verdict::kNotReached;
   bool settles = false;  ///< `verdict` counts
   bool goes_on = false;  ///< the steps behind a failure are run all the same: they are about other receivers
-  std::string explanation;  ///< of a failure: what happened and what to do, in sentences
-  std::string field;        ///< of a failure: what to correct, as the configuration file names it
+  std::string explanation;        ///< of a failure: what happened and what to do, in sentences
+  Field field = Field::kNothing;  ///< of a failure: what to correct
+  std::string record;             ///< which of the field's list, as Of says
 
   static StepOutcome Done(std::string said = {}) {
-    return {Kind::kDone, std::move(said), {}, false, false, {}, {}};
+    return {Kind::kDone, std::move(said), {}, false, false, {}, {}, {}};
   }
   static StepOutcome NotNeeded(std::string why) {
-    return {Kind::kNotNeeded, std::move(why), {}, false, false, {}, {}};
+    return {Kind::kNotNeeded, std::move(why), {}, false, false, {}, {}, {}};
   }
   /// The step after which the receiver, or the next hop to it, is known to have the message.
   static StepOutcome Delivered(std::string said = {}) {
-    return {Kind::kDone, std::move(said), Verdict::kDelivered, true, false, {}, {}};
+    return {Kind::kDone, std::move(said), Verdict::kDelivered, true, false, {}, {}, {}};
   }
   /// The step after which the message is gone, but nobody says that it arrived.
   static StepOutcome Sent(std::string said = {}) {
-    return {Kind::kDone, std::move(said), Verdict::kSent, true, false, {}, {}};
+    return {Kind::kDone, std::move(said), Verdict::kSent, true, false, {}, {}, {}};
   }
   static StepOutcome Failed(Verdict verdict, std::string said, std::string explanation,
-                            std::string field = {}) {
-    return {Kind::kFailed, std::move(said), verdict, true, false, std::move(explanation), std::move(field)};
+                            Field field = Field::kNothing) {
+    return {Kind::kFailed, std::move(said), verdict, true, false, std::move(explanation), field, {}};
+  }
+  /// Names the record that has the field, where a site has several of its kind.
+  StepOutcome Of(std::string name) && {
+    record = std::move(name);
+    return std::move(*this);
   }
   /// A failure that does not concern the steps behind it.
   StepOutcome AndGoOn() && {

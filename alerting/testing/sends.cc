@@ -9,6 +9,7 @@
 #include "alerting/frame/companions.h"
 #include "alerting/frame/messages.h"
 #include "alerting/managers/config_file.h"
+#include "companions/agentui/corrections.h"
 #include "companions/agentui/test_request.h"
 #include "companions/alertstore/console_users.h"
 #include "platform/base/low_memory.h"
@@ -126,6 +127,7 @@ bool SendComputerTest(CNtfyService& service, const GUID& target, const char* mes
 }
 
 void ForgetTests() {
+  agentui::RegisterCorrections(nullptr);
   if (windows_thread.exchange({}) != std::thread::id{})
     TheCompanions().agentui->RegisterTestButtonCallbackMessageHandler(nullptr);
 }

@@ -20,7 +20,8 @@ bool SendStandardTest(CNtfyService& service, const GUID& target, const char* mes
 bool SendComputerTest(CNtfyService& service, const GUID& target, const char* message, const char*,
                       std::uint16_t, ui::Window* dialog);
 
-/// No report comes to the library any more; an unload step, since it would come to where the library was.
+/// No report comes to the library any more, and none offers its windows; an unload step, since both would be where the
+/// library was.
 void ForgetTests();
 
 }  // namespace alerting

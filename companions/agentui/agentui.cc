@@ -70,11 +70,13 @@ class RealAgentUi : public AgentUi {
 /// What waits for the user-interface thread may outlast both component and parent.
 void RealAgentUi::DisplayTestEventResultsDialog(platform::ui::Window* parent, std::uint32_t value) {
   const auto handle = parent != nullptr ? parent->GetHandle() : platform::ui::kNoWindow;
-  platform::ui::Desktop::Current().Post([handle, value, unwritten = watch_.Unwritten()] {
-    const auto kept = unwritten->Find(value);
-    const Report report = kept ? *kept : ReadReport(ReportPath(SpoolDirectory(), value), value);
-    ShowTestResults(platform::ui::Window::FromHandle(handle), report);
-  });
+  platform::ui::Desktop::Current().Post(
+      [handle, value, unwritten = watch_.Unwritten(), subjects = watch_.Subjects()] {
+        const auto kept = unwritten->Find(value);
+        const Report report = kept ? *kept : ReadReport(ReportPath(SpoolDirectory(), value), value);
+        ShowTestResults(platform::ui::Window::FromHandle(handle), report,
+                        subjects->Find(value).value_or(TestSubject{}));
+      });
 }
 
 }  // namespace

@@ -50,7 +50,7 @@ std::vector<Report::Step> StepsOf(const Json& file) {
   for (const Json& step : *found)
     if (step.is_object())
       steps.push_back({TextOf(step, "name"), TextOf(step, "result"), NumberOf(step, "milliseconds"),
-                       TextOf(step, "said")});
+                       TextOf(step, "said"), TextOf(step, "field"), TextOf(step, "record")});
   return steps;
 }
 
@@ -60,7 +60,9 @@ Json ToJson(const std::vector<Report::Step>& steps) {
     list.push_back({{"name", step.name},
                     {"result", step.result},
                     {"milliseconds", step.milliseconds},
-                    {"said", step.said}});
+                    {"said", step.said},
+                    {"field", step.field},
+                    {"record", step.record}});
   return list;
 }
 
@@ -131,17 +133,6 @@ Report NotHandedOverReport(const std::string& problem) {
   report.verdict = Verdict::kFailed;
   report.explanation = "The test was not handed to an alert server, because " + problem + ".";
   return report;
-}
-
-void UnwrittenReports::Keep(std::uint32_t job, Report report) {
-  const std::lock_guard lock(mutex_);
-  reports_[job] = std::move(report);
-}
-
-std::optional<Report> UnwrittenReports::Find(std::uint32_t job) const {
-  const std::lock_guard lock(mutex_);
-  const auto found = reports_.find(job);
-  return found != reports_.end() ? std::optional(found->second) : std::nullopt;
 }
 
 }  // namespace agentui

@@ -2,9 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <map>
-#include <mutex>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,7 +22,9 @@ struct Report {
   struct Step {
     std::string name, result;
     std::uint64_t milliseconds = 0;
-    std::string said;  ///< the other side's answer
+    std::string said;      ///< the other side's answer
+    std::string field{};   ///< of a failed step: what to correct
+    std::string record{};  ///< which of the field's list; "" where there is but one
     bool operator==(const Step&) const = default;
   };
 
@@ -35,7 +34,7 @@ struct Report {
   std::string started, ended;  ///< UTC
   std::vector<Step> steps;
   std::string transcript;
-  std::string field;  ///< what to correct, as the configuration file names it; "" for nothing
+  std::string field;  ///< what to correct in all, as the configuration file names it; "" for nothing
 
   bool operator==(const Report&) const = default;
 };
@@ -56,16 +55,5 @@ bool WriteReport(const std::string& path, std::uint32_t job, const Report& repor
 Report UnansweredReport(const std::vector<std::string>& managers);
 /// `problem`: words that can follow "because".
 Report NotHandedOverReport(const std::string& problem);
-
-/// Reports that could not be written to the disk: of tests whose jobs could not be written either. Any thread.
-class UnwrittenReports {
- public:
-  void Keep(std::uint32_t job, Report report);
-  std::optional<Report> Find(std::uint32_t job) const;
-
- private:
-  mutable std::mutex mutex_;
-  std::map<std::uint32_t, Report> reports_;
-};
 
 }  // namespace agentui

@@ -55,6 +55,7 @@ void TestWatch::Send(const alertstore::ALERTRESPREC& record) {
   for (const Pending& pending : PendingNow()) waited_for.insert(pending.job);
   CleanSpool(spool, waited_for);
   Job job{NewJobNumber(spool), {}, record};
+  subjects_->Keep(job.number, {record.serviceId, record.userId});
   const std::string problem = HandOver(spool, job);
   const auto wait = IsPager(record.serviceRecordType) ? times_.pager_answer : times_.answer;
   const Pending sent{job.number, spool, job.managers, Clock::now() + wait, !problem.empty()};

@@ -11,6 +11,8 @@
 #include <vector>
 
 #include "companions/agentui/agentui.h"
+#include "companions/agentui/by_test.h"
+#include "companions/agentui/corrections.h"
 #include "companions/agentui/report.h"
 #include "companions/agentui/server_start.h"
 #include "companions/alertstore/records_common.h"
@@ -29,8 +31,10 @@ class TestWatch {
 
   void SetCallback(Callback callback);
   void Send(const alertstore::ALERTRESPREC& record);
-  /// Reports that are not in the spool.
-  const std::shared_ptr<UnwrittenReports>& Unwritten() const { return unwritten_; }
+  /// Reports that are not in the spool: of tests whose jobs could not be written either.
+  const std::shared_ptr<ByTest<Report>>& Unwritten() const { return unwritten_; }
+  /// What was tested, which reports do not say.
+  const std::shared_ptr<ByTest<TestSubject>>& Subjects() const { return subjects_; }
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -53,7 +57,8 @@ class TestWatch {
   void Tell(std::uint32_t job);
 
   const TestTimes times_;
-  const std::shared_ptr<UnwrittenReports> unwritten_ = std::make_shared<UnwrittenReports>();
+  const std::shared_ptr<ByTest<Report>> unwritten_ = std::make_shared<ByTest<Report>>();
+  const std::shared_ptr<ByTest<TestSubject>> subjects_ = std::make_shared<ByTest<TestSubject>>();
 
   std::mutex mutex_;
   std::condition_variable changed_;

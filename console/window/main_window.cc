@@ -14,7 +14,7 @@
 #include <utility>
 
 #include "companions/ctxhelp/resource_directory.h"
-#include "console/hosts/host_dialog.h"
+#include "console/hosts/correct_field.h"
 #include "console/site/advice.h"
 #include "console/site/backup_manager.h"
 #include "console/site/data_directory.h"
@@ -56,6 +56,7 @@ bool HasResources() { return access((ctxhelp::ResourceDirectory() + "/help").c_s
 
 MainWindow::MainWindow(const site::LibraryCalls& library)
     : library_(library),
+      windows_(library),
       front_(new QStackedWidget(this)),
       tabs_(new QTabWidget(front_)),
       start_(new StartPage(front_)),
@@ -65,6 +66,7 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   setWindowTitle(tr("Alerting Console - %1").arg(ToQt(platform::DataDirectory())));
   as_owner_.SetLabel("Alerting Console");
   as_owner_.SetObserver(this);
+  agentui::RegisterCorrections(this);
   LoadIcons();
   AddPage(services_ = new ServicesPage(*this, tabs_));
   AddPage(new UsersPage(*this, tabs_));
@@ -99,7 +101,10 @@ MainWindow::MainWindow(const site::LibraryCalls& library)
   ShowPageCommands();
 }
 
-MainWindow::~MainWindow() { as_owner_.SetObserver(nullptr); }
+MainWindow::~MainWindow() {
+  if (agentui::RegisteredCorrections() == this) agentui::RegisterCorrections(nullptr);
+  as_owner_.SetObserver(nullptr);
+}
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   EndLaboratory();
@@ -274,6 +279,24 @@ void MainWindow::Do(const std::function<Outcome()>& work, const QString& done) {
   changes_.Changed();  // this console's own
   ReadSite();
   if (outcome == Outcome::kStored && !done.isEmpty()) said_->setText(done);
+}
+
+// What opened the window beneath reads the site again when that closes.
+void MainWindow::DoOver(const std::function<Outcome()>& work) {
+  if (!busy_) return Do(work, {});
+  if (work() == Outcome::kStored) managers_file_.Write();
+}
+
+bool MainWindow::CanOpen(const agentui::Correction& correction) const { return hosts::HasWindow(correction); }
+
+// The window of a user's entry leaves it to its host to tell the alert managers.
+bool MainWindow::Open(const agentui::Correction& correction) {
+  hosts::Corrected corrected = hosts::Corrected::kNotOpened;
+  DoOver([&] {
+    corrected = hosts::CorrectField(windows_, site_, correction, &as_owner_);
+    return corrected == hosts::Corrected::kOpened ? Outcome::kStored : Outcome::kNothing;
+  });
+  return corrected != hosts::Corrected::kNotOpened;
 }
 
 void MainWindow::OpenSheet(const platform::GUID& service) { services_->OpenSheet(service); }

@@ -5,6 +5,7 @@
 #include <QPixmap>
 #include <map>
 
+#include "companions/agentui/corrections.h"
 #include "companions/alertstore/change_watch.h"
 #include "console/site/laboratory.h"
 #include "console/site/managers_file.h"
@@ -29,6 +30,7 @@ class StartPage;
 /// is the owner of the windows that it opens.
 class MainWindow : public QMainWindow,
                    public Console,
+                   public agentui::Corrections,
                    public platform::ui::WindowObserver,
                    public desktops::qt::WidgetOwner {
  public:
@@ -53,6 +55,9 @@ class MainWindow : public QMainWindow,
   QIcon IconOf(std::uint32_t record_type) const override;
   void Do(const std::function<Outcome()>& work, const QString& done) override;
   void SelectionChanged() override;
+  hosts::RecordWindows& Windows() override { return windows_; }
+  bool CanOpen(const agentui::Correction& correction) const override;
+  bool Open(const agentui::Correction& correction) override;
 
   QWidget* OwnedWidget() const override { return const_cast<MainWindow*>(this); }
   platform::ui::Window& ShownWindow() const override { return const_cast<platform::ui::Window&>(as_owner_); }
@@ -79,6 +84,7 @@ class MainWindow : public QMainWindow,
   void ShowStatus();
   void SetUp();
   void TellManagers();
+  void DoOver(const std::function<Outcome()>& work);
   void Refresh();
   void EditRules();
   void ShowGuide();
@@ -90,6 +96,7 @@ class MainWindow : public QMainWindow,
   void ShowLaboratoryNotice();
 
   const site::LibraryCalls& library_;
+  hosts::RecordWindows windows_;
   platform::ui::Window as_owner_;
   site::Overview site_;
   site::ManagersFile managers_file_;

@@ -6,6 +6,7 @@
 #include <functional>
 #include <vector>
 
+#include "console/hosts/record_windows.h"
 #include "console/site/library_calls.h"
 #include "console/site/overview.h"
 #include "console/window/record_view.h"
@@ -34,6 +35,9 @@ class Console {
   virtual const site::Overview& Site() const = 0;
   /// The icon of the services of a type.
   virtual QIcon IconOf(std::uint32_t record_type) const = 0;
+
+  /// The library's windows on records.
+  virtual hosts::RecordWindows& Windows() = 0;
 
   /// Does something that a person asked for, on the site as it is now: reads it first where others changed it, then again,
   /// and tells the alert managers. `done` is what the status bar then says.

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <cstdio>
 
+#include "companions/agentui/results_dialog.h"
 #include "companions/ctxhelp/resource_directory.h"
 #include "companions/dbconfig/service_types.h"
 #include "console/window/laboratory_window.h"
@@ -67,6 +68,26 @@ void VisitCommands(MainWindow& window, Tour& tour) {
   });
 }
 
+/// What a pager that nobody answers comes to, and the window that "Correct..." then opens.
+void VisitResults(MainWindow& window, Tour& tour) {
+  constexpr std::uint32_t kNumericPager = 12;
+  const auto& services = window.Site().services;
+  const auto pager = std::ranges::find(services, kNumericPager, &site::Service::record_type);
+  if (pager == services.end()) return;
+  agentui::Report report;
+  report.verdict = agentui::Report::Verdict::kNotReached;
+  report.explanation = "The modem does not answer. Is it switched on, and attached to this port?";
+  report.manager = "OFFICE";
+  report.steps = {{"Find the recipient", "done", 0, "Night Operator: 5550177"},
+                  {"Open the port", "done", 3, "/dev/ttyS0"},
+                  {"Initialize the modem", "failed", 3004, "", "modems.comPort", pager->modem}};
+  report.transcript = "> AT\\x0D\n> AT\\x0D\n";
+  report.field = "modems.comPort";
+  const agentui::TestSubject subject{pager->id, {}};
+  tour.Visit("test-results", [&] { agentui::ShowTestResults(nullptr, report, subject); });
+  tour.Visit("test-results-corrected", [&] { window.Open({report.field, pager->modem, subject}); });
+}
+
 /// The dialogs that no sheet opens. Icons are shown of the library's own icon file.
 void VisitDialogs(AlertingLibrary& library, Tour& tour) {
   char path[kPathBuffer] = "";
@@ -90,6 +111,7 @@ int WriteScreenshots(AlertingLibrary& library, const QString& folder) {
     pictures.Fail("there are no services; run \"alertctl init\"");
   VisitCommands(window, tour);
   tour.Look(window.ShowLaboratory(), "laboratory");
+  VisitResults(window, tour);
   VisitDialogs(library, tour);
   return pictures.failed ? 1 : 0;
 }

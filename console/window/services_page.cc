@@ -9,7 +9,6 @@
 #include "console/hosts/name_dialog.h"
 #include "console/site/advice.h"
 #include "console/site/delivery.h"
-#include "console/site/open_mark.h"
 #include "console/site/services.h"
 #include "desktops/qt/texts.h"
 
@@ -18,6 +17,7 @@ namespace {
 
 using desktops::qt::ToQt;
 using platform::GUID;
+using Kind = hosts::RecordWindow::Kind;
 
 QString TypeName(std::uint32_t record_type) {
   return QString::fromUtf8(dbconfig::ServiceTypeName(record_type));
@@ -42,12 +42,6 @@ int Locate(const site::LibraryCalls& library, const GUID& service) {
   const int index = library.IndexOf(service);
   if (index < 0) hosts::Tell("Another console has deleted this service.");
   return index;
-}
-
-bool MayOpen(const std::optional<site::OpenMark::Holder>& other) {
-  return !other ||
-         hosts::Ask("The properties of this service are open in another console (" + other->who + ", since " +
-                    other->since + "). Whoever stores last wins.\n\nOpen them all the same?");
 }
 
 /// What a person should know before a service goes.
@@ -96,7 +90,9 @@ ServicesPage::ServicesPage(Console& console, QWidget* parent)
 // Enter in the table opens the properties already; a shortcut would take it away from the table.
 void ServicesPage::AddCommands() {
   Add(view_, tr("&Properties..."), {}, Needs::kOneRow, [this] { OpenSheet(Chosen(view_)); });
-  QAction* backup = Add(view_, tr("&Backup Modem..."), {}, Needs::kOneRow, [this] { OpenBackup(); });
+  QAction* backup = Add(view_, tr("&Backup Modem..."), {}, Needs::kOneRow, [this] {
+    Open({Kind::kBackup, Chosen(view_)});
+  });
   OnlyIf(backup, [this] {
     return console_.Calls().DomainServiceIsModemService(console_.Calls().IndexOf(Chosen(view_))) != 0;
   });
@@ -133,22 +129,12 @@ bool ServicesPage::IsFirstOfType() const {
   return false;
 }
 
-void ServicesPage::OpenSheet(const GUID& service) {
-  OpenMarked(service, console_.Calls().DomainServicePropertySheet);
-}
+void ServicesPage::OpenSheet(const GUID& service) { Open({Kind::kService, service}); }
 
-void ServicesPage::OpenMarked(const GUID& service, decltype(::DomainServicePropertySheet)* open) {
+void ServicesPage::Open(const hosts::RecordWindow& wanted) {
   console_.Do([&] {
-    const site::OpenMark mark(service);
-    const int index = Locate(console_.Calls(), service);
-    if (index < 0 || !MayOpen(mark.Other())) return Outcome::kNothing;
-    open(console_.Owner(), index);
-    return Outcome::kMayHaveStored;
+    return console_.Windows().Open(console_.Owner(), wanted) ? Outcome::kMayHaveStored : Outcome::kNothing;
   });
-}
-
-void ServicesPage::OpenBackup() {
-  OpenMarked(Chosen(view_), console_.Calls().DomainServiceBackupPropertySheet);
 }
 
 // Services that reach users are tested with one of them; the others have their test in the properties.
@@ -166,10 +152,9 @@ void ServicesPage::Test() {
   if (users.empty()) return OpenSheet(service.id);
   console_.Do([&] {
     const auto chosen = choices::Choose(console_.Owner(), offer);
-    const int index = chosen ? Locate(console_.Calls(), service.id) : -1;
-    if (index < 0) return Outcome::kNothing;
-    console_.Calls().UserServiceTestDialog(console_.Owner(), index, users[*chosen]);
-    return Outcome::kMayHaveStored;
+    if (!chosen) return Outcome::kNothing;
+    const bool opened = console_.Windows().Open(console_.Owner(), {Kind::kTest, service.id, users[*chosen]});
+    return opened ? Outcome::kMayHaveStored : Outcome::kNothing;
   });
 }
 

@@ -20,8 +20,7 @@ class ServicesPage : public Page {
   void AddCommands();
   const site::Service& ChosenService() const;
   bool IsFirstOfType() const;
-  void OpenMarked(const platform::GUID& service, decltype(::DomainServicePropertySheet)* open);
-  void OpenBackup();
+  void Open(const hosts::RecordWindow& wanted);
   void Test();
   void Copy();
   void Rename();

@@ -11,9 +11,9 @@ constexpr int kLookMilliseconds = 60;
 constexpr qint64 kSettleMilliseconds = 120;  // until a new window has laid itself out
 
 /// Buttons that store, delete, send or end something.
-const QStringList kNotPressed = {"OK",     "Cancel", "Apply", "Close",   "Delete",
-                                 "Remove", "Finish", "Open",  "Choose",  "Play",
-                                 "Stop",   "Yes",    "No",    "Deliver", "Stop Delivering"};
+const QStringList kNotPressed = {"OK",     "Cancel",  "Apply",           "Close",  "Delete", "Remove",
+                                 "Finish", "Open",    "Choose",          "Play",   "Stop",   "Yes",
+                                 "No",     "Deliver", "Stop Delivering", "Correct"};
 
 QString Plain(QString text) { return text.remove('&').remove("...").trimmed(); }
 

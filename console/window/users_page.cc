@@ -52,33 +52,17 @@ UsersPage::UsersPage(Console& console, QWidget* parent)
 }
 
 void UsersPage::AddCommands() {
-  const auto& library = console_.Calls();
   Add(users_, tr("&New User..."), QKeySequence::New, Needs::kNothing, [this] { NewUser(); });
   Add(users_, tr("&Remove User"), QKeySequence::Delete, Needs::kOneRow, [this] { RemoveUser(); });
   AddSeparator();
   Add(users_, tr("New &Entry..."), QKeySequence(Qt::CTRL | Qt::Key_E), Needs::kOneRow,
       [this] { NewEntry(); });
-  Add(entries_, tr("Entry &Properties..."), {}, Needs::kOneRow, [&] {
-    WithEntry([&](int index, const GUID& user) {
-      library.UserServicePropertySheet(console_.Owner(), index, user);
-      return Outcome::kStored;  // Apply stores, too, whatever comes after it
-    });
-  });
-  Add(entries_, tr("&Test Entry..."), {}, Needs::kOneRow, [&] {
-    WithEntry([&](int index, const GUID& user) {
-      library.UserServiceTestDialog(console_.Owner(), index, user);
-      return Outcome::kMayHaveStored;
-    });
-  });
-  Add(entries_, tr("Remove Entr&y"), QKeySequence::Delete, Needs::kOneRow, [&] {
-    WithEntry(
-        [&](int index, const GUID& user) {
-          if (!hosts::Ask("Remove this entry? Alerts will no longer reach the user through the service."))
-            return Outcome::kNothing;
-          return library.UserServiceUserDelete(index, user) != 0 ? Outcome::kStored : Outcome::kNothing;
-        },
-        tr("Removed the entry."));
-  });
+  // Apply stores, too, whatever comes after it.
+  Add(entries_, tr("Entry &Properties..."), {}, Needs::kOneRow,
+      [this] { Open(hosts::RecordWindow::Kind::kEntry, Outcome::kStored); });
+  Add(entries_, tr("&Test Entry..."), {}, Needs::kOneRow,
+      [this] { Open(hosts::RecordWindow::Kind::kTest, Outcome::kMayHaveStored); });
+  Add(entries_, tr("Remove Entr&y"), QKeySequence::Delete, Needs::kOneRow, [this] { RemoveEntry(); });
 }
 
 void UsersPage::ShowSite() {
@@ -169,16 +153,29 @@ void UsersPage::NewEntry() {
       tr("Added the entry."));
 }
 
-void UsersPage::WithEntry(const std::function<Outcome(int, const GUID&)>& act, const QString& done) {
+void UsersPage::Open(hosts::RecordWindow::Kind kind, Outcome outcome) {
+  const RowKey entry = entries_.Selected().front();
+  console_.Do([&] {
+    const bool opened = console_.Windows().Open(console_.Owner(), {kind, entry.other, entry.id});
+    return opened ? outcome : Outcome::kNothing;
+  });
+}
+
+void UsersPage::RemoveEntry() {
   const RowKey entry = entries_.Selected().front();
   console_.Do(
       [&] {
         const int index = console_.Calls().IndexOf(entry.other);
-        if (index >= 0) return act(index, entry.id);
-        hosts::Tell("Another console has deleted the service of this entry.");
-        return Outcome::kNothing;
+        if (index < 0) {
+          hosts::Tell("Another console has deleted the service of this entry.");
+          return Outcome::kNothing;
+        }
+        if (!hosts::Ask("Remove this entry? Alerts will no longer reach the user through the service."))
+          return Outcome::kNothing;
+        return console_.Calls().UserServiceUserDelete(index, entry.id) != 0 ? Outcome::kStored
+                                                                            : Outcome::kNothing;
       },
-      done);
+      tr("Removed the entry."));
 }
 
 void UsersPage::Remember(QSettings& settings) {

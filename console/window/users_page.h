@@ -27,9 +27,9 @@ class UsersPage : public Page {
   void RemoveUser();
   bool RemoveEntriesOf(const platform::GUID& user);
   void NewEntry();
-  /// Calls an export with the service and user of the chosen entry.
-  void WithEntry(const std::function<Outcome(int index, const platform::GUID& user)>& act,
-                 const QString& done = {});
+  void RemoveEntry();
+  /// Opens a window of the library's on the chosen entry. `outcome`: what an open window comes to.
+  void Open(hosts::RecordWindow::Kind kind, Outcome outcome);
 
   RecordView users_, entries_;
 };

@@ -148,8 +148,9 @@ void QtDesktop::SetClipboardText(const std::string& text) {
   QGuiApplication::clipboard()->setText(qt::ToQt(text));
 }
 
+// Window systems activate a window some time after it was shown; the modal one is in front of its program at once.
 Window* QtDesktop::ForegroundWindow() {
-  auto* owner = dynamic_cast<qt::WidgetOwner*>(QApplication::activeWindow());
+  auto* owner = dynamic_cast<qt::WidgetOwner*>(ActiveParent());
   return owner != nullptr ? &owner->ShownWindow() : nullptr;
 }
 

@@ -38,7 +38,7 @@ std::vector<Step> AlphanumericPager::Steps(const Context&) {
       {"Open the port", [this](Context& context) { return call_.OpenPort(context, false); }},
       {"Initialise the modem",
        [this](Context& context) {
-         return call_.Initialise(context, context.modem->alphaInitString, "modems.alphaInitString");
+         return call_.Initialise(context, context.modem->alphaInitString, Field::kAlphaInitString);
        }},
       {"Dial", [this](Context& context) { return Dial(context); }},
       {"Greeting", [this](Context& context) { return Greet(context); }},
@@ -60,21 +60,22 @@ std::vector<Step> AlphanumericPager::Steps(const Context&) {
 StepOutcome AlphanumericPager::Compose(Context& context) {
   pages_ = Pages(PagerText(context.job.message), context.service.Number("maxTextLength"));
   if (PagerText(pager_) != pager_ || pager_.find('\r') != pager_.npos)
-    return StepOutcome::Failed(Verdict::kNotPossible, "", "No pager has such an identification.", "address");
+    return StepOutcome::Failed(Verdict::kNotPossible, "", "No pager has such an identification.",
+                               Field::kAddress);
   if (pages_.size() > kMostPages)
     return StepOutcome::Failed(
         Verdict::kNotPossible, "",
         "The message would take " + std::to_string(pages_.size()) + " pages of this text length.",
-        "maxTextLength");
+        Field::kMaxTextLength);
   if (!IsDirect(context) && NumberFrom(nullptr, context.service.Text("providerPhone")).empty())
     return StepOutcome::Failed(Verdict::kNotPossible, "", "The provider's phone number is missing.",
-                               "providerPhone");
+                               Field::kProviderPhone);
   return StepOutcome::Done(pages_.size() > 1 ? std::to_string(pages_.size()) + " pages" : "");
 }
 
 StepOutcome AlphanumericPager::Dial(Context& context) {
   const std::string command = DialCommand(*context.modem, context.service.Text("providerPhone"), "");
-  StepOutcome outcome = call_.DialForCarrier(context, command, "providerPhone");
+  StepOutcome outcome = call_.DialForCarrier(context, command, Field::kProviderPhone);
   session_.Take(call_.Modem().TakeRest());
   return outcome;
 }

@@ -16,7 +16,7 @@ class GenericPort : public Transport {
         {"Open the port", [this](Context& context) { return call_.OpenPort(context, IsDirect(context)); }},
         {"Initialise the modem",
          [this](Context& context) {
-           return call_.Initialise(context, context.modem->initString, "modems.initString");
+           return call_.Initialise(context, context.modem->initString, Field::kInitString);
          }},
         {"Dial", [this](Context& context) { return Dial(context); }},
         {"Write the message", [this](Context& context) { return Write(context); }},
@@ -39,8 +39,8 @@ StepOutcome GenericPort::Dial(Context& context) {
         Verdict::kNotPossible, "",
         "A generic port has no number to dial: choose a modem for direct port I/O, or give one "
         "whose dialing prefix holds the number.",
-        "modems.dialPrefix");
-  return call_.DialForCarrier(context, DialCommand(modem, "", ""), "modems.dialPrefix");
+        Field::kDialPrefix);
+  return call_.DialForCarrier(context, DialCommand(modem, "", ""), Field::kDialPrefix);
 }
 
 StepOutcome GenericPort::Write(Context& context) {
@@ -48,11 +48,11 @@ StepOutcome GenericPort::Write(Context& context) {
   const std::string& message = context.job.message;
   if (message.empty())
     return StepOutcome::Failed(Verdict::kNotPossible, "", "There is nothing to write: the message is empty.",
-                               "message");
+                               Field::kMessage);
   context.transcript.Sent(message);
   if (!call_.Line().Write(message, std::min(kLimit, context.Left())))
     return StepOutcome::Failed(Verdict::kNotReached, "",
-                               "The device does not take what is written to the port.", "modems.comPort");
+                               "The device does not take what is written to the port.", Field::kComPort);
   return StepOutcome::Sent(std::to_string(message.size()) + " bytes written");
 }
 

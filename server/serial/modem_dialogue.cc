@@ -14,11 +14,11 @@ constexpr Limit kToHangUp(4'000);
 StepOutcome Silent() {
   return StepOutcome::Failed(Verdict::kNotReached, "",
                              "The modem does not answer. Is it switched on, and attached to this port?",
-                             "modems.comPort");
+                             Field::kComPort);
 }
 
 /// A dialed call that did not come about.
-StepOutcome NoCall(const std::optional<ModemAnswer>& answer, const char* phone_field) {
+StepOutcome NoCall(const std::optional<ModemAnswer>& answer, Field phone_field) {
   if (!answer)
     return StepOutcome::Failed(Verdict::kNotReached, "",
                                "The modem did not say in time what became of the call.", phone_field);
@@ -37,22 +37,22 @@ StepOutcome NoCall(const std::optional<ModemAnswer>& answer, const char* phone_f
     case Kind::kNoDialTone:
       return StepOutcome::Failed(Verdict::kNotReached, answer->text,
                                  "The modem hears no dial tone. Is the telephone line plugged in?",
-                                 "modems.comPort");
+                                 Field::kComPort);
     case Kind::kError:
       return StepOutcome::Failed(Verdict::kNotReached, answer->text,
-                                 "The modem does not know the dial command.", "modems.dialPrefix");
+                                 "The modem does not know the dial command.", Field::kDialPrefix);
     default:
       return StepOutcome::Failed(
           Verdict::kNotReached, answer->text,
           "The call ended otherwise than such a call does. See what stands around the number.",
-          "modems.dialSuffix");
+          Field::kDialSuffix);
   }
 }
 
 }  // namespace
 
 /// A modem that was left at another speed takes the first command to find out this one.
-StepOutcome ModemDialogue::Initialise(Conversation& line, const std::string& string, const char* field) {
+StepOutcome ModemDialogue::Initialise(Conversation& line, const std::string& string, Field field) {
   const std::string command = (string.empty() ? "AT" : string) + "\r";
   std::optional<ModemAnswer> answer;
   for (int tries = 0; tries < 2 && !answer; ++tries)
@@ -71,8 +71,7 @@ std::optional<ModemAnswer> ModemDialogue::Dial(Conversation& line, const std::st
   return answer;
 }
 
-StepOutcome ModemDialogue::DialForCarrier(Conversation& line, const std::string& command,
-                                          const char* phone_field) {
+StepOutcome ModemDialogue::DialForCarrier(Conversation& line, const std::string& command, Field phone_field) {
   const auto answer = Dial(line, command, kRinging);
   if (!answer || answer->kind != Kind::kConnect) return NoCall(answer, phone_field);
   is_online_ = true;
@@ -80,7 +79,7 @@ StepOutcome ModemDialogue::DialForCarrier(Conversation& line, const std::string&
 }
 
 StepOutcome ModemDialogue::DialKeyed(Conversation& line, const std::string& command, Limit keying,
-                                     const char* phone_field) {
+                                     Field phone_field) {
   const auto answer = Dial(line, command, kRinging + keying);
   is_online_ = answer && answer->kind == Kind::kConnect;
   if (!answer || answer->kind != Kind::kOk) return NoCall(answer, phone_field);
@@ -102,7 +101,7 @@ StepOutcome ModemDialogue::HangUp(Conversation& line, const std::string& escape,
   return StepOutcome::Failed(
       Verdict::kNotReached, answer ? answer->text : "",
       "The modem did not confirm that it hung up; the port is closed, which ends the call.",
-      "modems.hangupString");
+      Field::kHangupString);
 }
 
 }  // namespace alertserver

@@ -12,14 +12,14 @@ namespace alertserver {
 class ModemDialogue {
  public:
   /// Sends an initialization string, "AT" where the record has none. `field` is where the record has it.
-  StepOutcome Initialise(Conversation& line, const std::string& string, const char* field);
+  StepOutcome Initialise(Conversation& line, const std::string& string, Field field);
 
   /// Dials, and waits for the modem on the other side. `phone_field` is where the number comes from.
-  StepOutcome DialForCarrier(Conversation& line, const std::string& command, const char* phone_field);
+  StepOutcome DialForCarrier(Conversation& line, const std::string& command, Field phone_field);
   /// Dials what a terminal for keyed digits hears; `command` keeps the modem in its command state. No modem can tell
   /// whether the terminal heard it.
   StepOutcome DialKeyed(Conversation& line, const std::string& command, Conversation::Limit keying,
-                        const char* phone_field);
+                        Field phone_field);
 
   /// Gives the line back, whatever state the call is in.
   StepOutcome HangUp(Conversation& line, const std::string& escape, const std::string& hang_up);

@@ -31,7 +31,7 @@ class NumericPager : public Transport {
         {"Open the port", [this](Context& context) { return call_.OpenPort(context, false); }},
         {"Initialise the modem",
          [this](Context& context) {
-           return call_.Initialise(context, context.modem->initString, "modems.initString");
+           return call_.Initialise(context, context.modem->initString, Field::kInitString);
          }},
         {"Dial and key the message", [this](Context& context) { return Dial(context); }},
         {"Hang up", [this](Context& context) { return call_.Close(context); }, true},
@@ -50,11 +50,11 @@ StepOutcome NumericPager::Compose(Context& context) {
   digits_ = Keyed(context.job.message);
   if (NumberFrom(nullptr, number_).empty())
     return StepOutcome::Failed(Verdict::kNotPossible, "", "The recipient's address is no number to dial.",
-                               "address");
+                               Field::kAddress);
   if (!CanBeKeyed(digits_))
     return StepOutcome::Failed(Verdict::kNotPossible, context.job.message,
                                "A numeric pager shows digits alone: the message may hold 0 to 9, * and #.",
-                               "message");
+                               Field::kMessage);
   if (IsDirect(context))
     return StepOutcome::Failed(
         Verdict::kNotPossible, "",
@@ -69,7 +69,7 @@ StepOutcome NumericPager::Dial(Context& context) {
   std::string command = DialCommand(*context.modem, number_, pauses + digits_);
   if (!command.ends_with(';')) command += ';';
   const auto keying = std::chrono::seconds(2) * std::count(command.begin(), command.end(), ',');
-  return call_.DialKeyed(context, command, keying, "address");
+  return call_.DialKeyed(context, command, keying, Field::kAddress);
 }
 
 }  // namespace

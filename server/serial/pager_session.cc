@@ -9,11 +9,10 @@ namespace {
 using Kind = PagerAnswer::Kind;
 using Limit = Conversation::Limit;
 
-constexpr char kProviderPhone[] = "providerPhone";
 constexpr int kMostRetries = 3;
 
 StepOutcome Broken(const char* what, const std::string& said = {}) {
-  return StepOutcome::Failed(Verdict::kNotReached, said, what, kProviderPhone);
+  return StepOutcome::Failed(Verdict::kNotReached, said, what, Field::kProviderPhone);
 }
 
 /// What a terminal's code says is wrong (version 1.8, appendix A).
@@ -21,10 +20,10 @@ StepOutcome Rejected(const PagerAnswer& answer) {
   constexpr int kTooLong = 513, kTooManyCharacters = 517;
   if (answer.code == kTooLong || answer.code == kTooManyCharacters)
     return StepOutcome::Failed(Verdict::kRefused, answer.text,
-                               "The message is longer than the provider takes.", "maxTextLength");
+                               "The message is longer than the provider takes.", Field::kMaxTextLength);
   return StepOutcome::Failed(Verdict::kRefused, answer.text,
                              "The provider rejects the page. Is the identification of the pager right?",
-                             "address");
+                             Field::kAddress);
 }
 
 /// A block that was not accepted.
@@ -36,7 +35,7 @@ StepOutcome NotAccepted(const std::optional<PagerAnswer>& answer) {
       Verdict::kRefused, answer->text,
       "The message arrives damaged however often it is sent. Are speed, data bits and parity "
       "those of the provider?",
-      "baudRate");
+      Field::kBaudRate);
 }
 
 /// Pages that were taken before are on their way, and stay so.
@@ -51,7 +50,8 @@ StepOutcome AfterPages(std::size_t taken, std::size_t all, StepOutcome failure) 
 StepOutcome LoginRefused(const std::string& said) {
   return StepOutcome::Failed(
       Verdict::kRefused, said,
-      "The provider refuses the login. Is the number that of a line without a password?", kProviderPhone);
+      "The provider refuses the login. Is the number that of a line without a password?",
+      Field::kProviderPhone);
 }
 
 }  // namespace

@@ -4,13 +4,13 @@
 namespace alertserver {
 namespace {
 
-StepOutcome NotPossible(std::string why, const char* field) {
+StepOutcome NotPossible(std::string why, Field field) {
   return StepOutcome::Failed(Verdict::kNotPossible, "", std::move(why), field);
 }
 
 StepOutcome NoPrefix() {
   return NotPossible("The modem has no dialing prefix string, such as ATDT, which tells it to dial.",
-                     "modems.dialPrefix");
+                     Field::kDialPrefix);
 }
 
 /// Why a port cannot be opened before anything was tried.
@@ -22,10 +22,10 @@ std::optional<StepOutcome> WhatIsMissing(const Context& context, const std::stri
                        ModemField(context));
   if (!modem->enabled)
     return NotPossible("The modem \"" + modem->modemName + "\" is switched off in its properties.",
-                       "modems.enabled");
+                       Field::kModemEnabled);
   if (device.empty())
     return NotPossible("No device is set for COM" + std::to_string(modem->comPort) + " on this server.",
-                       "modems.comPort");
+                       Field::kComPort);
   return std::nullopt;
 }
 
@@ -36,9 +36,9 @@ std::string Found(const std::string& device, const ModemLink& modem) {
 
 }  // namespace
 
-const char* ModemField(const Context& context) {
+Field ModemField(const Context& context) {
   const auto& backup = context.service.backupModem;
-  return backup && &*backup == context.modem ? "backupModem" : "modem";
+  return backup && &*backup == context.modem ? Field::kBackupModem : Field::kModem;
 }
 
 bool IsDirect(const Context& context) {
@@ -57,14 +57,13 @@ StepOutcome SerialCall::OpenPort(Context& context, bool pauses) {
   return StepOutcome::Done(Found(device, modem));
 }
 
-StepOutcome SerialCall::Initialise(Context& context, const std::string& string, const char* field) {
+StepOutcome SerialCall::Initialise(Context& context, const std::string& string, Field field) {
   if (IsDirect(context)) return StepOutcome::NotNeeded("The port is used directly.");
   Conversation line = Talk(context);
   return modem_.Initialise(line, string, field);
 }
 
-StepOutcome SerialCall::DialForCarrier(Context& context, const std::string& command,
-                                       const char* phone_field) {
+StepOutcome SerialCall::DialForCarrier(Context& context, const std::string& command, Field phone_field) {
   if (IsDirect(context)) return StepOutcome::NotNeeded("The port is used directly.");
   if (context.modem->dialPrefix.empty()) return NoPrefix();
   Conversation line = Talk(context);
@@ -72,7 +71,7 @@ StepOutcome SerialCall::DialForCarrier(Context& context, const std::string& comm
 }
 
 StepOutcome SerialCall::DialKeyed(Context& context, const std::string& command, Conversation::Limit keying,
-                                  const char* phone_field) {
+                                  Field phone_field) {
   if (context.modem->dialPrefix.empty()) return NoPrefix();
   Conversation line = Talk(context);
   return modem_.DialKeyed(line, command, keying, phone_field);

@@ -17,10 +17,10 @@ class SerialCall {
   /// Opens the port, with the line settings of the service. `pauses`: the device may hold back what it is sent.
   StepOutcome OpenPort(Context& context, bool pauses);
   /// The steps below are not needed where the port is used directly.
-  StepOutcome Initialise(Context& context, const std::string& string, const char* field);
-  StepOutcome DialForCarrier(Context& context, const std::string& command, const char* phone_field);
+  StepOutcome Initialise(Context& context, const std::string& string, Field field);
+  StepOutcome DialForCarrier(Context& context, const std::string& command, Field phone_field);
   StepOutcome DialKeyed(Context& context, const std::string& command, Conversation::Limit keying,
-                        const char* phone_field);
+                        Field phone_field);
   /// Hangs up and closes the port; safe whatever was reached.
   StepOutcome Close(Context& context);
 
@@ -36,8 +36,8 @@ class SerialCall {
   ModemDialogue modem_;
 };
 
-/// "modem" or "backupModem": where the service has the modem of this try.
-const char* ModemField(const Context& context);
+/// The field where the service has the modem of this try.
+Field ModemField(const Context& context);
 /// True where no modem is between the port and the device.
 bool IsDirect(const Context& context);
 

@@ -9,6 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "server/field.h"
+
 namespace alertserver {
 
 /// How a line is set, with the codes of the modem records: `stopBitsCode` 0 one, 1 one and a half, 2 two; `parityCode` 0
@@ -33,7 +35,7 @@ class SerialLine {
 /// Why a line cannot be had, and what to correct.
 struct LineProblem {
   std::string text;
-  std::string field;  ///< as the configuration file names it
+  Field field = Field::kNothing;
 };
 
 /// Opens the line of a device; null with the problem told where it cannot be had.

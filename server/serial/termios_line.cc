@@ -116,20 +116,20 @@ std::unique_ptr<SerialLine> OpenTermiosLine(const std::string& device, const Lin
   auto lock = std::make_unique<LineLock>(path, kLockDirectory);
   if (lock->Holder() != 0) {
     problem = {"The serial port " + path + " is in use by process " + std::to_string(lock->Holder()) + ".",
-               "modems.comPort"};
+               Field::kComPort};
     return nullptr;
   }
   platform::Descriptor port(open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC));
   const auto before = port.IsOpen() ? ReadPort(port.Get()) : std::nullopt;
   if (!before || !MakeExclusive(port.Get())) {
-    problem = {WhyNotOpened(path), "modems.comPort"};
+    problem = {WhyNotOpened(path), Field::kComPort};
     return nullptr;
   }
   auto line = std::make_unique<TermiosLine>(std::move(lock), std::move(port), *before);
   if (!line->SetUp(settings)) {
     problem = {"The serial port " + path + " cannot run at " + std::to_string(settings.baudRate) +
                    " bits per second.",
-               "baudRate"};
+               Field::kBaudRate};
     return nullptr;
   }
   return line;

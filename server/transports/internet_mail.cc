@@ -46,7 +46,7 @@ std::string OwnName() {
 struct Trouble {
   Verdict unanswered = Verdict::kNotReached;  ///< the verdict where the server said nothing
   const char* what;                           ///< "The mail server refused the recipient."
-  const char* field;
+  Field field;
 };
 
 class InternetMail : public Transport {
@@ -56,19 +56,20 @@ class InternetMail : public Transport {
                             {"Write the mail", [this](Context& given) { return Compose(given); }},
                             {"Resolve the name", [this](Context& given) { return Resolve(given); }}};
     Add(steps, "Connect", SmtpState::kConnected,
-        {Verdict::kNotReached, "The mail server does not take connections.", "smtpServer"});
+        {Verdict::kNotReached, "The mail server does not take connections.", Field::kSmtpServer});
     Add(steps, "Greeting", SmtpState::kGreeted,
-        {Verdict::kNotReached, "What answers there does not greet as a mail server.", "smtpServer"});
+        {Verdict::kNotReached, "What answers there does not greet as a mail server.", Field::kSmtpServer});
     Add(steps, "Introduce", SmtpState::kIntroduced,
-        {Verdict::kNotReached, "The mail server does not answer to this machine's name.", "smtpServer"});
+        {Verdict::kNotReached, "The mail server does not answer to this machine's name.",
+         Field::kSmtpServer});
     steps.push_back({"Encrypt (TLS)", [this](Context& given) { return Encrypt(given); }});
     steps.push_back({"Log in", [this](Context& given) { return LogIn(given); }});
     Add(steps, "Sender", SmtpState::kSenderTaken,
-        {Verdict::kNotReached, "The mail server does not take mail from this sender.", "loginId"});
+        {Verdict::kNotReached, "The mail server does not take mail from this sender.", Field::kLoginId});
     Add(steps, "Recipient", SmtpState::kRecipientTaken,
-        {Verdict::kNotReached, "The mail server does not take mail for this recipient.", "address"});
+        {Verdict::kNotReached, "The mail server does not take mail for this recipient.", Field::kAddress});
     Add(steps, "Data", SmtpState::kDataSent,
-        {Verdict::kNotReached, "The mail server does not take the message.", "message"});
+        {Verdict::kNotReached, "The mail server does not take the message.", Field::kMessage});
     steps.push_back({"Accepted", [this](Context& given) { return Accept(given); }});
     limit_ = Context::Clock::now() + std::min(context.settings.mail_limit, context.Left());
     return steps;
@@ -89,7 +90,7 @@ class InternetMail : public Transport {
   StepOutcome Compose(const Context& context) {
     if (!IsMailAddress(request_.to))
       return StepOutcome::Failed(Verdict::kRefused, request_.to,
-                                 "The recipient's address is no mail address.", "address");
+                                 "The recipient's address is no mail address.", Field::kAddress);
     request_.own_name = OwnName();
     request_.login = context.service.Text("loginId");
     request_.password = context.service.Text("password");
@@ -120,18 +121,18 @@ class InternetMail : public Transport {
       return StepOutcome::Failed(Verdict::kNotPossible, request_.host,
                                  request_.host.empty() ? "The service has no mail server."
                                                        : "The name of the mail server cannot be one.",
-                                 "smtpServer");
+                                 Field::kSmtpServer);
     talk_ = std::make_unique<SmtpTalk>(request_, context.transcript);
     if (talk_->Reach(SmtpState::kResolved, limit_))
       return StepOutcome::Done(request_.host + ", port " + std::to_string(request_.port));
-    return Failure({Verdict::kNotReached, "The name of the mail server is not known.", "smtpServer"});
+    return Failure({Verdict::kNotReached, "The name of the mail server is not known.", Field::kSmtpServer});
   }
 
   StepOutcome Encrypt(const Context& context) {
     const bool reached = talk_->Reach(SmtpState::kEncrypted, limit_);
     if (!reached)
       return Failure({Verdict::kNotReached, "The encryption (TLS) could not be set up with the mail server.",
-                      "smtpServer"});
+                      Field::kSmtpServer});
     if (talk_->IsEncrypted())
       return StepOutcome::Done(context.settings.mail_tls == MailTls::kVerified
                                    ? "encrypted, certificate verified"
@@ -143,7 +144,7 @@ class InternetMail : public Transport {
   StepOutcome LogIn(const Context&) {
     if (!talk_->Reach(SmtpState::kLoggedIn, limit_))
       return Failure(
-          {Verdict::kNotReached, "The mail server refuses the login or its password.", "password"});
+          {Verdict::kNotReached, "The mail server refuses the login or its password.", Field::kPassword});
     if (request_.login.empty()) return StepOutcome::NotNeeded("the service has no login");
     if (!talk_->HasLoggedIn()) return StepOutcome::NotNeeded("the server does not offer it");
     return StepOutcome::Done(talk_->IsEncrypted() ? "logged in" : "logged in, without encryption");
@@ -152,7 +153,7 @@ class InternetMail : public Transport {
   StepOutcome Accept(const Context&) {
     if (talk_->Reach(SmtpState::kAccepted, limit_))
       return StepOutcome::Delivered(talk_->ReplyFor(SmtpState::kAccepted));
-    return Failure({Verdict::kNotReached, "The mail server did not accept the message.", "message"});
+    return Failure({Verdict::kNotReached, "The mail server did not accept the message.", Field::kMessage});
   }
 
   /// A reply of 400 and above is a refusal; anything else is the end of the talk.

@@ -27,14 +27,14 @@ class ProgramLaunch : public Transport {
     if (!program_.starts_with('/'))
       return StepOutcome::Failed(
           Verdict::kNotPossible, program_,
-          "The program is not named by a whole path of this machine (\"/usr/bin/...\").", "subject");
+          "The program is not named by a whole path of this machine (\"/usr/bin/...\").", Field::kSubject);
     if (!std::filesystem::is_regular_file(program_, none))
       return StepOutcome::Failed(Verdict::kNotReached, program_, "There is no such program on this machine.",
-                                 "subject");
+                                 Field::kSubject);
     if (access(program_.c_str(), X_OK) != 0)
       return StepOutcome::Failed(Verdict::kRefused, program_,
                                  "The file may not be run as a program by the account of the alert server.",
-                                 "subject");
+                                 Field::kSubject);
     return StepOutcome::Done(program_);
   }
 
@@ -44,7 +44,8 @@ class ProgramLaunch : public Transport {
     const auto words = SplitCommandLine(stored.text);
     if (!words)
       return StepOutcome::Failed(Verdict::kRefused, "",
-                                 "The command line has a quotation mark that is not closed.", "message");
+                                 "The command line has a quotation mark that is not closed.",
+                                 Field::kMessage);
     KeywordFiller filler(stored.keywords, context.job.keyword_sources);
     arguments_ = {program_};
     for (const std::string& word : *words) arguments_.push_back(filler.Fill(word));
@@ -58,7 +59,7 @@ class ProgramLaunch : public Transport {
     NoteOutput(result, context.transcript);
     if (result.end == ChildResult::End::kExited && result.status == 0)
       return StepOutcome::Delivered("exit status 0");
-    return ChildFailure(result, "program", "subject");
+    return ChildFailure(result, "program", Field::kSubject);
   }
 
   std::string program_;

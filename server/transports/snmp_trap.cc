@@ -12,8 +12,6 @@
 namespace alertserver {
 namespace {
 
-constexpr char kAddressField[] = "snmpManagers.address";
-
 struct FreeAddresses {
   void operator()(addrinfo* list) const { freeaddrinfo(list); }
 };
@@ -44,7 +42,8 @@ std::string NameOf(const SnmpManager& manager) {
 StepOutcome ByTrap(const TrapRequest& request, Context& context, const std::string& to) {
   const bool version_1 = context.settings.trap_version_1;
   if (const std::string problem = SendTrap(request, version_1); !problem.empty())
-    return StepOutcome::Failed(Verdict::kNotReached, problem, "The trap could not be sent.", kAddressField)
+    return StepOutcome::Failed(Verdict::kNotReached, problem, "The trap could not be sent.",
+                               Field::kSnmpAddress)
         .AndGoOn();
   context.transcript.Sent(std::string(version_1 ? "version 1" : "version 2c") + " trap to " + to);
   return StepOutcome::Sent(to + ": sent, not confirmed");
@@ -61,7 +60,7 @@ StepOutcome ByInform(const TrapRequest& request, Context& context, const std::st
     case InformAnswer::Kind::kRefused:
       context.transcript.Received("error response from " + to + ": " + answer.said);
       return StepOutcome::Failed(Verdict::kRefused, to + ": " + answer.said,
-                                 "An SNMP manager answered with an error.", "snmpManagers.community")
+                                 "An SNMP manager answered with an error.", Field::kSnmpCommunity)
           .AndGoOn();
     case InformAnswer::Kind::kSilent:
       context.transcript.Note("no answer to the inform");
@@ -79,7 +78,7 @@ StepOutcome Send(const SnmpManager& manager, Context& context) {
   const std::string address = NumericAddress(host, problem);
   if (address.empty())
     return StepOutcome::Failed(Verdict::kNotReached, host + ": " + problem,
-                               "The name or address of an SNMP manager is not known.", kAddressField)
+                               "The name or address of an SNMP manager is not known.", Field::kSnmpAddress)
         .AndGoOn();
   const TrapRequest request{address, context.settings.trap_port, manager.community,
                             context.settings.trap_enterprise, context.job.message};
@@ -97,8 +96,8 @@ class SnmpTrap : public Transport {
       return {NotPossibleStep("the site has no SNMP manager to send traps to. Add one.")};
     std::vector<Step> steps;
     for (const SnmpManager& manager : managers)
-      steps.push_back(
-          {"Send to " + NameOf(manager), [&manager](Context& given) { return Send(manager, given); }});
+      steps.push_back({"Send to " + NameOf(manager),
+                       [&manager](Context& given) { return Send(manager, given).Of(HostOf(manager)); }});
     return steps;
   }
 };

@@ -38,7 +38,7 @@ class BySystemProgram : public Transport {
   Step FindProgramStep() {
     return {"Find the " + what_, [this](Context&) { return Find(); }};
   }
-  StepOutcome Run(Context& context, const std::string& input, const std::string& field) {
+  StepOutcome Run(Context& context, const std::string& input, Field field) {
     const ChildResult result =
         RunChild(arguments_, input, std::min(context.settings.sound_limit, context.Left()));
     NoteOutput(result, context.transcript);
@@ -75,7 +75,7 @@ class WaveFile : public BySystemProgram {
             FindProgramStep(),
             {"Play the sound", [this](Context& context) {
                AddArgument(context.job.subject);
-               return Run(context, "", "subject");
+               return Run(context, "", Field::kSubject);
              }}};
   }
 
@@ -85,18 +85,18 @@ class WaveFile : public BySystemProgram {
     if (!path.starts_with('/'))
       return StepOutcome::Failed(
           Verdict::kNotPossible, path,
-          "The sound is not named by a whole path of this machine (\"/usr/share/...\").", "subject");
+          "The sound is not named by a whole path of this machine (\"/usr/share/...\").", Field::kSubject);
     const platform::Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     if (!file.IsOpen())
       return StepOutcome::Failed(
           Verdict::kNotReached, path,
-          "The file cannot be read on this machine by the account of the alert server.", "subject");
+          "The file cannot be read on this machine by the account of the alert server.", Field::kSubject);
     char header[12] = "";
     const ssize_t count = read(file.Get(), header, sizeof header);
     const std::string_view begins(header, count > 0 ? static_cast<std::size_t>(count) : 0);
     if (begins.size() == sizeof header && begins.starts_with("RIFF") && begins.ends_with("WAVE"))
       return StepOutcome::Done(path);
-    return StepOutcome::Failed(Verdict::kRefused, path, "The file is no wave sound.", "subject");
+    return StepOutcome::Failed(Verdict::kRefused, path, "The file is no wave sound.", Field::kSubject);
   }
 };
 
@@ -108,7 +108,7 @@ class TextToSpeech : public BySystemProgram {
     return {CheckTargetStep("a text is spoken"),
             FindProgramStep(),
             {"Speak the text",
-             [this](Context& context) { return Run(context, context.job.message, "message"); }}};
+             [this](Context& context) { return Run(context, context.job.message, Field::kMessage); }}};
   }
 };
 

@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "companions/agentui/agentui.h"
+#include "companions/agentui/corrections.h"
 #include "companions/agentui/delivering_managers.h"
 #include "companions/agentui/report.h"
 #include "companions/agentui/spool.h"
@@ -45,6 +46,8 @@ namespace {
 /// Waits that no test lasts as long as; a look takes a moment.
 constexpr agentui::TestTimes kPatient{milliseconds(1), hours(1), hours(1)};
 constexpr agentui::TestTimes kImpatient{milliseconds(1), milliseconds(5), hours(1)};
+
+constexpr char kCorrect[] = "Co&rrect...";
 
 /// What the callback is told, on whatever thread.
 class Told {
@@ -192,10 +195,12 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
   desktop_.script.ExpectWindow("Test Results", [](Person& person) {
     EXPECT_THAT(person.Screen(),
                 AllOf(HasSubstr("The test failed."), HasSubstr("refused the login"), HasSubstr("R&&D"),
-                      HasSubstr("Time taken: 2.3 s"), HasSubstr("password on the service's General page")));
+                      HasSubstr("Time taken: 2.3 s"),
+                      HasSubstr("the service's password, which its properties do not show")));
     EXPECT_THAT(person.Rows("&Steps:"), ElementsAre(ElementsAre("Connect", "done", "12 ms", "220 ready  "),
                                                     ElementsAre("Log in", "failed", "1.5 s", "535 no")));
     EXPECT_EQ(person.Text("&Transcript:"), "EHLO us\r\n535 no");
+    EXPECT_FALSE(person.IsVisible(kCorrect)) << "nobody is registered who has windows";
     person.Press("&Copy");
     person.Press("OK");
   });
@@ -207,6 +212,63 @@ TEST_F(TestSendsTest, AReportIsToldByItsJobAndShown) {
   EXPECT_THAT(desktop_.clipboard.value_or(""),
               AllOf(HasSubstr("The test failed.\nThe server refused the login.\n"),
                     HasSubstr("\nLog in: failed, 1.5 s, 535 no\n"), HasSubstr("\nEHLO us\n535 no")));
+}
+
+/// A host that opens no windows, but says so.
+class Host : public agentui::Corrections {
+ public:
+  Host() { agentui::RegisterCorrections(this); }
+  ~Host() override { agentui::RegisterCorrections(nullptr); }
+  bool CanOpen(const agentui::Correction& correction) const override { return correction.field != "odd"; }
+  bool Open(const agentui::Correction& correction) override {
+    wanted.push_back(correction);
+    return wanted.size() > 1;
+  }
+
+  std::vector<agentui::Correction> wanted;
+};
+
+TEST_F(TestSendsTest, TheFieldOfTheChosenStepIsCorrectedElseOfTheFirstThatFailed) {
+  record_.userId = platform::GUID::Generate();
+  const std::uint32_t job = SendOne();
+  Report report;
+  report.verdict = Report::Verdict::kNotReached;
+  report.steps = {{"Send to A", "done", 1, ""},
+                  {"Send to B", "failed", 1, "no", "snmpManagers.community", "b"},
+                  {"Send to C", "failed", 1, "unknown", "snmpManagers.address", "c&d"},
+                  {"Send to D", "failed", 1, "", "odd"}};
+  report.field = "snmpManagers.address";
+  ASSERT_TRUE(agentui::WriteReport(ReportPath(spool_, job), job, report));
+  Told::Wait(1);
+  Host host;
+  desktop_.script.ExpectWindow("Test Results", [](Person& person) {
+    EXPECT_THAT(person.Screen(), HasSubstr("the community name of the SNMP manager (b)."));
+    person.Press(kCorrect);
+  });
+  desktop_.script.ExpectWindow("Test Results", [&](Person& person) {
+    EXPECT_EQ(host.wanted.size(), 1u) << "what could not be opened comes back to the report";
+    person.ClickRow("&Steps:", 3);
+    EXPECT_FALSE(person.IsEnabled(kCorrect));
+    person.ClickRow("&Steps:", 2);
+    EXPECT_THAT(person.Screen(), HasSubstr("the name or address of the SNMP manager (c&&d)."));
+    person.Press(kCorrect);
+  });
+  component_->DisplayTestEventResultsDialog(nullptr, job);
+  desktop_.RunPosted();
+  ASSERT_THAT(host.wanted, SizeIs(2));
+  EXPECT_EQ(host.wanted[0].field + " " + host.wanted[0].record, "snmpManagers.community b");
+  EXPECT_EQ(host.wanted[1].field + " " + host.wanted[1].record, "snmpManagers.address c&d");
+  EXPECT_EQ(host.wanted[1].subject.service, record_.serviceId);
+  EXPECT_EQ(host.wanted[1].subject.target, record_.userId);
+
+  Lay("7.report.json", hours(0),
+      json({{"version", 1}, {"job", 7}, {"verdict", "refused"}, {"field", "address"}}).dump());
+  desktop_.script.ExpectWindow("Test Results", [](Person& person) {
+    EXPECT_FALSE(person.IsVisible(kCorrect)) << "another process's test: of what service?";
+    person.Press("OK");
+  });
+  component_->DisplayTestEventResultsDialog(nullptr, 7);
+  desktop_.RunPosted();
 }
 
 TEST_F(TestSendsTest, EveryVerdictOfAnAlertServerIsToldInWords) {

@@ -30,13 +30,14 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view all(reinterpret_cast<const char*>(data), size);
   ScriptedTalk carrier(RepliesIn(data, size)), keyed(RepliesIn(data, size));
   ModemDialogue modem, other;
-  if (modem.Initialise(carrier.talk, "ATZ", "initString").kind == Kind::kDone && !SaysOk(all)) std::abort();
-  const StepOutcome call = modem.DialForCarrier(carrier.talk, "ATDT1", "providerPhone");
+  if (modem.Initialise(carrier.talk, "ATZ", Field::kInitString).kind == Kind::kDone && !SaysOk(all))
+    std::abort();
+  const StepOutcome call = modem.DialForCarrier(carrier.talk, "ATDT1", Field::kProviderPhone);
   if (call.kind == Kind::kDone && !SaysConnect(all)) std::abort();
-  if (call.kind == Kind::kFailed && (call.explanation.empty() || call.field.empty())) std::abort();
+  if (call.kind == Kind::kFailed && (call.explanation.empty() || call.field == Field::kNothing)) std::abort();
   if (modem.TakeRest().size() > 2048) std::abort();
   modem.HangUp(carrier.talk, "+++", "ATH0");
-  const StepOutcome sent = other.DialKeyed(keyed.talk, "ATDT1,,2;", {}, "address");
+  const StepOutcome sent = other.DialKeyed(keyed.talk, "ATDT1,,2;", {}, Field::kAddress);
   if (sent.kind == Kind::kDone && (sent.verdict != Verdict::kSent || !SaysOk(all))) std::abort();
   return 0;
 }

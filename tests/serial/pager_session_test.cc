@@ -54,7 +54,7 @@ TEST(PagerSessionTest, LogsInAgainWhenAskedButNotForEver) {
   ScriptedTalk refused({"509 Password\r\x15\r", "\x15\r", "\x15\r", kLoggedIn});
   const StepOutcome outcome = PagerSession().LogIn(refused.talk);
   EXPECT_EQ(outcome.verdict, Verdict::kRefused);
-  EXPECT_EQ(outcome.field, "providerPhone");
+  EXPECT_EQ(outcome.field, Field::kProviderPhone);
   EXPECT_EQ(refused.line.written.size(), 3U);
   ScriptedTalk thrown_out({"507 No\r\x1B\x04\r"});
   EXPECT_EQ(PagerSession().LogIn(thrown_out.talk).verdict, Verdict::kRefused);
@@ -70,13 +70,13 @@ TEST(PagerSessionTest, SendsADamagedBlockAgainThreeTimes) {
   EXPECT_EQ(mended.written.front(), mended.written.back());
   const Sent hopeless = SendOne({"\x15\r", "\x15\r", "\x15\r", "\x15\r", "\x06\r"});
   EXPECT_EQ(hopeless.outcome.verdict, Verdict::kRefused);
-  EXPECT_EQ(hopeless.outcome.field, "baudRate");
+  EXPECT_EQ(hopeless.outcome.field, Field::kBaudRate);
   EXPECT_EQ(hopeless.written.size(), 4U);
 }
 
 TEST(PagerSessionTest, TellsWhyAPageWasNotTaken) {
-  EXPECT_EQ(SendOne({"511 Pager\r\x1E\r"}).outcome.field, "address");
-  EXPECT_EQ(SendOne({"513 Too long\r\x1E\r"}).outcome.field, "maxTextLength");
+  EXPECT_EQ(SendOne({"511 Pager\r\x1E\r"}).outcome.field, Field::kAddress);
+  EXPECT_EQ(SendOne({"513 Too long\r\x1E\r"}).outcome.field, Field::kMaxTextLength);
   EXPECT_EQ(SendOne({"\x1B\x04\r"}).outcome.verdict, Verdict::kNotReached);
   const Sent silent = SendOne({});
   EXPECT_EQ(silent.outcome.verdict, Verdict::kNotReached);

@@ -70,11 +70,11 @@ TEST_F(TermiosLineTest, BytesGoThroughUnchangedAndWaitsEnd) {
 
 TEST_F(TermiosLineTest, APortThatCannotBeHadSaysWhy) {
   EXPECT_EQ(OpenTermiosLine("/dev/null", {}, problem_), nullptr);
-  EXPECT_EQ(problem_.field, "modems.comPort");
+  EXPECT_EQ(problem_.field, Field::kComPort);
   EXPECT_EQ(OpenTermiosLine("/no/such/port", {}, problem_), nullptr);
   EXPECT_NE(problem_.text.find("No such file"), std::string::npos) << problem_.text;
   EXPECT_EQ(Open({0, 8, 0, 0, false}), nullptr);
-  EXPECT_EQ(problem_.field, "baudRate");
+  EXPECT_EQ(problem_.field, Field::kBaudRate);
 }
 
 class LineLockTest : public testing::Test {

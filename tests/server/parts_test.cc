@@ -11,6 +11,7 @@
 #include "server/settings.h"
 #include "tests/server/test_site.h"
 
+using alertserver::Field;
 using alertserver::StepOutcome;
 using alertserver::Verdict;
 using testing::AllOf;
@@ -82,16 +83,20 @@ alertserver::RunResult RunAll(const std::vector<std::pair<StepOutcome, bool>>& g
 }
 
 TEST(ServerRunner, StopsAtTheFirstFailureButHangsUp) {
-  const auto result =
-      RunAll({{StepOutcome::Done("hello\r\n\x1B"), false},
-              {StepOutcome::Failed(Verdict::kNotReached, "busy", "It was busy.", "phone"), false},
-              {StepOutcome::Sent(), false},
-              {StepOutcome::Failed(Verdict::kRefused, "", "No hanging up."), true}});
+  const auto result = RunAll(
+      {{StepOutcome::Done("hello\r\n\x1B"), false},
+       {StepOutcome::Failed(Verdict::kNotReached, "busy", "It was busy.", Field::kAddress).Of("Line 2"),
+        false},
+       {StepOutcome::Sent(), false},
+       {StepOutcome::Failed(Verdict::kRefused, "", "No hanging up."), true}});
   ASSERT_THAT(result.steps, SizeIs(3));
   EXPECT_EQ(result.steps[0].said, "hello\\x0D\\x0A\\x1B");
   EXPECT_EQ(result.steps[1].result, "failed");
   EXPECT_EQ(result.verdict, Verdict::kNotReached);
-  EXPECT_EQ(result.field, "phone");
+  EXPECT_EQ(result.field, "address");
+  EXPECT_EQ(result.steps[1].field, "address");
+  EXPECT_EQ(result.steps[1].record, "Line 2");
+  EXPECT_EQ(result.steps[0].field, "") << "a step that went on asks for nothing";
   EXPECT_EQ(result.explanation, "It was busy.");
 }
 

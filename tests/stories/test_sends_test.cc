@@ -3,6 +3,7 @@
 #include <thread>
 
 #include "alerting/testing/sends.h"
+#include "companions/agentui/corrections.h"
 #include "companions/alertrecords/test_response.h"
 #include "companions/alertstore/computers.h"
 #include "tests/stories/service_sheet_fixture.h"
@@ -121,8 +122,14 @@ TEST_F(TestSendsTest, AReportIsShownOnceEvenWhenTheDialogIsGoneAndItComesOnAnoth
   Expect([](Person& p) { p.Press("Cancel"); });  // posted work runs while a window is open
   Open();
   EXPECT_THAT(AgentUi().recorded, ElementsAre("register", "send", "report 7", "report 8"));
+  struct : agentui::Corrections {
+    bool CanOpen(const agentui::Correction&) const override { return false; }
+    bool Open(const agentui::Correction&) override { return false; }
+  } host;
+  agentui::RegisterCorrections(&host);
   ForgetTests();
   EXPECT_EQ(AgentUi().report, nullptr) << "a library that goes takes its callback along";
+  EXPECT_EQ(agentui::RegisteredCorrections(), nullptr) << "and its windows";
 }
 
 TEST_F(TestSendsTest, AFileIsTestedOnAComputer) {

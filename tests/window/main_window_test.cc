@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "companions/agentui/results_dialog.h"
 #include "companions/alertstore/console_users.h"
 #include "console/site/backup_manager.h"
 #include "console/site/dialing_rules.h"
@@ -259,6 +260,48 @@ TEST_F(MainWindowTest, RenamingReachesAllThatBearTheName) {
   Give("Remove User");
   EXPECT_TRUE(Window().Site().users.empty());
   EXPECT_TRUE(Window().Site().entries.empty()) << "nobody unseen is alerted";
+}
+
+agentui::Report Refused(const std::string& field, const std::string& record = {}) {
+  agentui::Report report;
+  report.verdict = agentui::Report::Verdict::kRefused;
+  report.steps = {{"Connect", "failed", 12, "no", field, record}};
+  report.field = field;
+  return report;
+}
+
+TEST_F(MainWindowTest, AReportLeadsToTheFieldInTheSheetThatIsOpenOrInOneOfItsOwn) {
+  OpenSetUp();
+  const GUID mail = ServiceNamed(Window().Site(), "Internet Mail")->id;
+  Choose("Services", "SNMP Trap");
+  Script().ExpectWindow("Test Results", [](Person& p) { p.Press("Co&rrect..."); });
+  Script().ExpectWindow("Internet Mail", [&](Person& p) {
+    EXPECT_EQ(p.FocusedLabel(), "&SMTP Server:");
+    p.TypeHere("mail.example.org");
+    p.SelectTab("Default Message");
+    Script().ExpectWindow("Test Results", [](Person& results) { results.Press("Co&rrect..."); });
+    agentui::ShowTestResults(nullptr, Refused("smtpServer"), {mail, {}});
+    EXPECT_EQ(p.FocusedLabel(), "&SMTP Server:") << "no second sheet";
+    EXPECT_EQ(p.Text("&SMTP Server:"), "mail.example.org");
+    p.Press("OK");
+  });
+  agentui::ShowTestResults(nullptr, Refused("smtpServer"), {mail, {}});
+  EXPECT_THAT(Managers(), HasSubstr("mail.example.org")) << "and the alert managers know";
+  EXPECT_EQ(Chosen("Services"), "SNMP Trap") << "the person is back";
+
+  const GUID user = test_support::MakeUser("Ann");
+  Script().ExpectWindow("Test Results", [](Person& p) { p.Press("Co&rrect..."); });
+  Script().ExpectWindow("Service Properties", [&](Person& p) {
+    p.Type("Email A&ddress:", "ann@example.org");
+    p.Press("OK");
+  });
+  agentui::ShowTestResults(nullptr, Refused("address"), {mail, user});
+  EXPECT_THAT(Managers(), HasSubstr("ann@example.org"));
+  Script().ExpectWindow("Test Results", [](Person& p) {
+    EXPECT_FALSE(p.IsEnabled("Co&rrect...")) << "no window has it";
+    p.Press("OK");
+  });
+  agentui::ShowTestResults(nullptr, Refused("password"), {mail, user});
 }
 
 TEST_F(MainWindowTest, DialingRulesAreKeptHoweverLong) {

@@ -126,6 +126,14 @@ class Inspector {
   HelpDesktop& desktop_;
 };
 
+/// Has the results of a test show all their buttons.
+struct Host : agentui::Corrections {
+  Host() { agentui::RegisterCorrections(this); }
+  ~Host() override { agentui::RegisterCorrections(nullptr); }
+  bool CanOpen(const agentui::Correction&) const override { return true; }
+  bool Open(const agentui::Correction&) override { return true; }
+};
+
 /// A console's wizard around a panel for a new response.
 void ShowResponsePanel(int index) {
   alertstore::ALERTRESPREC response{};
@@ -190,10 +198,15 @@ TEST(AllWindows, AreWholeAndWorkWithoutAMouseOrASight) {
                                "CONSOLE",
                                "2026-03-01T08:30:05Z",
                                "2026-03-01T08:30:07Z",
-                               {{"Log in", "failed", 40, "535 authentication failed"}},
+                               {{"Log in", "failed", 40, "535 authentication failed", "password"}},
                                "EHLO console\n535 authentication failed",
                                "password"};
-  tour.Visit("results", [&] { agentui::ShowTestResults(nullptr, report); });
+  {
+    const Host host;
+    tour.Visit("results", [&] {
+      agentui::ShowTestResults(nullptr, report, {platform::GUID::Generate(), {}});
+    });
+  }
   VisitConsole(tour);
   EXPECT_THAT(inspector.faults, ElementsAre());
   EXPECT_THAT(HelpFilesNotSeen(inspector.pages), IsEmpty());
