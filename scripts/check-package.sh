@@ -75,6 +75,8 @@ as_user alertctl service copy "Wave File" "Second sound"
 as_user alertctl config write
 as_user alertserver --once 1 && fail "the alert server answered a test that nobody sent" || [ $? = 3 ] || fail "the alert server"
 as_user alertlab <<<quit
+program=$(sed -n 's/^ExecStart=//p' "$root/usr/lib/systemd/user/alertserver.service")
+[ "$program" = /usr/bin/alertserver ] && [ -x "$root$program" ] || fail "the unit starts \"$program\""
 for page in alertctl alertconsole alertserver alertlab alert-managers.json; do
   as_user man "$page" | grep NAME >/dev/null || fail "there is no manual page $page"
 done
