@@ -12,6 +12,15 @@ namespace desktops::qt {
 
 using platform::ui::Change;
 
+namespace {
+
+bool HasFocusIn(const QWidget& widget) {
+  const QWidget* focus = QApplication::focusWidget();
+  return focus == &widget || widget.isAncestorOf(focus);
+}
+
+}  // namespace
+
 QWidget* WidgetOwner::WidgetOf(const platform::ui::Window* window) {
   if (window == nullptr) return nullptr;
   auto* owner = dynamic_cast<WidgetOwner*>(window->Observer());
@@ -40,9 +49,7 @@ void ControlAdapter::SetLabelWidget(QLabel* label) {
 }
 
 void ControlAdapter::TakeFocus() {
-  if (!widget_->isAncestorOf(QApplication::focusWidget()) && QApplication::focusWidget() != widget_) {
-    FirstFocus()->setFocus(Qt::OtherFocusReason);
-  }
+  if (!HasFocusIn(*widget_)) FirstFocus()->setFocus(Qt::OtherFocusReason);
 }
 
 void ControlAdapter::OnWindowChanged(platform::ui::Window&, Change change) {
@@ -57,6 +64,9 @@ void ControlAdapter::OnWindowChanged(platform::ui::Window&, Change change) {
       RefreshShown();
       break;
     case Change::kFocus:
+      // Where the program moves the focus is to be seen, though no key was pressed.
+      if (widget_->isVisible() && !HasFocusIn(*widget_))
+        widget_->window()->setAttribute(Qt::WA_KeyboardFocusChange);
       TakeFocus();
       break;
     case Change::kDestroyed:

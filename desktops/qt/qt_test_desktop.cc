@@ -67,7 +67,14 @@ int QtTestDesktop::Exec(QDialog& window) {
   return QtDesktop::Exec(window);
 }
 
+// A program that goes on by itself may have opened another window over this one. Its person comes first; then the window is
+// brought back, as a window manager does.
 void QtTestDesktop::Play(QDialog& window) {
+  if (QApplication::activeModalWidget() != &window) {
+    QTimer::singleShot(1, &window, [this, &window] { Play(window); });
+    return;
+  }
+  window.activateWindow();
   if (!QTest::qWaitForWindowActive(&window)) {
     script.AddFailure("The window \"" + FromQt(window.windowTitle()) + "\" did not become the active one");
   }
