@@ -3,8 +3,6 @@
 
 #include <exception>
 
-#include "server/plain_text.h"
-
 namespace alertserver {
 namespace {
 
@@ -66,7 +64,7 @@ RunResult RunSteps(const std::vector<Step>& steps, Context& context) {
     const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(Context::Clock::now() - started);
     tally.Rows().steps.push_back({step.name, ResultText(outcome.kind),
                                   static_cast<std::uint64_t>(taken.count()),
-                                  PlainLine(outcome.said, kMaxSaid)});
+                                  context.transcript.PlainLine(outcome.said, kMaxSaid)});
     tally.Add(step, outcome);
   }
   return std::move(tally).Result();
