@@ -87,8 +87,13 @@ class Tries {
   }
 
   void Try(const std::optional<ModemLink>& modem, const std::string& mark, std::chrono::milliseconds time) {
-    Context context{
-        job_, service_, configuration_, settings_, modem ? &*modem : nullptr, Context::Clock::now() + time};
+    Context context{job_,
+                    service_,
+                    configuration_,
+                    settings_,
+                    modem ? &*modem : nullptr,
+                    Context::Clock::now() + time,
+                    Transcript(SecretsOf(service_, configuration_))};
     const TransportPtr transport = row_.make();
     RunResult result = RunSteps(transport->Steps(context), context);
     for (ReportStep& step : result.steps) {

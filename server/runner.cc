@@ -3,8 +3,6 @@
 
 #include <exception>
 
-#include "server/plain_text.h"
-
 namespace alertserver {
 namespace {
 
@@ -71,9 +69,10 @@ RunResult RunSteps(const std::vector<Step>& steps, Context& context) {
     const auto started = Context::Clock::now();
     const StepOutcome outcome = Guarded(step, context);
     const auto taken = std::chrono::duration_cast<std::chrono::milliseconds>(Context::Clock::now() - started);
-    tally.Rows().steps.push_back(
-        {step.name, ResultText(outcome.kind), static_cast<std::uint64_t>(taken.count()),
-         PlainLine(outcome.said, kMaxSaid), std::string(NameOf(outcome.field)), RecordOf(outcome, context)});
+    tally.Rows().steps.push_back({step.name, ResultText(outcome.kind),
+                                  static_cast<std::uint64_t>(taken.count()),
+                                  context.transcript.PlainLine(outcome.said, kMaxSaid),
+                                  std::string(NameOf(outcome.field)), RecordOf(outcome, context)});
     tally.Add(step, outcome);
   }
   return std::move(tally).Result();

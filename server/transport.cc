@@ -13,6 +13,10 @@ constexpr std::size_t kMaxTranscript = 32 * 1024;
 
 }  // namespace
 
+std::string Transcript::PlainLine(std::string_view said, std::size_t limit) const {
+  return alertserver::PlainLine(secrets_.Mask(std::string(said)), limit);
+}
+
 void Transcript::Add(std::string_view mark, std::string_view line) {
   if (text_.size() >= kMaxTranscript) return;
   text_.append(mark).append(PlainLine(line, kMaxTranscript - text_.size())).append("\n");

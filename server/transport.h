@@ -12,6 +12,7 @@
 #include "server/configuration.h"
 #include "server/field.h"
 #include "server/job.h"
+#include "server/secrets.h"
 #include "server/settings.h"
 #include "server/verdict.h"
 
@@ -69,19 +70,25 @@ struct StepOutcome {
   }
 };
 
-/// All that was said, one line each, as the report has it. Secrets are masked by the runner; what a transport knows to be
-/// one, such as an answer to a login, it leaves out itself.
+/// All that was said, one line each, as the report has it, with secrets masked. What a transport knows to be one, such as
+/// an answer to a login, it leaves out itself.
 class Transcript {
  public:
+  explicit Transcript(Secrets secrets = {}) : secrets_(std::move(secrets)) {}
   void Sent(std::string_view line) { Add("> ", line); }
   void Received(std::string_view line) { Add("< ", line); }
   void Note(std::string_view line) { Add("* ", line); }
   const std::string& Text() const { return text_; }
 
+  /// What was said as one line without secrets, of which no more than `limit` bytes are kept. They are masked first: half
+  /// a secret would not be found any more.
+  std::string PlainLine(std::string_view said, std::size_t limit) const;
+
  private:
   /// Bytes that cannot be shown are written as "\x1B"; lines too many are left out.
   void Add(std::string_view mark, std::string_view line);
 
+  Secrets secrets_;
   std::string text_;
 };
 

@@ -24,7 +24,9 @@ Library::Library() : stores_(std::make_shared<StoreWatch>()) {
   calls_.DomainServiceSetBackupServer(site::ReadBackupManager());
 }
 
+/// The report of a test arrives on a thread of the library's, which ends no sooner than the library itself.
 Library::~Library() {
+  windows_.ForgetPosted();
   calls_.CloseDBs();
   alertstore::SetEngine(nullptr);
 }

@@ -74,7 +74,13 @@ ScriptedDesktop::~ScriptedDesktop() { Desktop::SetCurrent(before_); }
 
 void ScriptedDesktop::Post(std::function<void()> task) {
   const std::lock_guard lock(mutex_);
-  posted_.push_back(std::move(task));
+  if (!forgets_posted_) posted_.push_back(std::move(task));
+}
+
+void ScriptedDesktop::ForgetPosted() {
+  const std::lock_guard lock(mutex_);
+  forgets_posted_ = true;
+  posted_.clear();
 }
 
 void ScriptedDesktop::RunPosted() {

@@ -38,6 +38,8 @@ class ScriptedDesktop : public platform::ui::Desktop {
   void FinishSound();
   /// Runs what other threads have posted; RunModal does so too.
   void RunPosted();
+  /// Forgets what has been posted, and whatever is from now on: the library whose code that is may be about to go.
+  void ForgetPosted();
 
   int RunModal(platform::ui::Modal& modal) override;
   platform::ui::Answer ShowMessage(const platform::ui::Message& message) override;
@@ -70,6 +72,7 @@ class ScriptedDesktop : public platform::ui::Desktop {
   std::vector<platform::ui::Window*> open_;
   std::mutex mutex_;
   std::vector<std::function<void()>> posted_;
+  bool forgets_posted_ = false;
   std::function<void()> sound_finished_;
 };
 

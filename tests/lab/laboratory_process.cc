@@ -25,11 +25,11 @@ std::filesystem::path NewFolder() {
 }
 
 /// In the child: only calls that are safe in the child of a program with threads.
-[[noreturn]] void Become(std::vector<char*>& words, int input) {
-  const int nowhere = open("/dev/null", O_WRONLY);
+[[noreturn]] void Become(std::vector<char*>& words, int input, const char* said) {
+  const int output = open(said, O_WRONLY | O_CREAT | O_APPEND, 0600);
   dup2(input, STDIN_FILENO);
-  dup2(nowhere, STDOUT_FILENO);
-  dup2(nowhere, STDERR_FILENO);
+  dup2(output, STDOUT_FILENO);
+  dup2(output, STDERR_FILENO);
   execv(words.front(), words.data());
   _exit(127);
 }
@@ -54,8 +54,9 @@ void LaboratoryProcess::Start(const std::vector<std::string>& arguments) {
   words.push_back(nullptr);
   int ends[2];
   if (pipe2(ends, O_CLOEXEC) != 0) return;
+  const std::string said = folder_ / "said";
   process_ = fork();
-  if (process_ == 0) Become(words, ends[0]);
+  if (process_ == 0) Become(words, ends[0], said.c_str());
   close(ends[0]);
   control_ = ends[1];
 }
@@ -84,6 +85,11 @@ std::vector<json> LaboratoryProcess::Arrivals(const std::string& device, const s
     Nap();
   }
   return found;
+}
+
+std::string LaboratoryProcess::Said() const {
+  std::ifstream file(folder_ / "said");
+  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 void LaboratoryProcess::Tell(const std::string& line) const {

@@ -24,6 +24,8 @@ class LaboratoryProcess {
   /// What a device received, once there are at least `count` such arrivals or seconds have gone by.
   std::vector<nlohmann::json> Arrivals(const std::string& device, const std::string& what,
                                        std::size_t count) const;
+  /// What it has shown.
+  std::string Said() const;
   /// A line for the control.
   void Tell(const std::string& line) const;
   /// Sends it SIGTERM; its exit code, -1 where a signal ended it.

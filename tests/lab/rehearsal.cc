@@ -9,8 +9,6 @@ using namespace alertserver;
 
 namespace {
 
-const std::string kNumber = "5550200", kProvider = "5550100";
-
 std::uint32_t PortFor(std::string_view type) { return type == "generic-port" ? 3 : 1; }
 
 std::string AddressFor(std::string_view type) {

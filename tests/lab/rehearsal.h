@@ -13,6 +13,8 @@
 namespace rehearsal {
 
 inline constexpr char kManager[] = "ALPHA";
+/// Numbers that the laboratory knows: of a numeric pager terminal, and of an alphanumeric one.
+inline constexpr char kNumber[] = "5550200", kProvider[] = "5550100";
 
 /// COM1 is the modem, COM2 the backup modem, COM3 the printer, COM4 the pager terminal.
 alertserver::ModemLink LinkTo(std::string_view type, std::uint32_t com_port);

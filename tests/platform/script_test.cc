@@ -122,5 +122,17 @@ TEST_F(ScriptTest, SleepsAreRecordedAndLetPostedTasksRun) {
   EXPECT_THAT(desktop_.script.sleeps, ElementsAre(60000u));
 }
 
+/// A program that unloads the library whose code is posted has none of it left behind.
+TEST_F(ScriptTest, PostedTasksAreForgottenBeforeTheirLibraryGoes) {
+  const auto held = std::make_shared<int>();
+  const auto task = [held] { ++*held; };
+  desktop_.Post(task);
+  desktop_.ForgetPosted();
+  desktop_.Post(task);
+  EXPECT_EQ(held.use_count(), 2) << "the test's own and the task's";
+  desktop_.RunPosted();
+  EXPECT_EQ(*held, 0);
+}
+
 }  // namespace
 }  // namespace desktops

@@ -3,10 +3,7 @@
 #include <gmock/gmock.h>
 #include <netinet/in.h>
 #include <poll.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/socket.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -97,11 +94,8 @@ class ServerSnmp : public testing::Test {
                                                    {"enabled", enabled}});
     site_.WriteConfiguration();
   }
-  Json Send(const Receiver& receiver, const Json& more = Json::object()) {
-    return Send(receiver.Port(), more);
-  }
-  Json Send(std::uint16_t port, Json more = Json::object()) {
-    more["trapPort"] = port;
+  Json Send(const Receiver& receiver, Json more = Json::object()) {
+    more["trapPort"] = receiver.Port();
     if (!more.contains("informMilliseconds")) more["informMilliseconds"] = 200;
     site_.WriteSettings(more);
     Json report = site_.Serve(++job_);
@@ -134,63 +128,6 @@ TEST_F(ServerSnmp, ATrapFollowsAnInformThatNobodyAnswers) {
   EXPECT_NE(receiver.Packets()[0].find(kInform), std::string::npos);
   EXPECT_NE(receiver.Packets()[1].find(kTrap2), std::string::npos);
   EXPECT_TRUE(receiver.Packets()[1].ends_with("It is Test \xC3\xBC"));
-}
-
-/// A receiver that is not of this project.
-class TrapDaemon {
- public:
-  TrapDaemon(const std::string& program, const std::string& directory, std::uint16_t port)
-      : log_(directory + "/traps") {
-    test_support::WriteFile(directory + "/trapd.conf", "authCommunity log MARKED-SECRET-2\n");
-    std::vector<std::string> words{program,
-                                   "-f",
-                                   "-On",
-                                   "-Ox",
-                                   "-C",
-                                   "-c",
-                                   directory + "/trapd.conf",
-                                   "-Lf",
-                                   log_,
-                                   "udp:127.0.0.1:" + std::to_string(port)};
-    std::vector<char*> arguments;
-    for (std::string& word : words) arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    EXPECT_EQ(posix_spawn(&pid_, program.c_str(), nullptr, nullptr, arguments.data(), environ), 0);
-  }
-  ~TrapDaemon() {
-    kill(pid_, SIGKILL);
-    waitpid(pid_, nullptr, 0);
-  }
-  std::string Log() const { return test_support::ReadFile(log_); }
-
- private:
-  const std::string log_;
-  pid_t pid_ = 0;
-};
-
-TEST_F(ServerSnmp, ATrapDaemonOfTheSystemTakesAllThreeKinds) {
-  const char* const program = "/usr/sbin/snmptrapd";
-  if (access(program, X_OK) != 0) GTEST_SKIP() << "snmptrapd is not installed";
-  std::uint16_t port = 0;
-  {
-    const Receiver free_port(false);
-    port = free_port.Port();
-  }
-  const TrapDaemon daemon(program, site_.Data(), port);
-  Json report = Json::object();
-  for (int tries = 0; tries < 40 && report.value("verdict", "") != "delivered"; ++tries) report = Send(port);
-  EXPECT_EQ(report["verdict"], "delivered") << report.dump(1) << daemon.Log();
-  Send(port, {{"informMilliseconds", 0}});
-  Send(port, {{"trapVersion", "1"}});
-  const auto count = [&] {
-    std::size_t found = 0;
-    const std::string log = daemon.Log(), octets = "49 74 20 69 73 20 54 65 73 74 20 C3 BC";
-    for (std::size_t at = 0; (at = log.find(octets, at)) != std::string::npos; ++at) ++found;
-    return log.find("SNMP v1") != std::string::npos ? found : 0;
-  };
-  for (int tries = 0; tries < 200 && count() < 3; ++tries)
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  EXPECT_GE(count(), 3u) << daemon.Log();
 }
 
 TEST_F(ServerSnmp, Version1AndTrapsAloneAreChosenInTheSettings) {

@@ -101,7 +101,7 @@ void CountArrivals(const LaboratoryProcess& laboratory, const Cell& cell, Result
 const std::map<std::string, std::vector<std::string>> kTests = {
     {"internet-mail", {"entry", "test", "Ann", "Internet Mail", "--message", "Tank 4 is overfull"}},
     {"snmp-trap", {"service", "test", "SNMP Trap", "--message", "Tank 4 is overfull"}},
-    {"numeric-pager", {"entry", "test", "Ann", "Numeric Pager", "--message", "555-4711"}},
+    {"numeric-pager", {"entry", "test", "Ann", "Numeric Pager", "--message", "5554711"}},
     {"alphanumeric-pager", {"entry", "test", "Ann", "Alphanumeric Pager", "--message", "Tank 4 is overfull"}},
     {"generic-port", {"service", "test", "Generic Port Service", "--message", "Tank 4 is overfull"}}};
 
