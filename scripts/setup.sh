@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that building and testing need and that are missing; says which. The optional ones may be
 # missing: without Qt's packages everything but the Qt desktop and the console window is still built, without those of curl
-# and net-snmp the alert server sends neither mail nor traps, without the counterparts the tests that speak to them are
-# skipped. With the argument "packages", also what making and checking Debian packages needs.
+# and net-snmp the alert server sends neither mail nor traps. With the argument "tests", also the counterparts: without them
+# the tests that speak to them are skipped. With "packages", also what making and checking Debian packages needs.
 set -euo pipefail
 
 required=(g++ cmake ninja-build pkg-config libsqlite3-dev nlohmann-json3-dev libcli11-dev libcsv-dev libgtest-dev
@@ -58,9 +58,10 @@ install_counterparts() {
 
 mapfile -t need < <(missing "${required[@]}")
 mapfile -t want < <(missing "${optional[@]}")
-mapfile -t test_with < <(missing "${counterparts[@]}")
+test_with=()
+[ "${1:-}" != tests ] || mapfile -t test_with < <(missing "${counterparts[@]}")
 [ $((${#need[@]} + ${#want[@]} + ${#test_with[@]})) -gt 0 ] || exit 0
-as_root apt-get update -qq
+as_root apt-get update -qq || [ ${#need[@]} = 0 ]
 [ ${#need[@]} = 0 ] || install "${need[@]}"
 [ ${#want[@]} = 0 ] || install "${want[@]}" || echo "Going on without: ${want[*]}"
 [ ${#test_with[@]} = 0 ] || install_counterparts "${test_with[@]}"
