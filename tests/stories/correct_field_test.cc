@@ -3,6 +3,7 @@
 #include "console/hosts/correct_field.h"
 
 #include "alerting/services/ntfy_service_alpha.h"
+#include "companions/agentui/results_dialog.h"
 #include "companions/alertstore/console_users.h"
 #include "console/hosts/field_places.h"
 #include "console/site/starter.h"
@@ -145,6 +146,11 @@ TEST_F(CorrectFieldTest, NoFieldOfTheServersListIsWithoutAPlaceOrUntried) {
   for (const hosts::FieldPlace& place : hosts::FieldPlaces()) placed.insert(place.field);
   for (const Way& way : kWays) tried.insert(way.field);
   EXPECT_EQ(placed, reported);
+  for (const std::string_view field : reported) {
+    agentui::Report report;
+    report.field = field;
+    EXPECT_THAT(agentui::ReportText(report), Not(HasSubstr("the field \""))) << "no words for it";
+  }
   for (const char* nowhere : {"loginId", "password"}) {
     EXPECT_TRUE(tried.insert(nowhere).second);
     EXPECT_FALSE(hosts::HasWindow({nowhere, "", {}}));
