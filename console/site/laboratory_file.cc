@@ -9,6 +9,7 @@
 #include "console/site/failure.h"
 #include "platform/base/atomic_write.h"
 #include "platform/base/base64.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace site {
@@ -100,7 +101,7 @@ std::optional<LaboratoryChanges> RememberedLaboratory() {
   if (!platform::ReadWholeFile(FileName(), bytes))
     throw Failure(kStoreFailure, platform::SystemError("read", FileName()).text);
   try {
-    return ToChanges(Json::parse(bytes));
+    return ToChanges(platform::ParseJsonObject<Json>(bytes));
   } catch (const Json::exception&) {
     Damaged();
   }

@@ -8,6 +8,7 @@
 
 #include "console/site/failure.h"
 #include "platform/base/atomic_write.h"
+#include "platform/base/json_object.h"
 #include "platform/base/paths.h"
 
 namespace site {
@@ -51,8 +52,9 @@ void Remove() {
 
 /// The alert server works by its defaults where the file is no object.
 Json ToObject(const std::optional<std::string>& bytes) {
-  Json object = Json::parse(bytes.value_or("{}"), nullptr, false);
-  return object.is_object() ? object : Json::object();
+  Json object = platform::ParseJsonObject<Json>(bytes.value_or("{}"));
+  if (!object.is_object()) return Json::object();
+  return object;
 }
 
 /// The value at a place, or null; also where something on the way there is no object.
@@ -105,7 +107,7 @@ void PutSettingsBack(const ChangedSettings& settings, std::vector<std::string>& 
   const auto now = ReadSettingsFile(mode);
   if (now == settings.before) return;
   if (now == settings.during) return settings.before ? Write(*settings.before, settings.mode) : Remove();
-  Json edited = Json::parse(now.value_or(""), nullptr, false);
+  Json edited = platform::ParseJsonObject<Json>(now.value_or(""));
   if (!edited.is_object()) {
     left.emplace_back(now ? "alertserver.json, which somebody changed to what is no settings"
                           : "alertserver.json, which somebody removed");

@@ -255,6 +255,18 @@ TEST_F(LaboratoryTest, WhatSomebodyChoseMeanwhileStays) {
                                         "smtpPort": 25, "mailTls": "verified"})"));
 }
 
+/// Writing such settings again would take more stack than there is.
+TEST_F(LaboratoryTest, SettingsThatAreNestedWithoutEndGiveWayAndComeBackAsTheyWere) {
+  std::string nested;
+  for (int level = 0; level < 200'000; ++level) nested += "{\"a\":";
+  WriteFile("alertserver.json", nested + "1" + std::string(200'000, '}'));
+  const std::string before = Everything();
+  laboratory_.Start();
+  EXPECT_THAT(Settings(), testing::SizeIs(3));
+  EXPECT_THAT(laboratory_.Stop(), IsEmpty());
+  EXPECT_TRUE(Everything() == before);
+}
+
 TEST_F(LaboratoryTest, AModemThatAnotherServiceUsesByThenIsKept) {
   laboratory_.Start();
   const auto modem = First<CAlertSERV_MODEMDB>();
